@@ -1,0 +1,23 @@
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network WebSockets OpenGL OpenGLWidgets)
+find_package(OpenSSL 3 REQUIRED COMPONENTS Crypto)
+find_package(spdlog REQUIRED)
+find_package(nlohmann_json 3.11 REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(AOM REQUIRED IMPORTED_TARGET aom)
+pkg_check_modules(DAV1D REQUIRED IMPORTED_TARGET dav1d)
+
+if(CORVANE_PLATFORM STREQUAL "linux")
+    pkg_check_modules(XCB REQUIRED IMPORTED_TARGET
+        xcb xcb-shm xcb-xfixes xcb-damage xcb-randr xcb-xtest)
+endif()
+
+if(CORVANE_BUILD_TESTS OR CORVANE_BUILD_BENCHMARKS)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS HttpServer)
+endif()
+if(CORVANE_BUILD_TESTS)
+    find_package(GTest REQUIRED)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+endif()
+if(CORVANE_BUILD_BENCHMARKS)
+    find_package(benchmark REQUIRED)
+endif()

@@ -1,0 +1,24 @@
+# Warnings, sanitizers and include path that every target of ours shares.
+add_library(corvane_options INTERFACE)
+target_compile_options(corvane_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_compile_definitions(corvane_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
+if(CORVANE_SANITIZE)
+    target_compile_options(corvane_options INTERFACE
+        -fsanitize=${CORVANE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(corvane_options INTERFACE -fsanitize=${CORVANE_SANITIZE})
+endif()
+
+# corvane_add_layer(<name> SOURCES ... [PLATFORM_SOURCES ...] [LINK ...])
+#
+# One static library per folder. A layer's only public include path is its own folder, so a header
+# is reachable exactly where its library is linked: the link graph is the layering.
+# PLATFORM_SOURCES are looked up in the windows/ or linux/ folder of the layer.
+function(corvane_add_layer name)
+    cmake_parse_arguments(LAYER "" "" "SOURCES;PLATFORM_SOURCES;LINK" ${ARGN})
+    list(TRANSFORM LAYER_PLATFORM_SOURCES PREPEND "${CORVANE_PLATFORM}/")
+    add_library(${name} STATIC ${LAYER_SOURCES} ${LAYER_PLATFORM_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC ${LAYER_LINK} PRIVATE corvane_options)
+endfunction()

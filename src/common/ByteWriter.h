@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ByteVector.h"
+
+#include <concepts>
+#include <cstddef>
+
+namespace corvane {
+
+/// Appends little-endian fields to a byte buffer.
+class ByteWriter {
+public:
+    /// `capacity`: bytes to reserve up front.
+    explicit ByteWriter(size_t capacity = 0) { m_bytes.reserve(capacity); }
+
+    template <std::unsigned_integral T>
+    void integer(T value) {
+        unsignedInteger(value, sizeof(T));
+    }
+
+    /// Eight bytes, IEEE 754 binary64.
+    void binary64(double value);
+
+    void bytes(ByteSpan data) { m_bytes.insert(m_bytes.end(), data.begin(), data.end()); }
+
+    /// Hands the buffer over and leaves the writer empty.
+    ByteVector take() { return std::move(m_bytes); }
+
+private:
+    void unsignedInteger(uint64_t value, size_t width);
+
+    ByteVector m_bytes;
+};
+
+} // namespace corvane

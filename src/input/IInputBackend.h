@@ -1,0 +1,24 @@
+#pragma once
+
+#include "InputEvent.h"
+
+#include <memory>
+
+namespace corvane {
+
+/// Turns events into input of this machine. Main thread only.
+class IInputBackend {
+public:
+    virtual ~IInputBackend() = default;
+
+    virtual bool initialize() = 0;
+    virtual void shutdown() = 0;
+
+    /// True when the operating system accepted the event; failures are logged.
+    virtual bool injectEvent(const InputEvent& event) = 0;
+};
+
+/// The platform's backend, not yet initialised.
+std::unique_ptr<IInputBackend> createInputBackend();
+
+} // namespace corvane

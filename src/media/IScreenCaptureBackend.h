@@ -1,0 +1,33 @@
+#pragma once
+
+#include "CapturedFrame.h"
+#include "MonitorInfo.h"
+
+#include <memory>
+#include <vector>
+
+namespace corvane {
+
+/// One way of reading the screen. Initialised by its creator on the main thread, then used by the
+/// capture thread alone until that thread has ended. Failures are logged and reported by result.
+class IScreenCaptureBackend {
+public:
+    virtual ~IScreenCaptureBackend() = default;
+
+    /// Starts capturing the monitor at `monitorIndex` of `monitors()`, releasing what an earlier
+    /// call holds.
+    virtual bool initialize(int monitorIndex) = 0;
+
+    virtual void shutdown() = 0;
+
+    /// The current image, or null when nothing changed since the last call or capture failed.
+    virtual std::unique_ptr<CapturedFrame> captureFrame() = 0;
+
+    virtual std::vector<MonitorInfo> monitors() = 0;
+    virtual MonitorInfo currentMonitor() const = 0;
+
+    /// False before `initialize` and once the screen has been lost.
+    virtual bool isInitialized() const = 0;
+};
+
+} // namespace corvane

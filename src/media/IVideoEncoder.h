@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ByteVector.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace corvane {
+
+struct EncoderConfig {
+    int32_t width = 1920;
+    int32_t height = 1080;
+    int32_t fps = 10;              ///< frames per second; the time base is 1 / fps
+    int32_t bitrateKbps = 500;     ///< kbit/s
+    int32_t keyframeInterval = 60; ///< largest distance between key frames, in frames
+    int32_t cqLevel = 45;          ///< constant-quality level, 0 (best) to 63
+    std::string speedPreset = "8"; ///< a number or a preset name
+    std::string profile;           ///< carried along, read by no encoder yet
+};
+
+struct EncodedPacket {
+    ByteVector data;
+    uint64_t timestamp = 0; ///< as given to `encode`
+    bool isKeyframe = false;
+    int64_t pts = 0; ///< frame counter of the encoder
+    int64_t dts = 0;
+};
+
+/// Compresses NV12 frames. Not thread-safe: one thread at a time.
+class IVideoEncoder {
+public:
+    virtual ~IVideoEncoder() = default;
+
+    /// Opens the encoder afresh; false leaves it closed.
+    virtual bool initialize(const EncoderConfig& config) = 0;
+
+    virtual void shutdown() = 0;
+
+    /// `nv12` holds a full-range luma plane of `width * height` bytes and behind it `height / 2`
+    /// rows of `width` interleaved Cb, Cr bytes. Null when no packet came out.
+    virtual std::unique_ptr<EncodedPacket> encode(const uint8_t* nv12, int width, int height,
+                                                  uint64_t timestamp, bool forceKeyframe) = 0;
+
+    virtual bool isInitialized() const = 0;
+    virtual void updateBitrate(int kbps) = 0;
+
+    /// Width and height of the last `initialize`, pixels.
+    virtual std::pair<int32_t, int32_t> configuredSize() const = 0;
+};
+
+} // namespace corvane

@@ -1,0 +1,24 @@
+#include "XvfbServer.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    if (GTEST_FLAG_GET(list_tests)) {
+        return RUN_ALL_TESTS();
+    }
+    const corvane::test::XvfbServer display;
+    if (!display.isRunning()) {
+        std::fputs("Xvfb did not start\n", stderr);
+        return 1;
+    }
+    display.use();
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
