@@ -1,7 +1,6 @@
 #include "ServerFixture.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -99,7 +98,7 @@ TEST_F(Misbehaving, HostileBytesNeitherCrashNorFillTheServer) {
     }
     const auto client = connectSignaling(m_server.registerDevice());
     client->socket->sendTextMessage(QString(2'000'000, u'x'));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_server.isOnline(client->device.clientId); }));
+    EXPECT_TRUE(waitUntil([&] { return !m_server.isOnline(client->device.clientId); }));
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 #include "ServerFixture.h"
 
-#include <QCryptographicHash>
+#include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -14,29 +13,27 @@ constexpr qint64 kMebibyte = 1024 * 1024;
 class Relay : public ServerFixture {
 protected:
     bool waitForPair(const QString& sessionId) {
-        return QTest::qWaitFor([&] { return m_server.relay().joinedPeers(sessionId) == 2; });
+        return waitUntil([&] { return m_server.relay().joinedPeers(sessionId) == 2; });
     }
 
     static bool arrived(QTcpSocket& socket, qint64 bytes) {
-        return QTest::qWaitFor([&] { return socket.bytesAvailable() >= bytes; }, 20'000);
+        return waitUntil([&] { return socket.bytesAvailable() >= bytes; });
     }
 
     static bool closed(QTcpSocket& socket) {
-        return QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::UnconnectedState; });
+        return waitUntil([&] { return socket.state() == QAbstractSocket::UnconnectedState; });
     }
 
     /// Runs the event loop until the relay has forwarded nothing for a while.
     void waitForStandstill() {
         qint64 last = -1;
         QDeadlineTimer quiet;
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] {
-                if (std::exchange(last, m_server.relay().bytesForwarded()) != last) {
-                    quiet.setRemainingTime(200);
-                }
-                return quiet.hasExpired();
-            },
-            20'000));
+        EXPECT_TRUE(waitUntil([&] {
+            if (std::exchange(last, m_server.relay().bytesForwarded()) != last) {
+                quiet.setRemainingTime(200);
+            }
+            return quiet.hasExpired();
+        }));
     }
 };
 
@@ -53,7 +50,7 @@ TEST_F(Relay, FramesReachThePartnerUnchangedAndNobodyElse) {
     for (qsizetype split : {1, 7, 12, 200'000}) {
         other->write(frames.left(split));
         other->flush();
-        QTest::qWait(1);
+        QCoreApplication::processEvents();
         other->write(frames.mid(split));
         ASSERT_TRUE(arrived(*one, frames.size()));
         EXPECT_EQ(one->readAll(), frames);
@@ -110,7 +107,7 @@ TEST_F(Relay, WhatIsNoFrameEndsTheConnection) {
         EXPECT_TRUE(closed(*partner)) << header;
         EXPECT_EQ(partner->readAll(), good);
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return m_server.relay().connections() == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return m_server.relay().connections() == 0; }));
 }
 
 TEST_F(Relay, AStalledReaderSlowsTheSenderInsteadOfFillingMemory) {
@@ -118,36 +115,23 @@ TEST_F(Relay, AStalledReaderSlowsTheSenderInsteadOfFillingMemory) {
     const auto reader = joinRelay(u"a"_s);
     reader->setReadBufferSize(kMebibyte);
     ASSERT_TRUE(waitForPair(u"a"_s));
-    QByteArray payload(16 * kMebibyte, Qt::Uninitialized);
-    for (qsizetype i = 0; i < payload.size(); ++i) {
-        payload[i] = static_cast<char>(i % 251);
-    }
-    const QByteArray frame = relayFrame(1, payload);
-    constexpr int kFrames = 4;
-    QCryptographicHash expected(QCryptographicHash::Sha1);
-    QCryptographicHash received(QCryptographicHash::Sha1);
-    for (int i = 0; i < kFrames; ++i) {
-        sender->write(frame);
-        expected.addData(frame);
-    }
+    const QByteArray frames =
+        relayFrame(1, QByteArray("0123456789abcdef").repeated(kMebibyte)).repeated(3);
+    sender->write(frames);
     waitForStandstill();
-    EXPECT_LT(m_server.relay().bytesForwarded(), 24 * kMebibyte);
-    EXPECT_GT(sender->bytesToWrite(), 24 * kMebibyte);
+    EXPECT_LT(m_server.relay().bytesForwarded(), 20 * kMebibyte);
+    EXPECT_GT(sender->bytesToWrite(), 20 * kMebibyte);
 
     const auto back = relayFrame(0, "still alive");
     reader->write(back);
     EXPECT_TRUE(arrived(*sender, back.size()));
 
-    qint64 total = 0;
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            const QByteArray bytes = reader->readAll();
-            received.addData(bytes);
-            total += bytes.size();
-            return total == kFrames * frame.size();
-        },
-        20'000));
-    EXPECT_EQ(received.result(), expected.result());
+    QByteArray received;
+    EXPECT_TRUE(waitUntil([&] {
+        received += reader->readAll();
+        return received.size() >= frames.size();
+    }));
+    EXPECT_TRUE(received == frames);
 }
 
 TEST_F(Relay, CanStallDropAndRefuseOnDemand) {
@@ -172,7 +156,7 @@ TEST_F(Relay, CanStallDropAndRefuseOnDemand) {
     EXPECT_TRUE(closed(*two));
     ASSERT_TRUE(m_server.relay().acceptConnections());
     const auto back = joinRelay(u"a"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return m_server.relay().joinedPeers(u"a"_s) == 1; }));
+    EXPECT_TRUE(waitUntil([&] { return m_server.relay().joinedPeers(u"a"_s) == 1; }));
     EXPECT_EQ(m_server.relay().acceptedConnections(), 3);
 }
 

@@ -1,8 +1,9 @@
 #include "ServerFixture.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QNetworkReply>
-#include <QSignalSpy>
-#include <QTest>
+#include <QTimer>
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
@@ -30,8 +31,7 @@ HttpResult ServerFixture::call(const QByteArray& method, const QString& path,
     }
     const std::unique_ptr<QNetworkReply> reply(
         m_network.sendCustomRequest(request, method, compactJson(body)));
-    QSignalSpy finished(reply.get(), &QNetworkReply::finished);
-    EXPECT_TRUE(reply->isFinished() || finished.wait());
+    EXPECT_TRUE(waitUntil([&] { return reply->isFinished(); }));
     return {reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->readAll()};
 }
 
@@ -48,7 +48,7 @@ std::unique_ptr<Partner> ServerFixture::connectSignaling(const Device& device) {
     url.setScheme(u"ws"_s);
     url.setPath(u"/ws/clients/"_s + device.clientId);
     partner->socket->open(url);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !partner->pushed.isEmpty(); }));
+    EXPECT_TRUE(waitUntil([&] { return !partner->pushed.isEmpty(); }));
     return partner;
 }
 
@@ -56,7 +56,7 @@ std::unique_ptr<Partner> ServerFixture::onlineDevice() {
     auto partner = connectSignaling(m_server.registerDevice());
     partner->send({{u"type"_s, u"SET_PASSWORD"_s}, {u"password"_s, u"Password1"_s}});
     partner->send({{u"type"_s, u"SET_PAIRING_CODE"_s}, {u"code"_s, u"123456"_s}});
-    EXPECT_TRUE(QTest::qWaitFor(
+    EXPECT_TRUE(waitUntil(
         [&] { return m_server.signalingMessages(partner->device.clientId).size() == 3; }));
     partner->pushed.clear();
     return partner;
@@ -79,6 +79,19 @@ std::unique_ptr<QTcpSocket> ServerFixture::joinRelay(const QString& sessionId) {
     socket->write(
         relayFrame(0, compactJson({{u"session_id"_s, sessionId}, {u"type"_s, u"relay_join"_s}})));
     return socket;
+}
+
+bool waitUntil(const std::function<bool()>& holds) {
+    QTimer tick;
+    tick.start(20);
+    const QDeadlineTimer deadline(20'000);
+    while (!holds()) {
+        if (deadline.hasExpired()) {
+            return false;
+        }
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
 }
 
 QByteArray relayFrame(char channel, const QByteArray& payload) {

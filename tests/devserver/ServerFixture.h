@@ -7,6 +7,7 @@
 #include <QWebSocket>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 namespace corvane::devserver {
@@ -52,6 +53,9 @@ protected:
     DevServer m_server;
     QNetworkAccessManager m_network;
 };
+
+/// Runs the event loop until `holds` does; false when that takes 20 seconds.
+bool waitUntil(const std::function<bool()>& holds);
 
 QByteArray relayFrame(char channel, const QByteArray& payload);
 

@@ -1,7 +1,6 @@
 #include "ServerFixture.h"
 
 #include <QNetworkDatagram>
-#include <QTest>
 #include <QUdpSocket>
 
 using namespace Qt::StringLiterals;
@@ -78,7 +77,7 @@ TEST_F(RestSessions, ASessionRunsFromCreationToCloseForItsTwoSidesOnly) {
     EXPECT_EQ(created.json()["state"_L1], u"pending"_s);
     const QString id = created.json()["session_id"_L1].toString();
 
-    ASSERT_TRUE(QTest::qWaitFor([&] { return target->pushed.size() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return target->pushed.size() == 1; }));
     EXPECT_EQ(target->pushed[0], (QJsonObject{{u"type"_s, u"SESSION_AUTO_ACCEPT"_s},
                                               {u"session_id"_s, id},
                                               {u"master_client_id"_s, master->device.clientId},
@@ -94,7 +93,7 @@ TEST_F(RestSessions, ASessionRunsFromCreationToCloseForItsTwoSidesOnly) {
     };
     EXPECT_EQ(step("POST", u"handshake-ack"_s, *master, id), u"403"_s);
     EXPECT_EQ(step("POST", u"handshake-ack"_s, *target, id), u"handshaking"_s);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return master->pushed.size() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return master->pushed.size() == 1; }));
     EXPECT_EQ(master->pushed[0], (QJsonObject{{u"type"_s, u"SESSION_HANDSHAKE_ACK"_s},
                                               {u"session_id"_s, id},
                                               {u"state"_s, u"handshaking"_s},
@@ -114,7 +113,7 @@ TEST_F(RestSessions, ThePairingCodeAsksTheTargetsUser) {
     const HttpResult one = createSession(*first, target->device.clientId, u"123456"_s);
     const HttpResult two = createSession(*second, target->device.clientId, u"123456"_s);
     EXPECT_NE(one.json()["session_id"_L1], two.json()["session_id"_L1]);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return target->pushed.size() == 2; }));
+    ASSERT_TRUE(waitUntil([&] { return target->pushed.size() == 2; }));
     EXPECT_EQ(target->pushed[0], (QJsonObject{{u"type"_s, u"SESSION_HANDSHAKE_REQUEST"_s},
                                               {u"session_id"_s, one.json()["session_id"_L1]},
                                               {u"master_client_id"_s, first->device.clientId},
@@ -133,7 +132,7 @@ TEST_F(RestSessions, PublicPagesAndStunTellTheCallersAddress) {
     socket.writeDatagram("too short", m_server.address(), m_server.stunPort());
     socket.writeDatagram(QByteArray::fromHex("000100002112a442") + transaction, m_server.address(),
                          m_server.stunPort());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return socket.hasPendingDatagrams(); }));
+    ASSERT_TRUE(waitUntil([&] { return socket.hasPendingDatagrams(); }));
     const quint16 port = socket.localPort() ^ 0x2112;
     EXPECT_EQ(socket.receiveDatagram().data(),
               QByteArray::fromHex("0101000c2112a442") + transaction +

@@ -1,7 +1,5 @@
 #include "ServerFixture.h"
 
-#include <QTest>
-
 using namespace Qt::StringLiterals;
 
 namespace corvane::devserver {
@@ -20,15 +18,15 @@ TEST_F(Signaling, OnlyADevicesOwnTokenBringsItOnline) {
     const auto first = connectSignaling(device);
     EXPECT_EQ(first->pushed[0]["type"_L1], u"AUTH_OK"_s);
     const auto second = connectSignaling(device);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return first->socket->state() == QAbstractSocket::UnconnectedState; }));
+    EXPECT_TRUE(
+        waitUntil([&] { return first->socket->state() == QAbstractSocket::UnconnectedState; }));
     EXPECT_TRUE(m_server.isOnline(device.clientId));
     m_server.pushText(device.clientId, u"{\"type\":\"HELLO\"}"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return second->pushed.size() == 2; }));
+    EXPECT_TRUE(waitUntil([&] { return second->pushed.size() == 2; }));
 
     m_server.dropSignaling(device.clientId);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return second->socket->state() == QAbstractSocket::UnconnectedState; }));
+    EXPECT_TRUE(
+        waitUntil([&] { return second->socket->state() == QAbstractSocket::UnconnectedState; }));
     EXPECT_FALSE(m_server.isOnline(device.clientId));
 }
 
@@ -39,7 +37,7 @@ TEST_F(Signaling, IceMessagesPassBetweenTheTwoSidesOfTheirSessionOnly) {
     const QString id = createSession(*master, target->device.clientId, u"Password1"_s)
                            .json()["session_id"_L1]
                            .toString();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return target->pushed.size() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return target->pushed.size() == 1; }));
     target->pushed.clear();
 
     const auto message = [&](const QString& type, const QString& session, const Partner& to) {
@@ -61,7 +59,7 @@ TEST_F(Signaling, IceMessagesPassBetweenTheTwoSidesOfTheirSessionOnly) {
     target->send(message(u"ICE_ANSWER"_s, id, *master));
 
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return target->pushed.size() == 2 && master->pushed.size() == 1; }));
+        waitUntil([&] { return target->pushed.size() == 2 && master->pushed.size() == 1; }));
     const auto forwarded = [&](const QString& type, const Partner& from) {
         return QJsonObject{
             {u"type"_s, type}, {u"session_id"_s, id}, {u"from_client_id"_s, from.device.clientId}};
