@@ -213,8 +213,8 @@ QNetworkRequest ApiClient::request(const QString& path, Authorization authorizat
 }
 
 void ApiClient::awaitAnswer(QNetworkReply* reply, AnswerHandler handler) {
-    connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received) {
-        if (received > kMaxAnswerBytes) {
+    connect(reply, &QNetworkReply::readyRead, reply, [reply] {
+        if (reply->bytesAvailable() > kMaxAnswerBytes) {
             reply->abort();
         }
     });
