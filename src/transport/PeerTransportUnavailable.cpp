@@ -1,0 +1,9 @@
+#include "IPeerTransport.h"
+
+namespace corvane {
+
+std::unique_ptr<IPeerTransport> createPeerTransport() {
+    return nullptr;
+}
+
+} // namespace corvane

@@ -1,0 +1,218 @@
+#include "RelayTransport.h"
+
+#include "JsonFields.h"
+
+#include <QPointer>
+#include <spdlog/spdlog.h>
+
+#include <array>
+
+namespace corvane {
+
+namespace {
+
+// What the socket holds back for us: a handler that stalls stalls the sender, not our memory.
+constexpr qint64 kSocketReadBuffer = 1024 * 1024;
+constexpr size_t kReadPiece = 64 * 1024;
+
+const uint8_t* bytesOf(const std::string& text) {
+    return reinterpret_cast<const uint8_t*>(text.data());
+}
+
+} // namespace
+
+RelayTransport::RelayTransport(QObject* parent, std::chrono::milliseconds reconnectDelay)
+    : ITransport(parent), m_reconnectDelay(reconnectDelay) {
+    m_socket.setReadBufferSize(kSocketReadBuffer);
+    m_reconnectTimer.setSingleShot(true);
+    QObject::connect(&m_socket, &QTcpSocket::connected, this, &RelayTransport::onSocketConnected);
+    QObject::connect(&m_socket, &QTcpSocket::disconnected, this,
+                     &RelayTransport::onSocketDisconnected);
+    QObject::connect(&m_socket, &QTcpSocket::readyRead, this, &RelayTransport::onSocketReadyRead);
+    QObject::connect(&m_socket, &QTcpSocket::errorOccurred, this, &RelayTransport::onSocketError);
+    QObject::connect(&m_reconnectTimer, &QTimer::timeout, this, &RelayTransport::attemptReconnect);
+}
+
+RelayTransport::~RelayTransport() {
+    m_stopped = true;
+    m_reconnectTimer.stop();
+    m_socket.QObject::disconnect(this);
+    if (m_socket.state() != QAbstractSocket::UnconnectedState) {
+        m_socket.abort();
+    }
+}
+
+bool RelayTransport::connect(const std::string& host, uint16_t port) {
+    if (m_socket.state() != QAbstractSocket::UnconnectedState) {
+        spdlog::warn("RelayTransport::connect called while socket is in state {}",
+                     static_cast<int>(m_socket.state()));
+        return false;
+    }
+    m_reconnectTimer.stop();
+    m_host = host;
+    m_port = port;
+    m_reconnectAttempts = 0;
+    m_stopped = false;
+    spdlog::info("RelayTransport: connecting to {}:{}", m_host, m_port);
+    openSocket();
+    return true;
+}
+
+void RelayTransport::disconnect() {
+    m_stopped = true;
+    m_reconnectTimer.stop();
+    m_reconnectAttempts = kMaxReconnectAttempts;
+    if (m_socket.state() == QAbstractSocket::UnconnectedState) {
+        return;
+    }
+    spdlog::info("RelayTransport: disconnecting from {}:{}", m_host, m_port);
+    m_socket.disconnectFromHost();
+    if (m_socket.state() != QAbstractSocket::UnconnectedState) {
+        m_socket.abort();
+    }
+}
+
+bool RelayTransport::isConnected() const {
+    return m_socket.state() == QAbstractSocket::ConnectedState;
+}
+
+bool RelayTransport::send(ChannelType channel, const uint8_t* data, size_t size) {
+    if (!isConnected()) {
+        spdlog::warn("RelayTransport::send: not connected");
+        return false;
+    }
+    if (size > kRelayMaxPayload) {
+        spdlog::error("RelayTransport::send: payload too large ({} > {})", size, kRelayMaxPayload);
+        return false;
+    }
+    const QByteArray frame = relayFrame(channel, data, size);
+    const qint64 written = m_socket.write(frame);
+    if (written != frame.size()) {
+        spdlog::error("RelayTransport::send: write failed, wrote {}/{} bytes", written,
+                      frame.size());
+        return false;
+    }
+    return true;
+}
+
+void RelayTransport::onSocketConnected() {
+    spdlog::info("RelayTransport: connected to {}:{}", m_host, m_port);
+    m_reconnectAttempts = 0;
+    clearReceived();
+    // Video latency matters more than packet count.
+    m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    sendJoin();
+    Q_EMIT connected();
+}
+
+void RelayTransport::onSocketDisconnected() {
+    spdlog::info("RelayTransport: disconnected from {}:{}", m_host, m_port);
+    clearReceived();
+    Q_EMIT disconnected();
+    scheduleReconnect();
+}
+
+void RelayTransport::onSocketReadyRead() {
+    std::array<char, kReadPiece> piece;
+    qint64 count = 0;
+    do {
+        count = m_socket.read(piece.data(), piece.size());
+        if (count <= 0) {
+            return;
+        }
+    } while (deliverFrames(
+        {reinterpret_cast<const uint8_t*>(piece.data()), static_cast<size_t>(count)}));
+}
+
+void RelayTransport::onSocketError(QAbstractSocket::SocketError error) {
+    const QString text = m_socket.errorString();
+    spdlog::error("RelayTransport: socket error ({}): {}", static_cast<int>(error),
+                  text.toStdString());
+    if (error != QAbstractSocket::RemoteHostClosedError) {
+        Q_EMIT transportError(text);
+    }
+    // A link that was up still reports `disconnected`; an attempt that failed reports only this.
+    scheduleReconnect();
+}
+
+void RelayTransport::attemptReconnect() {
+    ++m_reconnectAttempts;
+    if (m_socket.state() != QAbstractSocket::UnconnectedState) {
+        m_socket.abort();
+    }
+    spdlog::info("RelayTransport: reconnect attempt {}/{} to {}:{}", m_reconnectAttempts,
+                 kMaxReconnectAttempts, m_host, m_port);
+    openSocket();
+}
+
+void RelayTransport::openSocket() {
+    clearReceived();
+    m_socket.connectToHost(QString::fromStdString(m_host), m_port, QIODevice::ReadWrite,
+                           QAbstractSocket::AnyIPProtocol);
+}
+
+void RelayTransport::sendJoin() {
+    if (m_sessionId.isEmpty()) {
+        spdlog::warn("RelayTransport: no session ID set, skipping relay_join");
+        return;
+    }
+    const std::string sessionId = m_sessionId.toStdString();
+    const std::string join = jsonText({{"type", "relay_join"}, {"session_id", sessionId}});
+    spdlog::debug("RelayTransport: sending relay_join for session {}", sessionId);
+    m_socket.write(relayFrame(ChannelType::Control, bytesOf(join), join.size()));
+}
+
+/// False when reading must stop: the stream was refused or a handler ended the connection.
+bool RelayTransport::deliverFrames(ByteSpan received) {
+    const QPointer<RelayTransport> self(this);
+    const uint64_t epoch = m_receiveEpoch;
+    while (!received.empty()) {
+        switch (m_parser.consume(received)) {
+        case RelayFrameParser::Result::NeedMoreData:
+            break;
+        case RelayFrameParser::Result::FrameReady:
+            Q_EMIT dataReceived(m_parser.channel(), m_parser.takePayload());
+            if (!self || m_receiveEpoch != epoch) {
+                return false;
+            }
+            break;
+        case RelayFrameParser::Result::InvalidChannel:
+            spdlog::error("RelayTransport: invalid channel type {}, resetting buffer",
+                          m_parser.channelByte());
+            refuseStream(QStringLiteral("Invalid channel type in frame header"));
+            return false;
+        case RelayFrameParser::Result::PayloadTooLarge:
+            spdlog::error("RelayTransport: payload length {} exceeds maximum {}",
+                          m_parser.payloadSize(), kRelayMaxPayload);
+            refuseStream(QStringLiteral("Frame payload exceeds maximum size"));
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The link stays up on purpose: the stream starts afresh with the next bytes received.
+void RelayTransport::refuseStream(const QString& reason) {
+    m_socket.skip(m_socket.bytesAvailable());
+    clearReceived();
+    Q_EMIT transportError(reason);
+}
+
+void RelayTransport::clearReceived() {
+    m_parser.reset();
+    ++m_receiveEpoch;
+}
+
+/// Does nothing while the socket is still up or on its way.
+void RelayTransport::scheduleReconnect() {
+    if (m_stopped || m_reconnectAttempts >= kMaxReconnectAttempts || m_reconnectTimer.isActive() ||
+        m_socket.state() != QAbstractSocket::UnconnectedState) {
+        return;
+    }
+    const auto delay = m_reconnectDelay * (1 << m_reconnectAttempts);
+    spdlog::info("RelayTransport: reconnecting in {} ms (attempt {}/{})", delay.count(),
+                 m_reconnectAttempts + 1, kMaxReconnectAttempts);
+    m_reconnectTimer.start(delay);
+}
+
+} // namespace corvane

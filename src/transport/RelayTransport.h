@@ -1,0 +1,67 @@
+#pragma once
+
+#include "ByteVector.h"
+#include "ITransport.h"
+#include "RelayFrameParser.h"
+
+#include <QAbstractSocket>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <chrono>
+
+namespace corvane {
+
+/// Carries the session through a relay node that pairs the two peers by session ID and forwards
+/// their frames.
+///
+/// Set the session ID, `connect`, wait for `connected`, `send`, `disconnect`. A link that fails or
+/// drops is tried again by itself, up to three times after each success; every new link joins the
+/// session again and emits `connected` again.
+class RelayTransport : public ITransport {
+    Q_OBJECT
+
+public:
+    static constexpr int kMaxReconnectAttempts = 3;
+    static constexpr std::chrono::milliseconds kReconnectDelay{1000};
+
+    /// `reconnectDelay`: wait before the first further attempt; it doubles with each one.
+    explicit RelayTransport(QObject* parent = nullptr,
+                            std::chrono::milliseconds reconnectDelay = kReconnectDelay);
+    ~RelayTransport() override;
+
+    void setSessionId(const QString& sessionId) { m_sessionId = sessionId; }
+
+    bool connect(const std::string& host, uint16_t port) override;
+    void disconnect() override;
+    bool isConnected() const override;
+    bool send(ChannelType channel, const uint8_t* data, size_t size) override;
+
+private Q_SLOTS:
+    void onSocketConnected();
+    void onSocketDisconnected();
+    void onSocketReadyRead();
+    void onSocketError(QAbstractSocket::SocketError error);
+    void attemptReconnect();
+
+private:
+    void openSocket();
+    void sendJoin();
+    bool deliverFrames(ByteSpan received);
+    void refuseStream(const QString& reason);
+    void clearReceived();
+    void scheduleReconnect();
+
+    QTcpSocket m_socket;
+    QTimer m_reconnectTimer;
+    RelayFrameParser m_parser;
+    QString m_sessionId;
+    std::string m_host;
+    uint16_t m_port = 0;
+    int32_t m_reconnectAttempts = 0;
+    bool m_stopped = false;
+    const std::chrono::milliseconds m_reconnectDelay;
+    uint64_t m_receiveEpoch = 0; ///< changes whenever bytes received so far lose their meaning
+};
+
+} // namespace corvane
