@@ -16,6 +16,10 @@ constexpr int kNoMonitor = -1;
 constexpr int kLowestFps = 1;
 constexpr int kHighestFps = 120;
 
+struct Termination : QThread {
+    using QThread::setTerminationEnabled;
+};
+
 } // namespace
 
 ScreenCaptureManager::ScreenCaptureManager(std::unique_ptr<IScreenCaptureBackend> backend,
@@ -97,6 +101,8 @@ void ScreenCaptureManager::requestKeyframe() {
 
 void ScreenCaptureManager::captureLoop() {
     spdlog::debug("ScreenCaptureManager: capture loop entered");
+    // Off while `started` is being emitted, but this call lasts as long as the thread.
+    Termination::setTerminationEnabled(true);
     m_recoveryDelay = m_timings.firstRecoveryDelay;
     while (m_running) {
         if (!captureRound()) {
