@@ -9,9 +9,16 @@ namespace {
 constexpr int kStartTimeoutMs = 20'000;
 }
 
+void endWithParent() {
+    // The child must hear signals that this process keeps from its own threads.
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+}
+
 XvfbServer::XvfbServer(QSize size) {
-    // However this process ends, the server ends with it.
-    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    m_process.setChildProcessModifier(endWithParent);
     m_process.setStandardErrorFile(QProcess::nullDevice());
     m_process.start(
         QStringLiteral("Xvfb"),

@@ -6,6 +6,9 @@
 
 namespace corvane::test {
 
+/// Child process modifier: the child ends when this process ends, however it does.
+void endWithParent();
+
 /// A virtual X display of its own, ended with the object.
 class XvfbServer {
 public:
