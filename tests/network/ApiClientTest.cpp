@@ -1,9 +1,7 @@
 #include "ApiClient.h"
 #include "CannedServer.h"
 #include "DevServerTest.h"
-#include "JsonFields.h"
-
-#include <QSignalSpy>
+#include "SignalLines.h"
 
 #include <functional>
 
@@ -12,47 +10,6 @@ namespace {
 
 using devserver::Reply;
 using namespace Qt::StringLiterals;
-
-/// Notes every signal of a client as one line: its name, then its arguments.
-class SignalLog {
-public:
-    explicit SignalLog(ApiClient& api) {
-        QObject::connect(&api, &ApiClient::autoRegisterSuccess, &api,
-                         [this](const QString& id, const QString& secret, const QString& token) {
-                             add({u"autoRegisterSuccess"_s, id, secret, token});
-                         });
-        QObject::connect(&api, &ApiClient::authSuccess, &api,
-                         [this](const QString& id, const QString& token) {
-                             add({u"authSuccess"_s, id, token});
-                         });
-        QObject::connect(&api, &ApiClient::authError, &api, [this](const QString& error) {
-            add({u"authError"_s, error});
-        });
-        QObject::connect(&api, &ApiClient::heartbeatSent, &api,
-                         [this] { add({u"heartbeatSent"_s}); });
-        QObject::connect(&api, &ApiClient::sessionCreated, &api, [this](const auto& answer) {
-            add({u"sessionCreated"_s, QString::fromStdString(jsonText(answer))});
-        });
-        QObject::connect(&api, &ApiClient::sessionUpdated, &api, [this](const auto& answer) {
-            add({u"sessionUpdated"_s, QString::fromStdString(jsonText(answer))});
-        });
-        QObject::connect(&api, &ApiClient::requestError, &api,
-                         [this](const QString& endpoint, int status, const QString& detail) {
-                             add({u"requestError"_s, endpoint, QString::number(status), detail});
-                         });
-    }
-
-    /// The next signal; "nothing" when none comes.
-    std::string next() {
-        test::eventually([this] { return !m_lines.isEmpty(); });
-        return m_lines.isEmpty() ? "nothing" : m_lines.takeFirst().toStdString();
-    }
-
-private:
-    void add(const QStringList& parts) { m_lines.append(parts.join(QLatin1Char(' '))); }
-
-    QStringList m_lines;
-};
 
 class ApiClientTest : public test::DevServerTest {
 protected:
@@ -66,7 +23,14 @@ protected:
     }
 
     ApiClient m_api;
-    SignalLog m_signals{m_api};
+    test::SignalLines m_signals{m_api,
+                                &ApiClient::autoRegisterSuccess,
+                                &ApiClient::authSuccess,
+                                &ApiClient::authError,
+                                &ApiClient::heartbeatSent,
+                                &ApiClient::sessionCreated,
+                                &ApiClient::sessionUpdated,
+                                &ApiClient::requestError};
 };
 
 void login(ApiClient& api) {
@@ -146,7 +110,7 @@ TEST_F(ApiClientTest, RequestsAreExact) {
 TEST_F(ApiClientTest, RegistrationAndLoginKeepTheIdentity) {
     enroll(m_api);
     const QString registered = QString::fromStdString(m_signals.next());
-    const auto parts = registered.split(QLatin1Char(' '));
+    const auto parts = registered.split(QLatin1Char('|'));
     ASSERT_EQ(parts.size(), 4) << registered.toStdString();
     EXPECT_EQ(m_api.clientId(), parts[1]);
     EXPECT_EQ(m_api.token(), parts[3]);
@@ -155,7 +119,7 @@ TEST_F(ApiClientTest, RegistrationAndLoginKeepTheIdentity) {
     m_api.autoLogin(parts[1], parts[2]);
     const std::string loggedIn = m_signals.next();
     EXPECT_EQ(loggedIn,
-              (u"authSuccess "_s + parts[1] + QLatin1Char(' ') + m_api.token()).toStdString());
+              (u"authSuccess|"_s + parts[1] + QLatin1Char('|') + m_api.token()).toStdString());
     EXPECT_FALSE(m_api.token().isEmpty());
     m_api.sendHeartbeat({}, {}, {});
     EXPECT_EQ(m_signals.next(), "heartbeatSent");
@@ -166,46 +130,46 @@ TEST_F(ApiClientTest, RegistrationAndLoginKeepTheIdentity) {
 }
 
 TEST_F(ApiClientTest, OnlyAProperAnswerWithStatus200IsSuccess) {
-    const std::string loginFailed = "authError Auto-login failed";
-    const std::string createFailed = "requestError /sessions/create ";
+    const std::string loginFailed = "authError|Auto-login failed";
+    const std::string createFailed = "requestError|/sessions/create|";
     const struct {
         Reply reply;
         void (*call)(ApiClient&);
         std::string outcome;
     } cases[] = {
-        {{.body = R"({"client_id":"1","token":"t"})"}, login, "authSuccess 1 t"},
+        {{.body = R"({"client_id":"1","token":"t"})"}, login, "authSuccess|1|t"},
         {{.status = 201, .body = R"({"client_id":"1","token":"t"})"}, login, loginFailed},
         {{.body = R"({"client_id":"1"})"}, login, loginFailed},
         {{.body = R"({"client_id":1,"token":"t"})"}, login, loginFailed},
         {{.body = R"(["client_id","token"])"}, login, loginFailed},
-        {{.body = R"({"detail":"why"})"}, login, "authError why"},
-        {{.status = 401, .body = R"({"detail":"why"})"}, login, "authError why"},
+        {{.body = R"({"detail":"why"})"}, login, "authError|why"},
+        {{.status = 401, .body = R"({"detail":"why"})"}, login, "authError|why"},
         {{.status = 401, .body = R"({"detail":["why"]})"}, login, loginFailed},
         {{.dropConnection = true}, login, loginFailed},
         {{.body = R"({"client_id":"1","token":"t"})"},
          enroll,
-         "authError Auto-registration failed"},
-        {{.status = 500, .body = "<html>"}, enroll, "authError Auto-registration failed"},
+         "authError|Auto-registration failed"},
+        {{.status = 500, .body = "<html>"}, enroll, "authError|Auto-registration failed"},
         {{.body = R"({"session_id":"s","n":1})"},
          create,
-         R"(sessionCreated {"n":1,"session_id":"s"})"},
-        {{.body = ""}, create, "sessionCreated null"},
-        {{.body = "not JSON"}, create, "sessionCreated null"},
-        {{.status = 201, .body = "{}"}, create, createFailed + "201 Session creation failed"},
-        {{.status = 204}, create, createFailed + "204 Session creation failed"},
-        {{.status = 500, .body = "<html>"}, create, createFailed + "500 Session creation failed"},
-        {{.status = 404, .body = R"({"detail":"gone"})"}, create, createFailed + "404 gone"},
-        {{.dropConnection = true}, create, createFailed + "0 Session creation failed"},
-        {{.body = R"({"state":"x"})"}, complete, R"(sessionUpdated {"state":"x"})"},
+         R"(sessionCreated|{"n":1,"session_id":"s"})"},
+        {{.body = ""}, create, "sessionCreated|null"},
+        {{.body = "not JSON"}, create, "sessionCreated|null"},
+        {{.status = 201, .body = "{}"}, create, createFailed + "201|Session creation failed"},
+        {{.status = 204}, create, createFailed + "204|Session creation failed"},
+        {{.status = 500, .body = "<html>"}, create, createFailed + "500|Session creation failed"},
+        {{.status = 404, .body = R"({"detail":"gone"})"}, create, createFailed + "404|gone"},
+        {{.dropConnection = true}, create, createFailed + "0|Session creation failed"},
+        {{.body = R"({"state":"x"})"}, complete, R"(sessionUpdated|{"state":"x"})"},
         {{.status = 409, .body = "{}"},
          complete,
-         "requestError /sessions/.../complete 409 Session complete failed"},
+         "requestError|/sessions/.../complete|409|Session complete failed"},
         {{.status = 403},
          [](ApiClient& api) { api.closeSession(u"s"_s, {}, 0); },
-         "requestError /sessions/.../close 403 Session close failed"},
+         "requestError|/sessions/.../close|403|Session close failed"},
         {{.status = 403},
          [](ApiClient& api) { api.handshakeAck(u"s"_s, {}, {}, {}); },
-         "requestError /sessions/.../handshake-ack 403 Handshake ACK failed"},
+         "requestError|/sessions/.../handshake-ack|403|Handshake ACK failed"},
     };
     for (const auto& expected : cases) {
         EXPECT_EQ(outcome(expected.reply, expected.call), expected.outcome);
@@ -217,9 +181,9 @@ TEST_F(ApiClientTest, OnlyAProperAnswerWithStatus200IsSuccess) {
 TEST_F(ApiClientTest, AnOversizedAnswerIsNoAnswer) {
     const QByteArray padding(5 * 1024 * 1024, ' ');
     EXPECT_EQ(outcome({.body = R"({"client_id":"1","token":"t"})" + padding}, login),
-              "authError Auto-login failed");
+              "authError|Auto-login failed");
     EXPECT_EQ(outcome({.status = 404, .body = R"({"detail":"long"})" + padding}, complete),
-              "requestError /sessions/.../complete 0 Session complete failed");
+              "requestError|/sessions/.../complete|0|Session complete failed");
 }
 
 TEST_F(ApiClientTest, AHeartbeatWithoutTokenIsOnlyLogged) {
@@ -234,19 +198,19 @@ TEST_F(ApiClientTest, OverlappingAnswersFindTheirRequests) {
     m_server.misbehaviour().setReply(u"fast/complete"_s, {.body = "{}"});
     m_api.completeSession(u"slow"_s, {}, {});
     m_api.completeSession(u"fast"_s, {}, {});
-    EXPECT_EQ(m_signals.next(), "sessionUpdated {}");
-    EXPECT_EQ(m_signals.next(), "requestError /sessions/.../complete 500 Session complete failed");
+    EXPECT_EQ(m_signals.next(), "sessionUpdated|{}");
+    EXPECT_EQ(m_signals.next(), "requestError|/sessions/.../complete|500|Session complete failed");
 }
 
 TEST_F(ApiClientTest, ConnectionsThatFailAreStatusZero) {
-    const std::string failed = "requestError /sessions/.../complete 0 Session complete failed";
+    const std::string failed = "requestError|/sessions/.../complete|0|Session complete failed";
     const QUrl deaf = test::deafUrl();
     m_api.setServerUrl(deaf);
     complete(m_api);
     EXPECT_EQ(m_signals.next(), failed);
     EXPECT_FALSE(m_log.contains("Network error"));
     login(m_api);
-    EXPECT_EQ(m_signals.next(), "authError Auto-login failed");
+    EXPECT_EQ(m_signals.next(), "authError|Auto-login failed");
     EXPECT_EQ(m_log.count("error|Network error on POST " + deaf.toString().toStdString() +
                           "/auth/auto-login: Connection refused (1)"),
               1);
@@ -258,7 +222,8 @@ TEST_F(ApiClientTest, ConnectionsThatFailAreStatusZero) {
 
     const test::CannedServer silent;
     ApiClient impatient(nullptr, std::chrono::milliseconds(50));
-    SignalLog signalsOfImpatient(impatient);
+    const auto failure = &ApiClient::requestError;
+    test::SignalLines signalsOfImpatient(impatient, failure);
     impatient.setServerUrl(silent.url());
     complete(impatient);
     EXPECT_EQ(signalsOfImpatient.next(), failed);
@@ -271,7 +236,7 @@ TEST_F(ApiClientTest, RedirectsAreNotFollowed) {
     m_api.setServerUrl(redirecting.url());
     m_api.setToken(u"tok"_s);
     create(m_api);
-    EXPECT_EQ(m_signals.next(), "requestError /sessions/create 307 Session creation failed");
+    EXPECT_EQ(m_signals.next(), "requestError|/sessions/create|307|Session creation failed");
     EXPECT_TRUE(m_server.requests().isEmpty());
 }
 

@@ -1,7 +1,7 @@
 #include "SignalingClient.h"
 #include "CannedServer.h"
 #include "DevServerTest.h"
-#include "JsonFields.h"
+#include "SignalLines.h"
 
 #include <QSignalSpy>
 #include <QWebSocket>
@@ -16,24 +16,8 @@ using namespace Qt::StringLiterals;
 class SignalingClientTest : public test::DevServerTest {
 protected:
     SignalingClientTest() {
-        const auto note = [this](const char* name) {
-            return [this, name](const auto&... arguments) {
-                QStringList line{QString::fromLatin1(name)};
-                (line.append(arguments), ...);
-                m_signals.append(line.join(QLatin1Char('|')));
-            };
-        };
-        QObject::connect(&m_client, &SignalingClient::connected, note("connected"));
-        QObject::connect(&m_client, &SignalingClient::disconnected, note("disconnected"));
         QObject::connect(&m_client, &SignalingClient::messageReceived,
                          [this](const auto& message) { m_messages.push_back(jsonText(message)); });
-        QObject::connect(&m_client, &SignalingClient::sessionHandshakeRequest, note("request"));
-        QObject::connect(&m_client, &SignalingClient::sessionAutoAccept, note("autoAccept"));
-        QObject::connect(&m_client, &SignalingClient::sessionHandshakeAck, note("ack"));
-        QObject::connect(&m_client, &SignalingClient::connectionError, note("error"));
-        QObject::connect(&m_client, &SignalingClient::iceOffer, note("offer"));
-        QObject::connect(&m_client, &SignalingClient::iceAnswer, note("answer"));
-        QObject::connect(&m_client, &SignalingClient::iceCandidate, note("candidate"));
     }
 
     /// Starts connecting to the server as a registered device.
@@ -45,14 +29,7 @@ protected:
 
     bool goOnline() {
         connectClient();
-        return waitFor(u"connected"_s);
-    }
-
-    /// Waits for a signal, given as its line; it and the signals before it are forgotten.
-    bool waitFor(const QString& line) {
-        const bool seen = eventually([&] { return m_signals.contains(line); });
-        m_signals.remove(0, m_signals.indexOf(line) + 1);
-        return seen;
+        return m_signals.waitFor(u"connected"_s);
     }
 
     bool waitForLog(const std::string& line, int count = 1) {
@@ -60,9 +37,18 @@ protected:
     }
 
     const devserver::Device m_device = m_server.registerDevice();
-    QStringList m_signals;
     std::vector<std::string> m_messages;
     SignalingClient m_client;
+    test::SignalLines m_signals{m_client,
+                                &SignalingClient::connected,
+                                &SignalingClient::disconnected,
+                                &SignalingClient::sessionHandshakeRequest,
+                                &SignalingClient::sessionAutoAccept,
+                                &SignalingClient::sessionHandshakeAck,
+                                &SignalingClient::connectionError,
+                                &SignalingClient::iceOffer,
+                                &SignalingClient::iceAnswer,
+                                &SignalingClient::iceCandidate};
 };
 
 const std::string kReconnecting = "info|Reconnecting in 1000 ms (attempt 1/10)";
@@ -100,7 +86,7 @@ TEST_F(SignalingClientTest, ConnectedMeansAuthenticated) {
     EXPECT_TRUE(m_signals.isEmpty());
 
     peer->sendTextMessage(uR"({"type":"AUTH_OK"})"_s);
-    EXPECT_TRUE(waitFor(u"connected"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
     m_client.sendMessage({{"type", "SET_PASSWORD"}, {"password", "pw"}});
     ASSERT_TRUE(received.wait());
     EXPECT_EQ(received.takeFirst().at(0), uR"({"password":"pw","type":"SET_PASSWORD"})"_s);
@@ -115,24 +101,24 @@ TEST_F(SignalingClientTest, EveryMessageTypeBecomesItsSignal) {
         const char *message, *signal;
     } cases[] = {
         {R"({"type":"SESSION_HANDSHAKE_REQUEST","session_id":"s","master_client_id":"m","purpose":"p"})",
-         "request|s|m|p"},
+         "sessionHandshakeRequest|s|m|p"},
         {R"({"type":"SESSION_AUTO_ACCEPT","session_id":"s","master_client_id":"m","master_ecdh_public_key":"k"})",
-         "autoAccept|s|m|k"},
+         "sessionAutoAccept|s|m|k"},
         {R"({"type":"SESSION_HANDSHAKE_ACK","session_id":"s","state":"st","target_ecdh_public_key":"k"})",
-         "ack|s|st|k"},
+         "sessionHandshakeAck|s|st|k"},
         {R"({"type":"ICE_OFFER","session_id":"s","from_client_id":"f","sdp":"v=0"})",
-         "offer|s|f|v=0"},
+         "iceOffer|s|f|v=0"},
         {R"({"type":"ICE_ANSWER","session_id":"s","from_client_id":"f","sdp":"v=0"})",
-         "answer|s|f|v=0"},
+         "iceAnswer|s|f|v=0"},
         {R"({"type":"ICE_CANDIDATE","session_id":"s","from_client_id":"f","candidate":"c","mid":"0"})",
-         "candidate|s|f|c|0"},
+         "iceCandidate|s|f|c|0"},
         {R"({"type":"ICE_CANDIDATE","session_id":"s","from_client_id":5,"candidate":["c"]})",
-         "candidate|s|||"},
+         "iceCandidate|s|||"},
         {R"({"type":"AUTH_OK"})", "connected"},
     };
     for (const auto& expected : cases) {
         m_server.pushText(m_device.clientId, QLatin1String(expected.message));
-        EXPECT_TRUE(waitFor(QLatin1String(expected.signal))) << expected.signal;
+        EXPECT_TRUE(m_signals.waitFor(QLatin1String(expected.signal))) << expected.signal;
         EXPECT_EQ(m_messages.back(), jsonText(parseJson(expected.message)));
     }
     EXPECT_EQ(m_log.count("info|Session auto-accepted: s from m"), 1);
@@ -150,8 +136,7 @@ TEST_F(SignalingClientTest, OddMessagesAreSkipped) {
     m_server.pushText(m_device.clientId, u"{broken"_s);
     m_server.pushText(m_device.clientId, QString(100'000, QLatin1Char('[')));
     m_server.pushText(m_device.clientId, uR"({"type":"AUTH_OK"})"_s);
-    EXPECT_TRUE(eventually([&] { return !m_signals.isEmpty(); }));
-    EXPECT_EQ(m_signals, QStringList{u"connected"_s});
+    EXPECT_EQ(m_signals.next(), "connected");
     EXPECT_EQ(std::vector(m_messages.begin(), m_messages.end() - 1), odd);
     EXPECT_TRUE(m_log.contains("warning|Failed to parse signaling message: [json.exception"));
 }
@@ -159,7 +144,7 @@ TEST_F(SignalingClientTest, OddMessagesAreSkipped) {
 TEST_F(SignalingClientTest, ARejectedTokenStopsReconnecting) {
     m_server.misbehaviour().setRejectAuth(true);
     connectClient();
-    EXPECT_TRUE(waitFor(u"error|Authentication rejected by server"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"connectionError|Authentication rejected by server"_s));
     EXPECT_TRUE(eventually([&] { return !m_client.isConnected(); }));
     EXPECT_TRUE(waitForLog("info|Signaling WebSocket disconnected"));
     EXPECT_EQ(m_log.count("error|Signaling auth rejected by server — not reconnecting"), 1);
@@ -174,16 +159,16 @@ TEST_F(SignalingClientTest, ARejectedTokenStopsReconnecting) {
 TEST_F(SignalingClientTest, ADropIsMendedAfterASecond) {
     ASSERT_TRUE(goOnline());
     m_server.dropSignaling(m_device.clientId);
-    EXPECT_TRUE(waitFor(u"disconnected"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"disconnected"_s));
     EXPECT_EQ(m_log.count(kReconnecting), 1);
-    EXPECT_TRUE(waitFor(u"connected"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
     EXPECT_TRUE(isOnline());
     EXPECT_EQ(m_log.count("info|Attempting reconnect 1/10"), 1);
 }
 
 TEST_F(SignalingClientTest, ServersThatCannotBeReachedAreTriedAgain) {
     m_client.connectToServer(test::deafUrl(), u"1"_s, u"tok"_s);
-    EXPECT_TRUE(waitFor(u"error|Connection refused"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"connectionError|Connection refused"_s));
     EXPECT_TRUE(waitForLog("error|WebSocket error (0): Connection refused"));
     EXPECT_TRUE(waitForLog(kReconnecting, 2)) << "each attempt counts as the first";
 
@@ -225,7 +210,7 @@ TEST_F(SignalingClientTest, ConnectingAgainReplacesTheConnection) {
     ASSERT_TRUE(goOnline());
     const auto other = m_server.registerDevice();
     m_client.connectToServer(m_server.url(), other.clientId, other.token);
-    EXPECT_TRUE(waitFor(u"connected"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
     EXPECT_TRUE(eventually([&] { return !isOnline(); }));
     EXPECT_TRUE(m_server.isOnline(other.clientId));
 }
@@ -234,7 +219,7 @@ TEST_F(SignalingClientTest, AHandlerMayDisconnect) {
     QObject::connect(&m_client, &SignalingClient::messageReceived,
                      [this] { m_client.disconnectFromServer(); });
     connectClient();
-    EXPECT_TRUE(waitFor(u"disconnected"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"disconnected"_s));
     EXPECT_FALSE(m_log.contains("Reconnecting"));
 }
 

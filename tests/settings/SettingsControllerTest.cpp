@@ -53,59 +53,26 @@ TEST_F(SettingsControllerTest, AFreshStoreAnswersWithDefaults) {
 }
 
 TEST_F(SettingsControllerTest, EverySetterWritesItsKeyAndItsGetterReadsIt) {
-    using Text = QString;
-    const struct {
-        const char* key;
-        void (SettingsController::*set)(const Text&);
-        Text (SettingsController::*get)() const;
-    } texts[] = {
-        {"general/language", &SettingsController::setLanguage, &SettingsController::language},
-        {"auth/clientId", &SettingsController::setClientId, &SettingsController::clientId},
-        {"auth/deviceSecret", &SettingsController::setDeviceSecret,
-         &SettingsController::deviceSecret},
-        {"auth/sessionPassword", &SettingsController::setSessionPassword,
-         &SettingsController::sessionPassword},
+    using Store = SettingsController;
+    const auto check = [this](const char* key, auto set, auto get, const auto& value) {
+        (*m_settings.*set)(value);
+        EXPECT_EQ(m_raw->value(QLatin1String(key)), QVariant(value)) << key;
+        EXPECT_EQ((*m_settings.*get)(), value) << key;
     };
-    for (const auto& text : texts) {
-        (*m_settings.*text.set)(QStringLiteral("väl,ue 1"));
-        EXPECT_EQ(m_raw->value(QLatin1String(text.key)), QStringLiteral("väl,ue 1")) << text.key;
-        EXPECT_EQ((*m_settings.*text.get)(), QStringLiteral("väl,ue 1")) << text.key;
-    }
-    const struct {
-        const char* key;
-        void (SettingsController::*set)(int);
-        int (SettingsController::*get)() const;
-    } numbers[] = {
-        {"display/mode", &SettingsController::setDisplayMode, &SettingsController::displayMode},
-        {"display/monitorIndex", &SettingsController::setMonitorIndex,
-         &SettingsController::monitorIndex},
-        {"network/maxReconnectAttempts", &SettingsController::setMaxReconnectAttempts,
-         &SettingsController::maxReconnectAttempts},
-    };
-    for (const auto& number : numbers) {
-        (*m_settings.*number.set)(7);
-        EXPECT_EQ(m_raw->value(QLatin1String(number.key)), 7) << number.key;
-        EXPECT_EQ((*m_settings.*number.get)(), 7) << number.key;
-        m_raw->setValue(QLatin1String(number.key), QStringLiteral("many"));
-        EXPECT_EQ((*m_settings.*number.get)(), 0) << number.key;
-    }
-    const struct {
-        const char* key;
-        void (SettingsController::*set)(bool);
-        bool (SettingsController::*get)() const;
-    } switches[] = {
-        {"display/clipboardSharing", &SettingsController::setClipboardSharing,
-         &SettingsController::clipboardSharing},
-        {"network/autoReconnect", &SettingsController::setAutoReconnect,
-         &SettingsController::autoReconnect},
-        {"advanced/minimizeToTray", &SettingsController::setMinimizeToTray,
-         &SettingsController::minimizeToTray},
-    };
-    for (const auto& item : switches) {
-        (*m_settings.*item.set)(false);
-        EXPECT_EQ(m_raw->value(QLatin1String(item.key)), false) << item.key;
-        EXPECT_FALSE((*m_settings.*item.get)()) << item.key;
-    }
+    const QString text = QStringLiteral("väl,ue 1");
+    check("general/language", &Store::setLanguage, &Store::language, text);
+    check("auth/clientId", &Store::setClientId, &Store::clientId, text);
+    check("auth/deviceSecret", &Store::setDeviceSecret, &Store::deviceSecret, text);
+    check("auth/sessionPassword", &Store::setSessionPassword, &Store::sessionPassword, text);
+    check("display/mode", &Store::setDisplayMode, &Store::displayMode, 7);
+    check("display/monitorIndex", &Store::setMonitorIndex, &Store::monitorIndex, 7);
+    check("network/maxReconnectAttempts", &Store::setMaxReconnectAttempts,
+          &Store::maxReconnectAttempts, 7);
+    check("display/clipboardSharing", &Store::setClipboardSharing, &Store::clipboardSharing, false);
+    check("network/autoReconnect", &Store::setAutoReconnect, &Store::autoReconnect, false);
+    check("advanced/minimizeToTray", &Store::setMinimizeToTray, &Store::minimizeToTray, false);
+    m_raw->setValue(QStringLiteral("display/mode"), QStringLiteral("many"));
+    EXPECT_EQ(m_settings->displayMode(), 0);
     m_settings->setWakeOnLanAddress(QStringLiteral("123456789"), QStringLiteral("00:11"));
     EXPECT_EQ(m_raw->value(QStringLiteral("wol/123456789")), QStringLiteral("00:11"));
     EXPECT_EQ(m_settings->wakeOnLanAddress(QStringLiteral("123 456 789")), QStringLiteral("00:11"));
