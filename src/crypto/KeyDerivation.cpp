@@ -20,9 +20,11 @@ SecretBytes sharedSecretFailure(std::string_view step) {
     return SecretBytes();
 }
 
-// The parameter list's type has no const; derivation only reads.
+// The parameter list's type has no const, but derivation only reads. A null pointer is refused even
+// for an empty parameter.
 OSSL_PARAM octets(const char* key, const void* data, size_t size) {
-    return OSSL_PARAM_construct_octet_string(key, const_cast<void*>(data), size);
+    const void* start = size > 0 ? data : "";
+    return OSSL_PARAM_construct_octet_string(key, const_cast<void*>(start), size);
 }
 
 } // namespace

@@ -6,7 +6,6 @@
 #include <QNetworkReply>
 #include <spdlog/spdlog.h>
 
-#include <chrono>
 #include <utility>
 
 namespace corvane {
@@ -14,7 +13,6 @@ namespace corvane {
 namespace {
 
 constexpr int kStatusOk = 200;
-constexpr std::chrono::milliseconds kSilenceLimit = std::chrono::seconds(30);
 constexpr qint64 kMaxAnswerBytes = 4 * 1024 * 1024;
 
 void put(nlohmann::json& body, const char* key, const QString& value) {
@@ -49,7 +47,8 @@ nlohmann::json parsedBody(const QByteArray& body) {
 
 } // namespace
 
-ApiClient::ApiClient(QObject* parent) : QObject(parent) {}
+ApiClient::ApiClient(QObject* parent, std::chrono::milliseconds silenceLimit)
+    : QObject(parent), m_silenceLimit(silenceLimit) {}
 
 void ApiClient::autoLogin(const QString& clientId, const QString& deviceSecret) {
     auto body = nlohmann::json::object();
@@ -206,7 +205,7 @@ QNetworkRequest ApiClient::request(const QString& path, Authorization authorizat
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::ManualRedirectPolicy);
-    request.setTransferTimeout(static_cast<int>(kSilenceLimit.count()));
+    request.setTransferTimeout(static_cast<int>(m_silenceLimit.count()));
     if (authorization == Authorization::Bearer && !m_token.isEmpty()) {
         request.setRawHeader("Authorization", "Bearer " + m_token.toUtf8());
     }
@@ -214,8 +213,8 @@ QNetworkRequest ApiClient::request(const QString& path, Authorization authorizat
 }
 
 void ApiClient::awaitAnswer(QNetworkReply* reply, AnswerHandler handler) {
-    connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received) {
-        if (received > kMaxAnswerBytes) {
+    connect(reply, &QNetworkReply::readyRead, reply, [reply] {
+        if (reply->bytesAvailable() > kMaxAnswerBytes) {
             reply->abort();
         }
     });

@@ -8,6 +8,7 @@
 #include <QUrl>
 #include <nlohmann/json.hpp>
 
+#include <chrono>
 #include <functional>
 
 namespace corvane {
@@ -15,14 +16,16 @@ namespace corvane {
 /// The central server's REST API. Every call sends one request and returns at once; the answer
 /// arrives as a signal. Requests may overlap. Nothing is retried. Main thread only.
 ///
-/// Only status 200 is success. No answer within 30 s of silence, an answer cut short or one of more
-/// than 4 MiB counts as status 0 with no body. Redirects are not followed: the bearer token goes to
+/// Only status 200 is success. An answer that does not come, is cut short or has more than 4 MiB
+/// counts as status 0 with no body. Redirects are not followed: the bearer token goes to
 /// the configured server and nowhere else.
 class ApiClient : public QObject {
     Q_OBJECT
 
 public:
-    explicit ApiClient(QObject* parent = nullptr);
+    /// `silenceLimit`: how long a request may go without any progress.
+    explicit ApiClient(QObject* parent = nullptr,
+                       std::chrono::milliseconds silenceLimit = std::chrono::seconds(30));
 
     /// Scheme, host and port of the server; a path in it is ignored.
     QUrl serverUrl() const { return m_serverUrl; }
@@ -88,6 +91,7 @@ private:
     QNetworkAccessManager m_network;
     QString m_token;
     QString m_clientId;
+    std::chrono::milliseconds m_silenceLimit;
 };
 
 } // namespace corvane

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <string_view>
 #include <utility>
 
@@ -17,7 +16,6 @@ namespace {
 constexpr int32_t kMaxReconnectAttempts = 10;
 constexpr int kReconnectBaseDelayMs = 1000;
 constexpr int kReconnectDelayCapMs = 30'000;
-constexpr std::chrono::milliseconds kHandshakeTimeout = std::chrono::seconds(30);
 constexpr quint64 kMaxMessageBytes = 1024 * 1024;
 
 QUrl webSocketUrl(const QUrl& serverUrl, const QString& clientId) {
@@ -34,13 +32,13 @@ QString field(const nlohmann::json& message, std::string_view key) {
 
 } // namespace
 
-SignalingClient::SignalingClient(QObject* parent)
+SignalingClient::SignalingClient(QObject* parent, std::chrono::milliseconds handshakeTimeout)
     : QObject(parent), m_socket(QString(), QWebSocketProtocol::Version13) {
     m_socket.setMaxAllowedIncomingMessageSize(kMaxMessageBytes);
     m_socket.setMaxAllowedIncomingFrameSize(kMaxMessageBytes);
     m_reconnectTimer.setSingleShot(true);
     m_handshakeTimer.setSingleShot(true);
-    m_handshakeTimer.setInterval(kHandshakeTimeout);
+    m_handshakeTimer.setInterval(handshakeTimeout);
     connect(&m_socket, &QWebSocket::connected, this, &SignalingClient::onConnected);
     connect(&m_socket, &QWebSocket::disconnected, this, &SignalingClient::onDisconnected);
     connect(&m_socket, &QWebSocket::textMessageReceived, this,

@@ -7,6 +7,7 @@
 #include <QWebSocket>
 #include <nlohmann/json.hpp>
 
+#include <chrono>
 #include <cstdint>
 
 namespace corvane {
@@ -18,7 +19,10 @@ class SignalingClient : public QObject {
     Q_OBJECT
 
 public:
-    explicit SignalingClient(QObject* parent = nullptr);
+    /// `handshakeTimeout`: how long a connection attempt may take before it is given up and made
+    /// again.
+    explicit SignalingClient(QObject* parent = nullptr,
+                             std::chrono::milliseconds handshakeTimeout = std::chrono::seconds(30));
     ~SignalingClient() override;
 
     /// Opens the connection, replacing any earlier one, and keeps it open from now on. `serverUrl`

@@ -2,7 +2,6 @@
 
 #include "JsonFields.h"
 
-#include <QPointer>
 #include <spdlog/spdlog.h>
 
 #include <array>
@@ -164,7 +163,6 @@ void RelayTransport::sendJoin() {
 
 /// False when reading must stop: the stream was refused or a handler ended the connection.
 bool RelayTransport::deliverFrames(ByteSpan received) {
-    const QPointer<RelayTransport> self(this);
     const uint64_t epoch = m_receiveEpoch;
     while (!received.empty()) {
         switch (m_parser.consume(received)) {
@@ -172,7 +170,7 @@ bool RelayTransport::deliverFrames(ByteSpan received) {
             break;
         case RelayFrameParser::Result::FrameReady:
             Q_EMIT dataReceived(m_parser.channel(), m_parser.takePayload());
-            if (!self || m_receiveEpoch != epoch) {
+            if (m_receiveEpoch != epoch) {
                 return false;
             }
             break;

@@ -52,6 +52,7 @@ bool DevServer::start(const DevServerConfig& config, QString* error) {
         return cannotListen(config.relayPort, reason);
     }
     m_address = config.address;
+    m_pages.setBaseUrl(url());
     m_stun->start(config.address, config.stunPort);
     return true;
 }

@@ -47,6 +47,7 @@ void write(const Answer& answer, QTcpSocket* socket) {
     socket->write("HTTP/1.1 " + QByteArray::number(answer.status) +
                   " \r\nContent-Type: " + answer.contentType + "\r\nContent-Length: " +
                   QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
+    socket->flush();
     if (answer.afterwards) {
         answer.afterwards();
     }

@@ -10,7 +10,7 @@
 namespace corvane::devserver {
 
 /// One HTTP request or signaling message may carry this many bytes; anything larger is a fault.
-constexpr qint64 kMaxMessageBytes = 256 * 1024;
+constexpr qint64 kMaxMessageBytes = qint64{256} * 1024;
 
 /// The request and message logs keep this many of the latest entries.
 constexpr qsizetype kMaxLogEntries = 1000;

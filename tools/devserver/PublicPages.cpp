@@ -13,8 +13,9 @@ std::optional<Answer> PublicPages::answer(const Request& request) const {
                       .contentType = "text/plain; charset=utf-8"};
     }
     if (request.path == "/download/CorvaneSetup.json"_L1) {
+        const QUrl archive = m_baseUrl.resolved(QUrl(u"/download/CorvaneSetup.zip"_s));
         return jsonAnswer({{u"version"_s, m_manifestVersion},
-                           {u"download_url"_s, u"/download/CorvaneSetup.zip"_s},
+                           {u"download_url"_s, archive.toString()},
                            {u"release_notes"_s, u"Development build"_s}});
     }
     if (request.path == "/admin"_L1) {

@@ -12,12 +12,12 @@ namespace corvane::devserver {
 namespace {
 
 /// Unread bytes kept per peer, which is also what is held for a partner yet to come.
-constexpr qint64 kReadBufferBytes = 1024 * 1024;
+constexpr qint64 kReadBufferBytes = qint64{1024} * 1024;
 
 /// Unsent bytes to a peer above which its partner is no longer read.
-constexpr qint64 kHighWaterBytes = 4 * 1024 * 1024;
+constexpr qint64 kHighWaterBytes = qint64{4} * 1024 * 1024;
 
-constexpr qint64 kChunkBytes = 256 * 1024;
+constexpr qint64 kChunkBytes = qint64{256} * 1024;
 constexpr qint64 kMaxJoinBytes = 4096;
 constexpr qsizetype kMaxSessionIdLength = 128;
 
@@ -98,6 +98,9 @@ bool RelayPeer::mayRead(qint64 highWater) const {
 
 bool RelayPeer::readHeader() {
     const qint64 count = m_socket->read(m_scanner.headerSpace(), m_scanner.headerBytesMissing());
+    if (count <= 0) {
+        return false;
+    }
     switch (m_scanner.headerBytesArrived(count)) {
     case FrameScanner::HeaderState::Partial:
         return true;
@@ -110,6 +113,7 @@ bool RelayPeer::readHeader() {
         const qint64 length = m_scanner.payloadBytesMissing();
         return m_scanner.channel() == 0 && length > 0 && length <= kMaxJoinBytes;
     }
+    Q_EMIT frameStarted(m_scanner.channel(), m_scanner.payloadBytesMissing());
     forward(m_scanner.header(), FrameScanner::kHeaderBytes);
     return true;
 }

@@ -39,6 +39,7 @@ SignalingHub::~SignalingHub() {
 void SignalingHub::adopt(std::unique_ptr<QWebSocket> owned) {
     QWebSocket* socket = owned.release();
     socket->setParent(this);
+    socket->setMaxAllowedIncomingFrameSize(kMaxMessageBytes);
     socket->setMaxAllowedIncomingMessageSize(kMaxMessageBytes);
     connect(socket, &QWebSocket::disconnected, this, [this, socket] { onDisconnected(socket); });
     connect(socket, &QWebSocket::textMessageReceived, this,

@@ -67,11 +67,13 @@ int main(int argc, char** argv) {
     if (!httpNumber || !relayNumber) {
         return fail(u"a port is a number from 0 to 65535"_s);
     }
+    const QHostAddress host(parser.value(address));
+    if (host.isNull()) {
+        return fail(u"'%1' is not an IP address"_s.arg(parser.value(address)));
+    }
     DevServer server;
     QString error;
-    if (!server.start({.address = QHostAddress(parser.value(address)),
-                       .httpPort = *httpNumber,
-                       .relayPort = *relayNumber},
+    if (!server.start({.address = host, .httpPort = *httpNumber, .relayPort = *relayNumber},
                       &error)) {
         return fail(error);
     }

@@ -198,6 +198,9 @@ bool XtestInputBackend::settle(const char* kind) {
 }
 
 void XtestInputBackend::watchMonitors() {
+    // Monitors that a user declares are announced by the root window alone, all others by RandR.
+    const uint32_t rootEvents = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(m_connection.get(), m_root, XCB_CW_EVENT_MASK, &rootEvents);
     m_hasMonitors = false;
     m_firstRandrEvent = 0;
     const auto* randr = xcb_get_extension_data(m_connection.get(), &xcb_randr_id);
@@ -245,6 +248,11 @@ std::optional<xcb_rectangle_t> XtestInputBackend::findPrimaryMonitor() const {
     return choice;
 }
 
+bool XtestInputBackend::isRandrEvent(uint8_t type) const {
+    return m_firstRandrEvent != 0 && (type == m_firstRandrEvent + XCB_RANDR_SCREEN_CHANGE_NOTIFY ||
+                                      type == m_firstRandrEvent + XCB_RANDR_NOTIFY);
+}
+
 /// Takes what the server has sent unasked; returns the code of the last error among it, 0 for none.
 uint8_t XtestInputBackend::readEvents() {
     uint8_t error = 0;
@@ -253,8 +261,7 @@ uint8_t XtestInputBackend::readEvents() {
         const uint8_t type = event->response_type & 0x7F;
         if (type == 0) {
             error = reinterpret_cast<const xcb_generic_error_t*>(event.get())->error_code;
-        } else if (m_firstRandrEvent != 0 &&
-                   (type == m_firstRandrEvent || type == m_firstRandrEvent + XCB_RANDR_NOTIFY)) {
+        } else if (type == XCB_CONFIGURE_NOTIFY || isRandrEvent(type)) {
             monitorsChanged = true;
         }
     }

@@ -41,6 +41,7 @@ private:
     void watchMonitors();
     void updatePrimaryMonitor();
     std::optional<xcb_rectangle_t> findPrimaryMonitor() const;
+    bool isRandrEvent(uint8_t type) const;
     uint8_t readEvents();
 
     std::unique_ptr<xcb_connection_t, CloseConnection> m_connection;

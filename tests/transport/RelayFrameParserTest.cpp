@@ -1,0 +1,94 @@
+#include "RelayFrameParser.h"
+#include "ScriptedRelay.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+namespace corvane {
+namespace {
+
+using test::frameBytes;
+using Frames = std::vector<std::pair<ChannelType, QByteArray>>;
+using Result = RelayFrameParser::Result;
+
+ByteSpan span(const QByteArray& bytes) {
+    return {reinterpret_cast<const uint8_t*>(bytes.constData()), static_cast<size_t>(bytes.size())};
+}
+
+/// Feeds one piece, collects its frames and returns what the parser said last.
+Result feed(RelayFrameParser& parser, const QByteArray& piece, Frames& frames) {
+    ByteSpan input = span(piece);
+    Result result = Result::NeedMoreData;
+    while (!input.empty()) {
+        result = parser.consume(input);
+        if (result == Result::FrameReady) {
+            frames.emplace_back(parser.channel(), parser.takePayload());
+        }
+    }
+    return result;
+}
+
+TEST(RelayFrame, IsChannelThenBigEndianLengthThenPayload) {
+    const QByteArray payload(0x0102, 'x');
+    EXPECT_EQ(relayFrame(ChannelType::Video, span(payload).data(), 0x0102),
+              QByteArray::fromHex("0100000102") + payload);
+    EXPECT_EQ(relayFrame(ChannelType::Control, nullptr, 0), QByteArray::fromHex("0000000000"));
+}
+
+TEST(RelayFrameParser, EverySplitOfAStreamYieldsTheSameFrames) {
+    const Frames expected{{ChannelType::Video, "first payload"},
+                          {ChannelType::Control, QByteArray()},
+                          {ChannelType::Control, QByteArray("\0\1\2", 3)}};
+    QByteArray stream;
+    for (const auto& [channel, payload] : expected) {
+        stream += frameBytes(static_cast<uint8_t>(channel), payload);
+    }
+    for (qsizetype first = 0; first <= stream.size(); ++first) {
+        for (qsizetype second = first; second <= stream.size(); ++second) {
+            RelayFrameParser parser;
+            Frames frames;
+            feed(parser, stream.left(first), frames);
+            feed(parser, stream.mid(first, second - first), frames);
+            feed(parser, stream.mid(second), frames);
+            ASSERT_EQ(frames, expected) << "split at " << first << " and " << second;
+        }
+    }
+}
+
+TEST(RelayFrameParser, RefusedHeaderDropsThePieceAndTheNextOneStartsAfresh) {
+    const struct {
+        QByteArray header;
+        Result result;
+    } cases[] = {
+        {frameBytes(2, 0), Result::InvalidChannel},
+        {frameBytes(255, 0xFFFFFFFF), Result::InvalidChannel},
+        {frameBytes(1, 16'777'217), Result::PayloadTooLarge},
+        {frameBytes(0, 0xFFFFFFFF), Result::PayloadTooLarge},
+    };
+    for (const auto& item : cases) {
+        RelayFrameParser parser;
+        Frames frames;
+        EXPECT_EQ(feed(parser, item.header.left(4), frames), Result::NeedMoreData);
+        EXPECT_EQ(feed(parser, item.header.mid(4) + frameBytes(0, "dropped"), frames), item.result);
+        EXPECT_EQ(parser.channelByte(), static_cast<uint8_t>(item.header[0]));
+        EXPECT_TRUE(frames.empty());
+        EXPECT_EQ(feed(parser, frameBytes(1, "kept"), frames), Result::FrameReady);
+        EXPECT_EQ(frames, (Frames{{ChannelType::Video, "kept"}}));
+    }
+}
+
+TEST(RelayFrameParser, ResetForgetsAFrameBegun) {
+    for (const qsizetype begun : {3, 5, 8}) {
+        RelayFrameParser parser;
+        Frames frames;
+        feed(parser, frameBytes(1, "abandoned").left(begun), frames);
+        parser.reset();
+        feed(parser, frameBytes(0, "whole"), frames);
+        EXPECT_EQ(frames, (Frames{{ChannelType::Control, "whole"}}));
+    }
+}
+
+} // namespace
+} // namespace corvane

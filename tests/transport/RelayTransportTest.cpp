@@ -1,0 +1,217 @@
+#include "RelayTransport.h"
+#include "LogCapture.h"
+#include "ScriptedRelay.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using test::frameBytes;
+
+constexpr const char* kJoin = R"({"session_id":"s-1","type":"relay_join"})";
+constexpr size_t kMaxPayload = 16'777'216;
+
+class RelayTransportTest : public ::testing::Test {
+protected:
+    void SetUp() override { transport.setSessionId(QStringLiteral("s-1")); }
+
+    bool connectToRelay() { return transport.connect("127.0.0.1", relay.port()); }
+
+    /// Up and joined.
+    void establish() {
+        ASSERT_TRUE(connectToRelay());
+        ASSERT_TRUE(relay.accept());
+        ASSERT_EQ(relay.read(QByteArray(kJoin).size() + 5), frameBytes(0, kJoin));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return connected.count() == 1; }));
+    }
+
+    bool send(ChannelType channel, const QByteArray& payload) {
+        return transport.send(channel, reinterpret_cast<const uint8_t*>(payload.constData()),
+                              static_cast<size_t>(payload.size()));
+    }
+
+    int reconnectsScheduled() const {
+        int count = 0;
+        for (const std::string& line : log.lines()) {
+            count += line.find("reconnecting in") != std::string::npos ? 1 : 0;
+        }
+        return count;
+    }
+
+    test::LogCapture log;
+    test::ScriptedRelay relay;
+    RelayTransport transport{nullptr, 10ms};
+    QSignalSpy connected{&transport, &ITransport::connected};
+    QSignalSpy disconnected{&transport, &ITransport::disconnected};
+    QSignalSpy received{&transport, &ITransport::dataReceived};
+    QSignalSpy errors{&transport, &ITransport::transportError};
+};
+
+TEST_F(RelayTransportTest, JoinsFirstThenFramesWhatItSends) {
+    EXPECT_FALSE(send(ChannelType::Control, "early"));
+    EXPECT_EQ(log.count("warning|RelayTransport::send: not connected"), 1);
+    establish();
+    EXPECT_TRUE(transport.isConnected());
+    EXPECT_TRUE(send(ChannelType::Video, "pixels"));
+    EXPECT_TRUE(send(ChannelType::Control, QByteArray()));
+    EXPECT_EQ(relay.read(16),
+              QByteArray::fromHex("0100000006") + "pixels" + QByteArray::fromHex("0000000000"));
+}
+
+TEST_F(RelayTransportTest, WithoutASessionIdConnectsUnjoined) {
+    transport.setSessionId(QString());
+    ASSERT_TRUE(connectToRelay());
+    ASSERT_TRUE(relay.accept());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return connected.count() == 1; }));
+    EXPECT_EQ(log.count("warning|RelayTransport: no session ID set, skipping relay_join"), 1);
+    send(ChannelType::Control, "x");
+    EXPECT_EQ(relay.read(6), frameBytes(0, "x"));
+}
+
+TEST_F(RelayTransportTest, SecondConnectIsRefusedWhileTheFirstIsUnderWay) {
+    ASSERT_TRUE(connectToRelay());
+    EXPECT_FALSE(connectToRelay());
+    EXPECT_TRUE(log.contains("RelayTransport::connect called while socket is in state "));
+    ASSERT_TRUE(relay.accept());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return transport.isConnected(); }));
+    EXPECT_FALSE(connectToRelay());
+}
+
+TEST_F(RelayTransportTest, DeliversSplitAndBundledFramesInOrder) {
+    establish();
+    const QByteArray stream = frameBytes(1, "a") + frameBytes(0, QByteArray()) +
+                              frameBytes(0, "bc") + frameBytes(1, "split");
+    relay.write(stream.chopped(2));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 3; }));
+    relay.write(stream.right(2));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 4; }));
+    const std::pair<ChannelType, QByteArray> expected[] = {{ChannelType::Video, "a"},
+                                                           {ChannelType::Control, ""},
+                                                           {ChannelType::Control, "bc"},
+                                                           {ChannelType::Video, "split"}};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(received[i][0].value<ChannelType>(), expected[i].first);
+        EXPECT_EQ(received[i][1].toByteArray(), expected[i].second);
+    }
+}
+
+TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
+    establish();
+    const QByteArray largest(static_cast<qsizetype>(kMaxPayload), '\x5A');
+    ASSERT_TRUE(send(ChannelType::Video, largest));
+    const QByteArray frame = relay.read(static_cast<qint64>(kMaxPayload) + 5);
+    EXPECT_TRUE(frame == frameBytes(1, largest));
+
+    relay.write(frame);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 1; }, 20'000));
+    EXPECT_TRUE(received[0][1].toByteArray() == largest);
+
+    EXPECT_FALSE(send(ChannelType::Video, largest + 'x'));
+    EXPECT_EQ(log.count("error|RelayTransport::send: payload too large (16777217 > 16777216)"), 1);
+    EXPECT_EQ(relay.unread(), 0);
+}
+
+TEST_F(RelayTransportTest, RefusedHeaderIsReportedAtOnceAndTheLinkGoesOn) {
+    const struct {
+        QByteArray bytes;
+        const char* error;
+        const char* line;
+    } cases[] = {
+        {frameBytes(2, "x") + frameBytes(0, "lost"), "Invalid channel type in frame header",
+         "error|RelayTransport: invalid channel type 2, resetting buffer"},
+        {frameBytes(1, 16'777'217), "Frame payload exceeds maximum size",
+         "error|RelayTransport: payload length 16777217 exceeds maximum 16777216"},
+    };
+    establish();
+    for (const auto& item : cases) {
+        errors.clear();
+        received.clear();
+        relay.write(item.bytes);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return errors.count() == 1; }));
+        EXPECT_EQ(errors[0][0].toString(), QLatin1String(item.error));
+        EXPECT_EQ(log.count(item.line), 1);
+        relay.write(frameBytes(0, "next"));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 1; }));
+        EXPECT_EQ(received[0][1].toByteArray(), "next");
+    }
+    EXPECT_TRUE(transport.isConnected());
+}
+
+TEST_F(RelayTransportTest, HandlerThatEndsTheConnectionSeesNoFurtherFrame) {
+    establish();
+    QObject::connect(&transport, &ITransport::dataReceived, &transport,
+                     [this] { transport.disconnect(); });
+    relay.write(frameBytes(0, "last") + frameBytes(0, "never") + frameBytes(9, "never"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return disconnected.count() == 1; }));
+    EXPECT_EQ(received.count(), 1);
+    EXPECT_EQ(errors.count(), 0);
+}
+
+TEST_F(RelayTransportTest, DroppedLinkIsNoErrorAndJoinsAgain) {
+    establish();
+    relay.write(frameBytes(1, "half a frame").left(9));
+    for (int round = 1; round <= 5; ++round) {
+        relay.drop();
+        ASSERT_TRUE(relay.accept());
+        EXPECT_EQ(relay.read(45), frameBytes(0, kJoin)) << "round " << round;
+        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 10 ms (attempt 1/3)"), round);
+    }
+    relay.write(frameBytes(0, "fresh"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 1; }));
+    EXPECT_EQ(received[0][1].toByteArray(), "fresh");
+    EXPECT_EQ(errors.count(), 0);
+    EXPECT_EQ(disconnected.count(), 5);
+}
+
+TEST_F(RelayTransportTest, GivesUpAfterThreeFailedAttemptsUntilAskedAgain) {
+    const uint16_t port = relay.port();
+    relay.refuse();
+    for (int round = 1; round <= 2; ++round) {
+        ASSERT_TRUE(transport.connect("127.0.0.1", port));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return errors.count() == 4 * round; }));
+        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 10 ms (attempt 1/3)"), round);
+        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 20 ms (attempt 2/3)"), round);
+        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 40 ms (attempt 3/3)"), round);
+        EXPECT_EQ(reconnectsScheduled(), 3 * round);
+    }
+    EXPECT_EQ(errors[0][0].toString(), QStringLiteral("Connection refused"));
+    EXPECT_EQ(log.count("error|RelayTransport: socket error (0): Connection refused"), 8);
+    EXPECT_EQ(disconnected.count(), 0);
+}
+
+TEST_F(RelayTransportTest, SuccessRestoresTheThreeAttempts) {
+    establish();
+    const uint16_t port = relay.port();
+    relay.refuse();
+    relay.drop();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return errors.count() == 2; }));
+    relay.listenAgain(port);
+    ASSERT_TRUE(relay.accept());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return connected.count() == 2; }));
+    relay.drop();
+    ASSERT_TRUE(relay.accept());
+    EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 10 ms (attempt 1/3)"), 2);
+}
+
+TEST_F(RelayTransportTest, DisconnectCancelsAPendingReconnect) {
+    establish();
+    relay.drop();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return reconnectsScheduled() == 1; }));
+    transport.disconnect();
+    EXPECT_FALSE(QTest::qWaitFor([this] { return relay.hasVisitor(); }, 60));
+}
+
+TEST_F(RelayTransportTest, DisconnectFromInsideTheReportOfADropIsFinal) {
+    establish();
+    QObject::connect(&transport, &ITransport::disconnected, &transport,
+                     [this] { transport.disconnect(); });
+    relay.drop();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return disconnected.count() == 1; }));
+    EXPECT_EQ(reconnectsScheduled(), 0);
+}
+
+} // namespace
+} // namespace corvane
