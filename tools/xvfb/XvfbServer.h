@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 namespace corvane::test {
 
@@ -12,7 +13,8 @@ void endWithParent();
 /// A virtual X display of its own, ended with the object.
 class XvfbServer {
 public:
-    explicit XvfbServer(QSize size = QSize(1280, 720));
+    /// `extraArguments` go to the server as they are, e.g. to leave an extension out.
+    explicit XvfbServer(QSize size = QSize(1280, 720), const QStringList& extraArguments = {});
     ~XvfbServer();
     XvfbServer(const XvfbServer&) = delete;
     XvfbServer& operator=(const XvfbServer&) = delete;
