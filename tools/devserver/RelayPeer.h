@@ -1,0 +1,69 @@
+#pragma once
+
+#include "FrameScanner.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+
+class QTcpSocket;
+
+namespace corvane::devserver {
+
+/// One connection to the relay node: reads the join frame, then moves bytes to its partner no
+/// faster than the partner takes them. What cannot be moved yet stays unread in the socket, whose
+/// buffer is bounded, so that the sender is slowed down by TCP itself.
+class RelayPeer : public QObject {
+    Q_OBJECT
+
+public:
+    /// Takes over the connected socket.
+    RelayPeer(QTcpSocket* socket, QObject* parent);
+
+    /// Empty until the join frame has arrived.
+    QString sessionId() const { return m_sessionId; }
+
+    /// Starts forwarding to `partner`, what arrived meanwhile first. Both sides must be told.
+    void pairWith(RelayPeer* partner);
+    RelayPeer* partner() const { return m_partner; }
+
+    /// While stalled nothing is read from the socket.
+    void setStalled(bool stalled);
+
+    /// Raw bytes to this peer.
+    void write(const QByteArray& bytes);
+
+    /// Ends the pairing, after what had arrived from a peer that closed has been passed on.
+    void part();
+
+    /// Closes once everything written has been sent.
+    void close();
+
+    /// Closes at once; what has not been forwarded or sent yet is lost.
+    void abort();
+
+Q_SIGNALS:
+    void joined();
+    void forwarded(qint64 bytes);
+    void gone(); ///< the connection has ended; a slot may call `deleteLater`, never delete
+
+private:
+    void pump(qint64 highWater);
+    bool mayRead(qint64 highWater) const;
+    bool readHeader();
+    bool readPayload();
+    bool finishJoin();
+    void forward(const char* bytes, qint64 count);
+
+    QTcpSocket* m_socket;
+    RelayPeer* m_partner = nullptr;
+    FrameScanner m_scanner;
+    QByteArray m_chunk;
+    QByteArray m_join;
+    QString m_sessionId;
+    bool m_stalled = false;
+    bool m_pumping = false;
+    bool m_aborted = false;
+};
+
+} // namespace corvane::devserver
