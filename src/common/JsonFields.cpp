@@ -2,6 +2,13 @@
 
 namespace corvane {
 
+namespace {
+
+// Copying and writing a document recurse once per level; no peer of ours nests deeper than a few.
+constexpr int kMaxDepth = 64;
+
+} // namespace
+
 std::optional<QString> jsonString(const nlohmann::json& json, std::string_view key) {
     if (!json.is_object()) {
         return std::nullopt;
@@ -18,14 +25,25 @@ std::string jsonText(const nlohmann::json& json) {
 }
 
 nlohmann::json parseJson(std::string_view text, std::string* error) {
+    std::string complaint;
     try {
-        return nlohmann::json::parse(text);
-    } catch (const nlohmann::json::exception& exception) {
-        if (error != nullptr) {
-            *error = exception.what();
+        bool tooDeep = false;
+        auto document = nlohmann::json::parse(
+            text, [&tooDeep](int depth, nlohmann::json::parse_event_t, const nlohmann::json&) {
+                tooDeep = tooDeep || depth > kMaxDepth;
+                return !tooDeep;
+            });
+        if (!tooDeep) {
+            return document;
         }
-        return nlohmann::json(nlohmann::json::value_t::discarded);
+        complaint = "nested too deeply";
+    } catch (const nlohmann::json::exception& exception) {
+        complaint = exception.what();
     }
+    if (error != nullptr) {
+        *error = complaint;
+    }
+    return nlohmann::json(nlohmann::json::value_t::discarded);
 }
 
 } // namespace corvane

@@ -16,8 +16,8 @@ std::optional<QString> jsonString(const nlohmann::json& json, std::string_view k
 /// Compact text with sorted keys. Bytes that are not UTF-8 are replaced rather than reported.
 std::string jsonText(const nlohmann::json& json);
 
-/// The parsed document, or a discarded value (`is_discarded()`) when `text` is not JSON. The
-/// parser's complaint goes to `error` when given. Never throws.
+/// The parsed document, or a discarded value (`is_discarded()`) when `text` is not JSON or nests
+/// deeper than 64 levels. The parser's complaint goes to `error` when given. Never throws.
 nlohmann::json parseJson(std::string_view text, std::string* error = nullptr);
 
 } // namespace corvane

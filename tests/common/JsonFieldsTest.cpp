@@ -23,6 +23,16 @@ TEST(JsonFields, BrokenTextIsReportedNotThrown) {
     EXPECT_TRUE(parseJson("\"\xff\"").is_discarded());
 }
 
+TEST(JsonFields, DeepNestingIsRefusedBeforeItCanExhaustTheStack) {
+    const auto nested = [](size_t depth) {
+        return std::string(depth, '[') + std::string(depth, ']');
+    };
+    EXPECT_EQ(jsonText(parseJson(nested(60))), nested(60));
+    std::string error;
+    EXPECT_TRUE(parseJson(nested(1'000'000), &error).is_discarded());
+    EXPECT_EQ(error, "nested too deeply");
+}
+
 TEST(JsonFields, TextIsCompactSortedAndSurvivesBrokenUtf8) {
     EXPECT_EQ(jsonText({{"type", "AUTH"}, {"token", "t"}}), R"({"token":"t","type":"AUTH"})");
     EXPECT_NO_THROW(jsonText({{"name", "\xff"}}));

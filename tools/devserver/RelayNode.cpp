@@ -79,6 +79,7 @@ void RelayNode::onNewConnection() {
         connect(peer, &RelayPeer::gone, this, [this, peer] { onGone(peer); });
         connect(peer, &RelayPeer::forwarded, this,
                 [this](qint64 bytes) { m_bytesForwarded += bytes; });
+        connect(peer, &RelayPeer::frameStarted, this, &RelayNode::onFrameStarted);
         peer->setStalled(m_stalled);
     }
 }
@@ -93,6 +94,14 @@ void RelayNode::onJoined(RelayPeer* peer) {
     if (peers.size() == 2) {
         peers[0]->pairWith(peers[1]);
         peers[1]->pairWith(peers[0]);
+    }
+}
+
+void RelayNode::onFrameStarted(int channel, qint64 payloadBytes) {
+    constexpr int kVideoChannel = 1;
+    if (channel == kVideoChannel) {
+        ++m_videoTotals.frames;
+        m_videoTotals.bytes += payloadBytes;
     }
 }
 

@@ -37,6 +37,14 @@ public:
     /// 0, 1 or 2.
     int joinedPeers(const QString& sessionId) const;
 
+    struct ChannelTotals {
+        qint64 frames = 0;
+        qint64 bytes = 0; ///< payload
+    };
+
+    /// Frames of the video channel passed on so far, over all sessions.
+    ChannelTotals videoTotals() const { return m_videoTotals; }
+
     /// Bytes passed on so far, frame headers included, join frames not.
     qint64 bytesForwarded() const { return m_bytesForwarded; }
 
@@ -58,6 +66,7 @@ public:
 private:
     void onNewConnection();
     void onJoined(RelayPeer* peer);
+    void onFrameStarted(int channel, qint64 payloadBytes);
     void onGone(RelayPeer* peer);
     void setStalled(bool stalled);
 
@@ -68,6 +77,7 @@ private:
     QHash<QString, QList<RelayPeer*>> m_sessions;
     int m_accepted = 0;
     qint64 m_bytesForwarded = 0;
+    ChannelTotals m_videoTotals;
     bool m_stalled = false;
 };
 

@@ -113,6 +113,7 @@ bool RelayPeer::readHeader() {
         const qint64 length = m_scanner.payloadBytesMissing();
         return m_scanner.channel() == 0 && length > 0 && length <= kMaxJoinBytes;
     }
+    Q_EMIT frameStarted(m_scanner.channel(), m_scanner.payloadBytesMissing());
     forward(m_scanner.header(), FrameScanner::kHeaderBytes);
     return true;
 }

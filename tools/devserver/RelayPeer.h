@@ -45,6 +45,7 @@ public:
 Q_SIGNALS:
     void joined();
     void forwarded(qint64 bytes);
+    void frameStarted(int channel, qint64 payloadBytes);
     void gone(); ///< the connection has ended; a slot may call `deleteLater`, never delete
 
 private:

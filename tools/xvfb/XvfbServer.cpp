@@ -1,5 +1,8 @@
 #include "XvfbServer.h"
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace corvane::test {
 
 namespace {
@@ -7,6 +10,8 @@ constexpr int kStartTimeoutMs = 20'000;
 }
 
 XvfbServer::XvfbServer(QSize size) {
+    // However this process ends, the server ends with it.
+    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.setStandardErrorFile(QProcess::nullDevice());
     m_process.start(
         QStringLiteral("Xvfb"),

@@ -1,0 +1,188 @@
+#include "SettingsController.h"
+
+#include "DeploymentConstants.h"
+
+namespace corvane {
+
+namespace {
+
+const auto kLanguage = QStringLiteral("general/language");
+const auto kClientId = QStringLiteral("auth/clientId");
+const auto kDeviceSecret = QStringLiteral("auth/deviceSecret");
+const auto kSessionPassword = QStringLiteral("auth/sessionPassword");
+const auto kDisplayMode = QStringLiteral("display/mode");
+const auto kMonitorIndex = QStringLiteral("display/monitorIndex");
+const auto kClipboardSharing = QStringLiteral("display/clipboardSharing");
+const auto kAutoReconnect = QStringLiteral("network/autoReconnect");
+const auto kMaxReconnectAttempts = QStringLiteral("network/maxReconnectAttempts");
+const auto kMinimizeToTray = QStringLiteral("advanced/minimizeToTray");
+const auto kFavorites = QStringLiteral("favorites/partnerIds");
+const auto kRecentPartners = QStringLiteral("history/recentPartnerIds");
+
+constexpr int kQualityMode = 0;
+constexpr int kSpeedMode = 1;
+constexpr int kMaxFavorites = 20;
+constexpr int kMaxRecentPartners = 10;
+
+QString withoutSpaces(QString partnerId) {
+    return partnerId.remove(QLatin1Char(' '));
+}
+
+QString wakeOnLanKey(const QString& partnerId) {
+    return QStringLiteral("wol/") + withoutSpaces(partnerId);
+}
+
+} // namespace
+
+SettingsController::SettingsController(QObject* parent)
+    : QObject(parent), m_settings(QSettings::NativeFormat, QSettings::UserScope,
+                                  QStringLiteral("Corvane"), QStringLiteral("CorvaneClient")) {}
+
+QString SettingsController::language() const {
+    return m_settings.value(kLanguage).toString();
+}
+
+void SettingsController::setLanguage(const QString& language) {
+    m_settings.setValue(kLanguage, language);
+}
+
+QString SettingsController::clientId() const {
+    return m_settings.value(kClientId).toString();
+}
+
+void SettingsController::setClientId(const QString& clientId) {
+    m_settings.setValue(kClientId, clientId);
+}
+
+QString SettingsController::deviceSecret() const {
+    return m_settings.value(kDeviceSecret).toString();
+}
+
+void SettingsController::setDeviceSecret(const QString& deviceSecret) {
+    m_settings.setValue(kDeviceSecret, deviceSecret);
+}
+
+bool SettingsController::hasCredentials() const {
+    return !clientId().isEmpty() && !deviceSecret().isEmpty();
+}
+
+QString SettingsController::sessionPassword() const {
+    return m_settings.value(kSessionPassword).toString();
+}
+
+void SettingsController::setSessionPassword(const QString& password) {
+    m_settings.setValue(kSessionPassword, password);
+}
+
+int SettingsController::displayMode() const {
+    return m_settings.value(kDisplayMode, kSpeedMode).toInt();
+}
+
+void SettingsController::setDisplayMode(int mode) {
+    m_settings.setValue(kDisplayMode, mode);
+}
+
+int SettingsController::monitorIndex() const {
+    return m_settings.value(kMonitorIndex, 0).toInt();
+}
+
+void SettingsController::setMonitorIndex(int index) {
+    m_settings.setValue(kMonitorIndex, index);
+}
+
+bool SettingsController::clipboardSharing() const {
+    return m_settings.value(kClipboardSharing, true).toBool();
+}
+
+void SettingsController::setClipboardSharing(bool enabled) {
+    m_settings.setValue(kClipboardSharing, enabled);
+}
+
+bool SettingsController::autoReconnect() const {
+    return m_settings.value(kAutoReconnect, true).toBool();
+}
+
+void SettingsController::setAutoReconnect(bool enabled) {
+    m_settings.setValue(kAutoReconnect, enabled);
+}
+
+int SettingsController::maxReconnectAttempts() const {
+    return m_settings.value(kMaxReconnectAttempts, 10).toInt();
+}
+
+void SettingsController::setMaxReconnectAttempts(int attempts) {
+    m_settings.setValue(kMaxReconnectAttempts, attempts);
+}
+
+bool SettingsController::minimizeToTray() const {
+    return m_settings.value(kMinimizeToTray, true).toBool();
+}
+
+void SettingsController::setMinimizeToTray(bool enabled) {
+    m_settings.setValue(kMinimizeToTray, enabled);
+}
+
+QStringList SettingsController::favorites() const {
+    return m_settings.value(kFavorites).toStringList();
+}
+
+void SettingsController::addFavorite(const QString& partnerId) {
+    const QString id = withoutSpaces(partnerId);
+    QStringList ids = favorites();
+    if (id.isEmpty() || ids.contains(id) || ids.size() >= kMaxFavorites) {
+        return;
+    }
+    ids.append(id);
+    m_settings.setValue(kFavorites, ids);
+}
+
+void SettingsController::removeFavorite(const QString& partnerId) {
+    const QString id = withoutSpaces(partnerId);
+    if (id.isEmpty()) {
+        return;
+    }
+    QStringList ids = favorites();
+    ids.removeAll(id);
+    m_settings.setValue(kFavorites, ids);
+}
+
+QStringList SettingsController::recentPartners() const {
+    return m_settings.value(kRecentPartners).toStringList();
+}
+
+void SettingsController::addRecentPartner(const QString& partnerId) {
+    const QString id = withoutSpaces(partnerId);
+    if (id.isEmpty()) {
+        return;
+    }
+    QStringList ids = recentPartners();
+    ids.removeAll(id);
+    ids.prepend(id);
+    m_settings.setValue(kRecentPartners, ids.mid(0, kMaxRecentPartners));
+}
+
+QString SettingsController::wakeOnLanAddress(const QString& partnerId) const {
+    return m_settings.value(wakeOnLanKey(partnerId)).toString();
+}
+
+void SettingsController::setWakeOnLanAddress(const QString& partnerId, const QString& macAddress) {
+    m_settings.setValue(wakeOnLanKey(partnerId), macAddress);
+}
+
+int SettingsController::captureFrameRate() const {
+    return displayMode() == kQualityMode ? 24 : 10;
+}
+
+int SettingsController::encoderQuality() const {
+    return displayMode() == kQualityMode ? 23 : 45;
+}
+
+QString SettingsController::encoderSpeed() const {
+    return QStringLiteral("8");
+}
+
+QUrl SettingsController::serverBaseUrl() const {
+    return QUrl(QString::fromLatin1(deployment::kServerUrl));
+}
+
+} // namespace corvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "IVideoDecoder.h"
+
+struct Dav1dContext;
+
+namespace corvane {
+
+/// dav1d set for the lowest latency: each packet's picture comes out of the same call.
+class AV1Decoder : public IVideoDecoder {
+public:
+    AV1Decoder() = default;
+    ~AV1Decoder() override;
+    AV1Decoder(const AV1Decoder&) = delete;
+    AV1Decoder& operator=(const AV1Decoder&) = delete;
+
+    bool initialize(int width, int height) override;
+    void shutdown() override;
+
+    /// Takes 8-bit 4:2:0 streams of any size.
+    std::unique_ptr<DecodedFrame> decode(const uint8_t* data, size_t size,
+                                         uint64_t timestamp) override;
+
+    bool isInitialized() const override { return m_initialized; }
+
+private:
+    bool send(const uint8_t* data, size_t size);
+
+    Dav1dContext* m_context = nullptr;
+    int m_expectedWidth = 0;
+    int m_expectedHeight = 0;
+    bool m_initialized = false;
+};
+
+} // namespace corvane

@@ -1,0 +1,214 @@
+#include "ScreenCaptureManager.h"
+
+#include <spdlog/spdlog.h>
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kNoMonitor = -1;
+constexpr int kLowestFps = 1;
+constexpr int kHighestFps = 120;
+
+struct Termination : QThread {
+    using QThread::setTerminationEnabled;
+};
+
+} // namespace
+
+ScreenCaptureManager::ScreenCaptureManager(std::unique_ptr<IScreenCaptureBackend> backend,
+                                           QObject* parent)
+    : ScreenCaptureManager(std::move(backend), Timings{}, parent) {}
+
+ScreenCaptureManager::ScreenCaptureManager(std::unique_ptr<IScreenCaptureBackend> backend,
+                                           Timings timings, QObject* parent)
+    : QObject(parent), m_backend(std::move(backend)), m_timings(timings),
+      m_recoveryDelay(timings.firstRecoveryDelay) {
+    qRegisterMetaType<std::shared_ptr<CapturedFrame>>();
+    m_thread.setObjectName(QStringLiteral("ScreenCapture"));
+}
+
+ScreenCaptureManager::~ScreenCaptureManager() {
+    stop();
+}
+
+void ScreenCaptureManager::setFrameCallback(FrameCallback callback) {
+    const std::lock_guard lock(m_callbackMutex);
+    m_callback = std::move(callback);
+}
+
+void ScreenCaptureManager::start(int fps) {
+    if (m_running) {
+        spdlog::warn("ScreenCaptureManager: already running");
+        return;
+    }
+    if (!m_backend) {
+        spdlog::error("ScreenCaptureManager: no backend set");
+        Q_EMIT captureError(QStringLiteral("No capture backend available"));
+        return;
+    }
+    if (!m_backend->isInitialized()) {
+        spdlog::error("ScreenCaptureManager: backend not initialized");
+        Q_EMIT captureError(QStringLiteral("Capture backend is not initialized"));
+        return;
+    }
+    m_targetFps = std::clamp(fps, kLowestFps, kHighestFps);
+    m_running = true;
+    m_framesDelivered = 0;
+    connect(&m_thread, &QThread::started, this, &ScreenCaptureManager::captureLoop,
+            Qt::DirectConnection);
+    m_thread.start(QThread::InheritPriority);
+    spdlog::info("ScreenCaptureManager: started (target {} FPS)", m_targetFps.load());
+}
+
+void ScreenCaptureManager::stop() {
+    if (!m_running) {
+        return;
+    }
+    {
+        const std::lock_guard lock(m_waitMutex);
+        m_running = false;
+    }
+    m_stopRequested.notify_all();
+    if (m_thread.isRunning()) {
+        m_thread.quit();
+        if (!m_thread.wait(QDeadlineTimer(m_timings.joinLimit))) {
+            spdlog::warn(
+                "ScreenCaptureManager: worker thread did not finish within 5 s -- terminating");
+            m_thread.terminate();
+            m_thread.wait();
+        }
+    }
+    disconnect(&m_thread, &QThread::started, this, nullptr);
+    m_framesDelivered = 0;
+    spdlog::info("ScreenCaptureManager: stopped");
+}
+
+void ScreenCaptureManager::switchMonitor(int index) {
+    m_pendingMonitor.exchange(index);
+    spdlog::info("ScreenCaptureManager: monitor switch to {} queued", index);
+}
+
+void ScreenCaptureManager::requestKeyframe() {
+    m_keyframePending.exchange(true);
+}
+
+void ScreenCaptureManager::captureLoop() {
+    spdlog::debug("ScreenCaptureManager: capture loop entered");
+    // Off while `started` is being emitted, but this call lasts as long as the thread.
+    Termination::setTerminationEnabled(true);
+    m_recoveryDelay = m_timings.firstRecoveryDelay;
+    while (m_running) {
+        if (!captureRound()) {
+            recover();
+        }
+    }
+    spdlog::debug("ScreenCaptureManager: capture loop exiting");
+}
+
+/// False when the backend has lost its screen.
+bool ScreenCaptureManager::captureRound() {
+    applyPendingMonitor();
+    const std::chrono::nanoseconds interval(static_cast<int64_t>(1.0 / m_targetFps * 1e9));
+    const auto begin = Clock::now();
+    const bool delivered = guarded([this] { return captureAndDeliver(); });
+    if (!delivered && !m_backend->isInitialized()) {
+        return false;
+    }
+    const auto elapsed = Clock::now() - begin;
+    if (elapsed < interval) {
+        waitUnlessStopped(interval - elapsed);
+    }
+    return true;
+}
+
+bool ScreenCaptureManager::captureAndDeliver() {
+    auto captured = m_backend->captureFrame();
+    if (!captured) {
+        return false;
+    }
+    m_recoveryDelay = m_timings.firstRecoveryDelay;
+    deliver(std::move(captured));
+    return true;
+}
+
+void ScreenCaptureManager::deliver(std::unique_ptr<CapturedFrame> captured) {
+    if (m_keyframePending.exchange(false)) {
+        captured->keyframeRequested = true;
+        captured->dirtyRects.clear();
+    }
+    const std::shared_ptr<CapturedFrame> frame = std::move(captured);
+    ++m_framesDelivered;
+    {
+        const std::lock_guard lock(m_callbackMutex);
+        if (m_callback) {
+            m_callback(frame);
+        }
+    }
+    Q_EMIT frameCaptured(frame);
+}
+
+void ScreenCaptureManager::applyPendingMonitor() {
+    const int index = m_pendingMonitor.exchange(kNoMonitor);
+    if (index < 0) {
+        return;
+    }
+    spdlog::info("ScreenCaptureManager: switching to monitor {} (in capture thread)", index);
+    const bool switched = guarded([this, index] {
+        m_backend->shutdown();
+        return m_backend->initialize(index);
+    });
+    if (switched) {
+        spdlog::info("ScreenCaptureManager: switched to monitor {}", index);
+    } else {
+        spdlog::error("ScreenCaptureManager: failed to switch to monitor {}", index);
+    }
+}
+
+void ScreenCaptureManager::recover() {
+    spdlog::warn("ScreenCaptureManager: backend lost, reinitializing in {} ms",
+                 m_recoveryDelay.count());
+    const auto delay = m_recoveryDelay;
+    m_recoveryDelay = std::min(2 * delay, m_timings.longestRecoveryDelay);
+    if (waitUnlessStopped(delay)) {
+        reinitialize();
+    }
+}
+
+void ScreenCaptureManager::reinitialize() {
+    int index = 0;
+    const bool recovered = guarded([this, &index] {
+        m_backend->monitors();
+        index = static_cast<int>(m_backend->currentMonitor().index);
+        return m_backend->initialize(index);
+    });
+    if (!recovered) {
+        spdlog::error("ScreenCaptureManager: reinit failed for monitor {}", index);
+        Q_EMIT captureError(QStringLiteral("Failed to reinitialize capture backend"));
+    }
+}
+
+/// False when it was cut short by `stop`.
+bool ScreenCaptureManager::waitUnlessStopped(std::chrono::nanoseconds duration) {
+    std::unique_lock lock(m_waitMutex);
+    return !m_stopRequested.wait_for(lock, duration, [this] { return !m_running; });
+}
+
+/// The result of `step`; false, logged and reported, when it throws.
+bool ScreenCaptureManager::guarded(const std::function<bool()>& step) {
+    try {
+        return step();
+    } catch (const std::exception& exception) {
+        spdlog::error("ScreenCaptureManager: exception during capture: {}", exception.what());
+        Q_EMIT captureError(QString::fromUtf8(exception.what()));
+        return false;
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,13 @@
+#include "CaptureBackendCandidate.h"
+
+#include "XcbCaptureBackend.h"
+
+namespace corvane {
+
+std::vector<CaptureBackendCandidate> captureBackendCandidates() {
+    return {{.create = [] { return std::make_unique<XcbCaptureBackend>(); },
+             .readyText = "Using X11 screen capture backend (monitor {})",
+             .unavailableText = {}}};
+}
+
+} // namespace corvane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "CapturedFrame.h"
+#include "MonitorInfo.h"
+
+#include <xcb/damage.h>
+
+#include <vector>
+
+namespace corvane {
+
+class X11Connection;
+
+/// Learns from the server which parts of the screen have changed. Where the server cannot tell,
+/// everything counts as changed all the time. Must not outlive the connection.
+class DamageTracker {
+public:
+    explicit DamageTracker(const X11Connection& connection);
+    ~DamageTracker();
+    DamageTracker(const DamageTracker&) = delete;
+    DamageTracker& operator=(const DamageTracker&) = delete;
+
+    /// Takes note of the server's event when it is about changes.
+    void noteEvent(const xcb_generic_event_t& event);
+
+    /// What changed inside `monitor` since the last call, relative to its top-left corner; empty
+    /// when nothing did.
+    std::vector<FrameRect> takeChanges(const MonitorInfo& monitor);
+
+private:
+    const X11Connection& m_connection;
+    uint8_t m_notifyType = 0;
+    xcb_damage_damage_t m_damage = XCB_NONE;
+    xcb_xfixes_region_t m_region = XCB_NONE;
+    bool m_changed = false;
+};
+
+} // namespace corvane

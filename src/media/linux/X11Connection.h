@@ -1,0 +1,43 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <memory>
+
+namespace corvane {
+
+/// A connection to the X server that DISPLAY names, and its default screen.
+class X11Connection {
+public:
+    /// Null when there is no server to talk to.
+    static std::unique_ptr<X11Connection> open();
+
+    ~X11Connection();
+    X11Connection(const X11Connection&) = delete;
+    X11Connection& operator=(const X11Connection&) = delete;
+
+    xcb_connection_t* handle() const { return m_connection; }
+    const xcb_screen_t& screen() const { return *m_screen; }
+    xcb_window_t root() const { return m_screen->root; }
+
+    /// False once the server has gone; it never comes back.
+    bool isAlive() const { return xcb_connection_has_error(m_connection) == 0; }
+
+    bool hasExtension(xcb_extension_t& extension) const;
+
+    /// Whether the screen's pixels are 32-bit little-endian words with blue in the lowest byte,
+    /// green and red above it.
+    bool isBgrx() const;
+
+    /// Bits that one pixel of the screen's depth takes in an image; 0 when unknown.
+    int bitsPerPixel() const;
+
+private:
+    X11Connection(xcb_connection_t* connection, xcb_screen_t* screen)
+        : m_connection(connection), m_screen(screen) {}
+
+    xcb_connection_t* m_connection;
+    xcb_screen_t* m_screen;
+};
+
+} // namespace corvane

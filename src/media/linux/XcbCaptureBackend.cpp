@@ -1,0 +1,267 @@
+#include "XcbCaptureBackend.h"
+
+#include "DamageTracker.h"
+#include "FrameRectClip.h"
+#include "MonotonicClock.h"
+#include "ScreenImage.h"
+#include "X11Connection.h"
+#include "X11Monitors.h"
+#include "XcbReply.h"
+
+#include <spdlog/spdlog.h>
+#include <xcb/randr.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace corvane {
+
+namespace {
+
+constexpr uint8_t kSentEventBit = 0x80;
+
+/// Beyond this many changed regions the list costs more than it saves.
+constexpr size_t kMaximumChanges = 64;
+
+std::unique_ptr<X11Connection> openUsableConnection() {
+    auto connection = X11Connection::open();
+    if (!connection) {
+        spdlog::error("XcbCaptureBackend: cannot connect to the X server");
+        return nullptr;
+    }
+    if (!connection->isBgrx()) {
+        spdlog::error("XcbCaptureBackend: unsupported screen format (depth {}, {} bits per pixel)",
+                      connection->screen().root_depth, connection->bitsPerPixel());
+        return nullptr;
+    }
+    return connection;
+}
+
+} // namespace
+
+XcbCaptureBackend::XcbCaptureBackend() = default;
+
+XcbCaptureBackend::~XcbCaptureBackend() {
+    XcbCaptureBackend::shutdown();
+}
+
+bool XcbCaptureBackend::initialize(int monitorIndex) {
+    shutdown();
+    m_monitor = {};
+    m_monitor.index = static_cast<uint32_t>(std::max(monitorIndex, 0));
+    if (!connectToServer()) {
+        return false;
+    }
+    const auto available = enumerateMonitors(*m_connection);
+    if (monitorIndex < 0 || static_cast<size_t>(monitorIndex) >= available.size()) {
+        spdlog::error("XcbCaptureBackend: monitor index {} not found (have {} monitors)",
+                      monitorIndex, available.size());
+        shutdown();
+        return false;
+    }
+    m_monitor = available[static_cast<size_t>(monitorIndex)];
+    if (m_monitor.width < 1 || m_monitor.height < 1) {
+        spdlog::error("XcbCaptureBackend: invalid monitor dimensions {}x{}", m_monitor.width,
+                      m_monitor.height);
+        shutdown();
+        return false;
+    }
+    m_damage = std::make_unique<DamageTracker>(*m_connection);
+    m_image = std::make_unique<ScreenImage>(*m_connection, m_monitor.width, m_monitor.height);
+    m_wholeFrameDue = true;
+    m_initialized = true;
+    spdlog::info("XcbCaptureBackend: initialized on monitor {} '{}' ({}x{}){}", m_monitor.index,
+                 m_monitor.name, m_monitor.width, m_monitor.height,
+                 m_image->isShared() ? "" : " [no shared memory]");
+    return true;
+}
+
+void XcbCaptureBackend::shutdown() {
+    m_initialized = false;
+    m_cursor.reset();
+    m_geometryChanged = false;
+    m_image.reset();
+    m_damage.reset();
+    m_connection.reset();
+}
+
+bool XcbCaptureBackend::connectToServer() {
+    m_connection = openUsableConnection();
+    if (!m_connection) {
+        return false;
+    }
+    watchGeometry();
+    return true;
+}
+
+void XcbCaptureBackend::watchGeometry() {
+    const uint32_t rootEvents = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(m_connection->handle(), m_connection->root(), XCB_CW_EVENT_MASK,
+                                 &rootEvents);
+    m_randrEventBase = 0;
+    if (m_connection->hasExtension(xcb_randr_id)) {
+        m_randrEventBase =
+            xcb_get_extension_data(m_connection->handle(), &xcb_randr_id)->first_event;
+        xcb_randr_select_input(m_connection->handle(), m_connection->root(),
+                               XCB_RANDR_NOTIFY_MASK_SCREEN_CHANGE |
+                                   XCB_RANDR_NOTIFY_MASK_CRTC_CHANGE |
+                                   XCB_RANDR_NOTIFY_MASK_OUTPUT_CHANGE);
+    }
+}
+
+std::vector<MonitorInfo> XcbCaptureBackend::monitors() {
+    if (m_connection && m_connection->isAlive()) {
+        return enumerateMonitors(*m_connection);
+    }
+    const auto connection = X11Connection::open();
+    return connection ? enumerateMonitors(*connection) : std::vector<MonitorInfo>{};
+}
+
+std::unique_ptr<CapturedFrame> XcbCaptureBackend::captureFrame() {
+    if (!m_initialized) {
+        return nullptr;
+    }
+    // Reading the pointer waits for the server: the events of all earlier drawing are in.
+    auto cursor = visibleCursor();
+    drainEvents();
+    if (!m_connection->isAlive()) {
+        spdlog::warn("XcbCaptureBackend: connection to the X server lost");
+        shutdown();
+        return nullptr;
+    }
+    if (m_geometryChanged) {
+        if (!followMonitor()) {
+            return nullptr;
+        }
+        cursor = visibleCursor();
+    }
+    auto changes = m_damage->takeChanges(m_monitor);
+    const bool pointerChanged = cursorChanged(cursor);
+    if (!m_wholeFrameDue && changes.empty() && !pointerChanged) {
+        return nullptr;
+    }
+    if (!refreshImage(changes)) {
+        return nullptr;
+    }
+    if (pointerChanged) {
+        for (const auto* shown : {&m_cursor, &cursor}) {
+            if (shown->has_value()) {
+                changes.push_back((*shown)->area);
+            }
+        }
+        m_cursor = std::move(cursor);
+    }
+    if (m_wholeFrameDue || changes.size() > kMaximumChanges) {
+        changes.clear();
+    }
+    m_wholeFrameDue = false;
+    return makeFrame(std::move(changes));
+}
+
+void XcbCaptureBackend::drainEvents() {
+    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection->handle())}) {
+        m_damage->noteEvent(*event);
+        noteGeometryEvent(*event);
+    }
+}
+
+void XcbCaptureBackend::noteGeometryEvent(const xcb_generic_event_t& event) {
+    const int type = event.response_type & ~kSentEventBit;
+    const bool randr =
+        m_randrEventBase != 0 && (type == m_randrEventBase + XCB_RANDR_SCREEN_CHANGE_NOTIFY ||
+                                  type == m_randrEventBase + XCB_RANDR_NOTIFY);
+    if (randr || type == XCB_CONFIGURE_NOTIFY) {
+        m_geometryChanged = true;
+    }
+}
+
+/// Finds the monitor again after the server's layout changed; false when it has gone.
+bool XcbCaptureBackend::followMonitor() {
+    m_geometryChanged = false;
+    const auto available = enumerateMonitors(*m_connection);
+    const auto found =
+        std::find_if(available.begin(), available.end(),
+                     [this](const MonitorInfo& monitor) { return monitor.name == m_monitor.name; });
+    if (found == available.end() || found->width < 1 || found->height < 1) {
+        spdlog::warn("XcbCaptureBackend: monitor '{}' is gone", m_monitor.name);
+        shutdown();
+        return false;
+    }
+    if (found->width != m_monitor.width || found->height != m_monitor.height) {
+        spdlog::info("XcbCaptureBackend: resolution changed to {}x{}", found->width, found->height);
+        m_image = std::make_unique<ScreenImage>(*m_connection, found->width, found->height);
+    }
+    m_monitor = *found;
+    m_wholeFrameDue = true;
+    return true;
+}
+
+std::optional<XcbCaptureBackend::VisibleCursor> XcbCaptureBackend::visibleCursor() const {
+    auto cursor = readCursor(*m_connection);
+    if (!cursor) {
+        return std::nullopt;
+    }
+    cursor->left -= m_monitor.x;
+    cursor->top -= m_monitor.y;
+    const FrameRect area = clipped(
+        {cursor->left, cursor->top, cursor->left + cursor->width, cursor->top + cursor->height},
+        m_monitor.width, m_monitor.height);
+    if (isEmpty(area)) {
+        return std::nullopt;
+    }
+    return VisibleCursor{std::move(*cursor), area};
+}
+
+bool XcbCaptureBackend::cursorChanged(const std::optional<VisibleCursor>& cursor) const {
+    if (!cursor || !m_cursor) {
+        return cursor.has_value() != m_cursor.has_value();
+    }
+    const CursorImage& now = cursor->image;
+    const CursorImage& drawn = m_cursor->image;
+    return now.left != drawn.left || now.top != drawn.top || now.serial != drawn.serial;
+}
+
+/// Reads the rows that changed. A failure leaves the whole image due.
+bool XcbCaptureBackend::refreshImage(const std::vector<FrameRect>& changes) {
+    int firstRow = m_monitor.height;
+    int endRow = 0;
+    for (const FrameRect& change : changes) {
+        firstRow = std::min(firstRow, change.top);
+        endRow = std::max(endRow, change.bottom);
+    }
+    if (m_wholeFrameDue) {
+        firstRow = 0;
+        endRow = m_monitor.height;
+    }
+    if (firstRow >= endRow || m_image->refresh(m_monitor.x, m_monitor.y, firstRow, endRow)) {
+        return true;
+    }
+    m_wholeFrameDue = true;
+    if (m_connection->isAlive()) {
+        // Most likely the screen has just shrunk and the news is still on its way.
+        spdlog::warn("XcbCaptureBackend: reading the screen failed");
+        m_geometryChanged = true;
+    } else {
+        spdlog::warn("XcbCaptureBackend: connection to the X server lost");
+        shutdown();
+    }
+    return false;
+}
+
+std::unique_ptr<CapturedFrame> XcbCaptureBackend::makeFrame(std::vector<FrameRect> changes) const {
+    const ByteSpan pixels = m_image->pixels();
+    auto frame = std::make_unique<CapturedFrame>();
+    frame->data.resize(pixels.size());
+    std::memcpy(frame->data.data(), pixels.data(), pixels.size());
+    frame->width = m_monitor.width;
+    frame->height = m_monitor.height;
+    frame->stride = static_cast<int32_t>(m_image->stride());
+    frame->timestamp = monotonicMilliseconds();
+    frame->dirtyRects = std::move(changes);
+    if (m_cursor) {
+        blendCursor(m_cursor->image, *frame);
+    }
+    return frame;
+}
+
+} // namespace corvane

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "CursorImage.h"
+#include "IScreenCaptureBackend.h"
+
+#include <xcb/xcb.h>
+
+#include <optional>
+
+namespace corvane {
+
+class DamageTracker;
+class ScreenImage;
+class X11Connection;
+
+/// Captures one monitor of the X server that DISPLAY names, with the pointer drawn in. Only what
+/// the server reports as changed is read; changes of the monitor's place or size are followed.
+/// A monitor or server that has gone leaves the backend uninitialised; `initialize` connects anew.
+class XcbCaptureBackend : public IScreenCaptureBackend {
+public:
+    XcbCaptureBackend();
+    ~XcbCaptureBackend() override;
+    XcbCaptureBackend(const XcbCaptureBackend&) = delete;
+    XcbCaptureBackend& operator=(const XcbCaptureBackend&) = delete;
+
+    bool initialize(int monitorIndex) override;
+    void shutdown() override;
+    std::unique_ptr<CapturedFrame> captureFrame() override;
+    std::vector<MonitorInfo> monitors() override;
+
+    /// Kept after the screen has been lost, so that recovery knows where to go on.
+    MonitorInfo currentMonitor() const override { return m_monitor; }
+
+    bool isInitialized() const override { return m_initialized; }
+
+private:
+    /// The pointer where some of it shows in the frame; coordinates are the frame's.
+    struct VisibleCursor {
+        CursorImage image;
+        FrameRect area;
+    };
+
+    bool connectToServer();
+    void watchGeometry();
+    void drainEvents();
+    void noteGeometryEvent(const xcb_generic_event_t& event);
+    bool followMonitor();
+    std::optional<VisibleCursor> visibleCursor() const;
+    bool cursorChanged(const std::optional<VisibleCursor>& cursor) const;
+    bool refreshImage(const std::vector<FrameRect>& changes);
+    std::unique_ptr<CapturedFrame> makeFrame(std::vector<FrameRect> changes) const;
+
+    std::unique_ptr<X11Connection> m_connection;
+    std::unique_ptr<DamageTracker> m_damage;
+    std::unique_ptr<ScreenImage> m_image;
+    MonitorInfo m_monitor;
+    std::optional<VisibleCursor> m_cursor; ///< as drawn into the last frame
+    uint8_t m_randrEventBase = 0;          ///< 0: no such events
+    bool m_geometryChanged = false;
+    bool m_wholeFrameDue = false;
+    bool m_initialized = false;
+};
+
+} // namespace corvane

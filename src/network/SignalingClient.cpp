@@ -1,0 +1,212 @@
+#include "SignalingClient.h"
+
+#include "JsonFields.h"
+
+#include <spdlog/spdlog.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+constexpr int32_t kMaxReconnectAttempts = 10;
+constexpr int kReconnectBaseDelayMs = 1000;
+constexpr int kReconnectDelayCapMs = 30'000;
+constexpr quint64 kMaxMessageBytes = 1024 * 1024;
+
+QUrl webSocketUrl(const QUrl& serverUrl, const QString& clientId) {
+    QUrl url = serverUrl;
+    url.setScheme(serverUrl.scheme() == QStringLiteral("https") ? QStringLiteral("wss")
+                                                                : QStringLiteral("ws"));
+    url.setPath(QStringLiteral("/ws/clients/") + clientId, QUrl::DecodedMode);
+    return url;
+}
+
+QString field(const nlohmann::json& message, std::string_view key) {
+    return jsonString(message, key).value_or(QString());
+}
+
+} // namespace
+
+SignalingClient::SignalingClient(QObject* parent, std::chrono::milliseconds handshakeTimeout)
+    : QObject(parent), m_socket(QString(), QWebSocketProtocol::Version13) {
+    m_socket.setMaxAllowedIncomingMessageSize(kMaxMessageBytes);
+    m_socket.setMaxAllowedIncomingFrameSize(kMaxMessageBytes);
+    m_reconnectTimer.setSingleShot(true);
+    m_handshakeTimer.setSingleShot(true);
+    m_handshakeTimer.setInterval(handshakeTimeout);
+    connect(&m_socket, &QWebSocket::connected, this, &SignalingClient::onConnected);
+    connect(&m_socket, &QWebSocket::disconnected, this, &SignalingClient::onDisconnected);
+    connect(&m_socket, &QWebSocket::textMessageReceived, this,
+            &SignalingClient::onTextMessageReceived);
+    connect(&m_socket, qOverload<QAbstractSocket::SocketError>(&QWebSocket::error), this,
+            &SignalingClient::onError);
+    connect(&m_reconnectTimer, &QTimer::timeout, this, &SignalingClient::attemptReconnect);
+    connect(&m_handshakeTimer, &QTimer::timeout, this, &SignalingClient::onHandshakeTimeout);
+}
+
+// The socket reports its own closing, which must not reach an object half destroyed.
+SignalingClient::~SignalingClient() {
+    m_socket.disconnect(this);
+}
+
+void SignalingClient::connectToServer(const QUrl& serverUrl, const QString& clientId,
+                                      const QString& token) {
+    m_serverUrl = serverUrl;
+    m_clientId = clientId;
+    m_token = token;
+    m_reconnectAttempts = 0;
+    m_reconnectTimer.stop();
+    const QUrl url = webSocketUrl(serverUrl, clientId);
+    spdlog::info("Connecting to signaling server: {}", url.toString().toStdString());
+    m_handshakeTimer.start();
+    m_socket.open(url);
+}
+
+void SignalingClient::disconnectFromServer() {
+    m_reconnectAttempts = kMaxReconnectAttempts;
+    m_reconnectTimer.stop();
+    m_handshakeTimer.stop();
+    if (isConnected()) {
+        m_socket.close(QWebSocketProtocol::CloseCodeNormal);
+    } else {
+        m_socket.abort();
+    }
+}
+
+void SignalingClient::sendMessage(const nlohmann::json& message) {
+    if (!isConnected()) {
+        spdlog::warn("Cannot send message: not connected");
+        return;
+    }
+    m_socket.sendTextMessage(QString::fromStdString(jsonText(message)));
+}
+
+bool SignalingClient::isConnected() const {
+    return m_socket.state() == QAbstractSocket::ConnectedState;
+}
+
+void SignalingClient::onConnected() {
+    m_handshakeTimer.stop();
+    spdlog::info("Signaling WebSocket connected, sending auth");
+    sendMessage({{"type", "AUTH"}, {"token", m_token.toStdString()}});
+}
+
+void SignalingClient::onDisconnected() {
+    m_handshakeTimer.stop();
+    spdlog::info("Signaling WebSocket disconnected");
+    Q_EMIT disconnected();
+    if (m_reconnectAttempts >= kMaxReconnectAttempts) {
+        return;
+    }
+    const int delay = std::min(kReconnectBaseDelayMs << m_reconnectAttempts, kReconnectDelayCapMs);
+    spdlog::info("Reconnecting in {} ms (attempt {}/{})", delay, m_reconnectAttempts + 1,
+                 kMaxReconnectAttempts);
+    m_reconnectTimer.start(delay);
+}
+
+void SignalingClient::attemptReconnect() {
+    ++m_reconnectAttempts;
+    spdlog::info("Attempting reconnect {}/{}", m_reconnectAttempts, kMaxReconnectAttempts);
+    connectToServer(m_serverUrl, m_clientId, m_token);
+}
+
+void SignalingClient::onHandshakeTimeout() {
+    spdlog::warn("SignalingClient: the server did not answer the WebSocket handshake");
+    m_socket.abort();
+}
+
+void SignalingClient::onError(QAbstractSocket::SocketError error) {
+    const QString text = m_socket.errorString();
+    spdlog::error("WebSocket error ({}): {}", static_cast<int>(error), text.toStdString());
+    Q_EMIT connectionError(text);
+}
+
+void SignalingClient::onTextMessageReceived(const QString& text) {
+    const std::string raw = text.toStdString();
+    spdlog::debug("Signaling message: {}", raw);
+    std::string parseError;
+    const auto message = parseJson(raw, &parseError);
+    if (message.is_discarded()) {
+        spdlog::warn("Failed to parse signaling message: {}", parseError);
+        return;
+    }
+    Q_EMIT messageReceived(message);
+    dispatch(message);
+}
+
+void SignalingClient::dispatch(const nlohmann::json& message) {
+    using Action = void (*)(SignalingClient&, const nlohmann::json&);
+    static constexpr std::array<std::pair<std::string_view, Action>, 8> kActions{{
+        {"AUTH_OK",
+         [](SignalingClient& client, const nlohmann::json&) {
+             client.acceptAuthentication();
+         }},
+        {"AUTH_FAIL",
+         [](SignalingClient& client, const nlohmann::json&) {
+             client.rejectAuthentication();
+         }},
+        {"SESSION_HANDSHAKE_REQUEST",
+         [](SignalingClient& client, const nlohmann::json& m) {
+             Q_EMIT client.sessionHandshakeRequest(
+                 field(m, "session_id"), field(m, "master_client_id"), field(m, "purpose"));
+         }},
+        {"SESSION_AUTO_ACCEPT",
+         [](SignalingClient& client, const nlohmann::json& m) {
+             const QString session = field(m, "session_id");
+             const QString master = field(m, "master_client_id");
+             spdlog::info("Session auto-accepted: {} from {}", session.toStdString(),
+                          master.toStdString());
+             Q_EMIT client.sessionAutoAccept(session, master, field(m, "master_ecdh_public_key"));
+         }},
+        {"SESSION_HANDSHAKE_ACK",
+         [](SignalingClient& client, const nlohmann::json& m) {
+             const QString session = field(m, "session_id");
+             const QString state = field(m, "state");
+             spdlog::info("Session handshake ACK: {} state={}", session.toStdString(),
+                          state.toStdString());
+             Q_EMIT client.sessionHandshakeAck(session, state, field(m, "target_ecdh_public_key"));
+         }},
+        {"ICE_OFFER",
+         [](SignalingClient& client, const nlohmann::json& m) {
+             Q_EMIT client.iceOffer(field(m, "session_id"), field(m, "from_client_id"),
+                                    field(m, "sdp"));
+         }},
+        {"ICE_ANSWER",
+         [](SignalingClient& client, const nlohmann::json& m) {
+             Q_EMIT client.iceAnswer(field(m, "session_id"), field(m, "from_client_id"),
+                                     field(m, "sdp"));
+         }},
+        {"ICE_CANDIDATE",
+         [](SignalingClient& client, const nlohmann::json& m) {
+             Q_EMIT client.iceCandidate(field(m, "session_id"), field(m, "from_client_id"),
+                                        field(m, "candidate"), field(m, "mid"));
+         }},
+    }};
+    const std::string type = field(message, "type").toStdString();
+    for (const auto& [name, action] : kActions) {
+        if (name == type) {
+            action(*this, message);
+            return;
+        }
+    }
+}
+
+void SignalingClient::acceptAuthentication() {
+    spdlog::info("Signaling auth confirmed");
+    m_reconnectAttempts = 0;
+    Q_EMIT connected();
+}
+
+void SignalingClient::rejectAuthentication() {
+    spdlog::error("Signaling auth rejected by server — not reconnecting");
+    m_reconnectAttempts = kMaxReconnectAttempts;
+    m_socket.close(QWebSocketProtocol::CloseCodeNormal);
+    Q_EMIT connectionError(tr("Authentication rejected by server"));
+}
+
+} // namespace corvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "CapturedFrame.h"
+#include "FrameConverter.h"
+#include "IVideoEncoder.h"
+#include "StreamingSettings.h"
+
+#include <memory>
+#include <optional>
+
+namespace corvane {
+
+class AesGcmCipher;
+
+/// Turns a screen image into one sealed video message: convert, encode, seal. Follows the size of
+/// the frames it is given. Used by one thread at a time.
+class FramePipeline {
+public:
+    /// `cipher` is borrowed and must outlive the pipeline.
+    FramePipeline(StreamingSettings settings, AesGcmCipher& cipher,
+                  std::unique_ptr<IVideoEncoder> encoder);
+
+    /// The sealed packet; no value when the frame is unusable, the encoder held it back or a step
+    /// failed (logged).
+    std::optional<ByteVector> process(const CapturedFrame& frame);
+
+    /// Closes the encoder; the next frame opens it again.
+    void shutdown();
+
+private:
+    bool prepareEncoder(int width, int height);
+
+    StreamingSettings m_settings;
+    AesGcmCipher& m_cipher;
+    FrameConverter m_converter;
+    std::unique_ptr<IVideoEncoder> m_encoder;
+};
+
+} // namespace corvane

@@ -1,0 +1,227 @@
+#include "SessionDataPlane.h"
+
+#include "SessionCommand.h"
+
+#include <spdlog/spdlog.h>
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <string_view>
+
+namespace corvane {
+
+/// Who takes a tag, from which size on (tag byte included), and what handles it.
+struct SessionDataPlane::ControlRoute {
+    ControlTag tag;
+    bool master;
+    bool target;
+    size_t minimumSize;
+    void (SessionDataPlane::*handler)(ByteSpan message);
+};
+
+const SessionDataPlane::ControlRoute* SessionDataPlane::findRoute(uint8_t tag) {
+    using enum ControlTag;
+    static constexpr std::array<ControlRoute, 4> kRoutes{{
+        {InputEvent, false, true, 2, &SessionDataPlane::onInputEvent},
+        {KeyframeRequest, false, true, 1, &SessionDataPlane::onKeyframeRequest},
+        {Command, true, true, 2, &SessionDataPlane::onCommand},
+        {Chat, true, true, 1, &SessionDataPlane::onChat},
+    }};
+    const auto route = std::find_if(kRoutes.begin(), kRoutes.end(), [tag](const auto& candidate) {
+        return static_cast<uint8_t>(candidate.tag) == tag;
+    });
+    return route != kRoutes.end() ? route : nullptr;
+}
+
+SessionDataPlane::SessionDataPlane(SessionRole role, const ByteVector& key,
+                                   const ByteVector& baseIv, QObject* parent)
+    : QObject(parent), m_role(role), m_cipher(key, baseIv) {}
+
+SessionDataPlane::~SessionDataPlane() = default;
+
+void SessionDataPlane::setTransport(ITransport* transport) {
+    m_transport = transport;
+    updateFlow();
+}
+
+void SessionDataPlane::startStreaming(const StreamingSettings& settings,
+                                      const SessionPlatform& platform) {
+    if (m_streaming) {
+        return;
+    }
+    m_streaming = true;
+    spdlog::info("Starting streaming (role: {})", sessionRoleName(m_role));
+    if (m_role == SessionRole::Target) {
+        m_target = std::make_unique<TargetStream>(settings, m_cipher);
+        connect(m_target.get(), &TargetStream::packetReady, this, &SessionDataPlane::sendVideo);
+        if (!m_target->start(platform)) {
+            m_target.reset();
+            Q_EMIT failed(tr("Failed to start screen capture."));
+        }
+    } else {
+        m_viewer = std::make_unique<ViewerStream>();
+        spdlog::info("Master streaming started (decoder ready)");
+    }
+}
+
+void SessionDataPlane::stopStreaming() {
+    if (!m_streaming) {
+        return;
+    }
+    m_streaming = false;
+    if (m_target) {
+        m_target->stop();
+    }
+    if (m_viewer) {
+        m_viewer->stop();
+    }
+}
+
+void SessionDataPlane::setConnected(bool connected) {
+    m_connected = connected;
+    updateFlow();
+}
+
+void SessionDataPlane::receive(ChannelType channel, const QByteArray& sealed) {
+    switch (channel) {
+    case ChannelType::Control:
+        receiveControl(sealed);
+        break;
+    case ChannelType::Video:
+        receiveVideo(sealed);
+        break;
+    }
+}
+
+void SessionDataPlane::sendInputEvent(const InputEvent& event) {
+    if (m_role != SessionRole::Master || !canSend()) {
+        return;
+    }
+    if (!sendControl(ControlTag::InputEvent, event.serialize())) {
+        spdlog::error("Failed to encrypt input event");
+    }
+}
+
+void SessionDataPlane::requestMonitorSwitch(int monitorIndex) {
+    if (!canSend()) {
+        return;
+    }
+    const std::string command = switchMonitorCommand(monitorIndex);
+    sendControl(ControlTag::Command,
+                {reinterpret_cast<const uint8_t*>(command.data()), command.size()});
+    spdlog::info("Requested monitor switch to {}", monitorIndex);
+}
+
+void SessionDataPlane::receiveControl(const QByteArray& sealed) {
+    const ByteVector message = open(sealed);
+    if (message.empty()) {
+        spdlog::warn("Failed to decrypt control data ({} bytes)", sealed.size());
+        return;
+    }
+    const ControlRoute* route = findRoute(message.front());
+    if (route == nullptr || message.size() < route->minimumSize) {
+        return;
+    }
+    if (m_role == SessionRole::Target ? route->target : route->master) {
+        (this->*route->handler)(message);
+    }
+}
+
+void SessionDataPlane::receiveVideo(const QByteArray& sealed) {
+    if (m_role != SessionRole::Master) {
+        return;
+    }
+    const ByteVector packet = open(sealed);
+    if (packet.empty()) {
+        spdlog::warn("Failed to decrypt video data ({} bytes)", sealed.size());
+        return;
+    }
+    if (!m_viewer) {
+        m_viewer = std::make_unique<ViewerStream>();
+    }
+    if (auto frame = m_viewer->decode(packet)) {
+        Q_EMIT frameDecoded(std::move(frame));
+    }
+}
+
+void SessionDataPlane::onInputEvent(ByteSpan message) {
+    InputEvent event;
+    try {
+        const ByteSpan record = message.subspan(1);
+        event = InputEvent::deserialize(record.data(), record.size());
+    } catch (const std::runtime_error& error) {
+        spdlog::warn("Failed to deserialize input event: {}", error.what());
+        return;
+    }
+    Q_EMIT inputEventReceived(event);
+    if (m_target) {
+        m_target->applyInput(event);
+    }
+}
+
+void SessionDataPlane::onKeyframeRequest(ByteSpan) {
+    spdlog::debug("Key frame requested by Master");
+    if (m_target) {
+        m_target->requestKeyframe();
+    }
+}
+
+void SessionDataPlane::onCommand(ByteSpan message) {
+    const std::string_view command(reinterpret_cast<const char*>(message.data()) + 1,
+                                   message.size() - 1);
+    spdlog::info("Session command received: {}", loggableCommand(command));
+    if (command == kDisconnectCommand) {
+        Q_EMIT disconnectRequested();
+        return;
+    }
+    if (m_role != SessionRole::Target || !command.starts_with(kSwitchMonitorCommand)) {
+        return;
+    }
+    const auto monitorIndex = parseSwitchMonitorCommand(command);
+    if (!monitorIndex) {
+        spdlog::warn("Ignoring monitor switch without a valid index");
+        return;
+    }
+    spdlog::info("Switching capture to monitor {}", *monitorIndex);
+    if (m_target) {
+        m_target->switchMonitor(*monitorIndex);
+    }
+}
+
+void SessionDataPlane::onChat(ByteSpan message) {
+    spdlog::info("Chat message received ({} bytes)", message.size());
+    spdlog::warn("Chat: service not initialized or message too short");
+}
+
+void SessionDataPlane::updateFlow() {
+    if (m_target) {
+        m_target->setFlowing(canSend());
+    }
+}
+
+bool SessionDataPlane::sendControl(ControlTag tag, ByteSpan payload) {
+    const ByteVector sealed = m_cipher.encrypt(controlMessage(tag, payload));
+    if (sealed.empty()) {
+        return false;
+    }
+    m_transport->send(ChannelType::Control, sealed.data(), sealed.size());
+    return true;
+}
+
+void SessionDataPlane::sendVideo(const ByteVector& sealed) {
+    if (!canSend()) {
+        return;
+    }
+    if (!m_transport->send(ChannelType::Video, sealed.data(), sealed.size())) {
+        // The viewer misses this frame and cannot use what builds on it.
+        m_target->requestKeyframe();
+    }
+}
+
+ByteVector SessionDataPlane::open(const QByteArray& sealed) const {
+    return m_cipher.decrypt(reinterpret_cast<const uint8_t*>(sealed.constData()),
+                            static_cast<size_t>(sealed.size()));
+}
+
+} // namespace corvane

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "DecodedFrame.h"
+#include "ITransport.h"
+#include "InputEvent.h"
+#include "SessionPlatform.h"
+#include "SessionState.h"
+#include "StreamingSettings.h"
+
+#include <QObject>
+#include <QString>
+#include <nlohmann/json.hpp>
+
+#include <memory>
+
+namespace corvane {
+
+class ApiClient;
+class EcdhKeyExchange;
+class SessionDataPlane;
+class SignalingClient;
+class TransportManager;
+
+/// Owns a remote-access session from its request to its end, as viewer or as shared machine: the
+/// state machine, the handshake, the key agreement and the teardown. At most one session at a time;
+/// one manager per process. Main thread.
+class SessionManager : public QObject {
+    Q_OBJECT
+
+public:
+    /// The clients are borrowed and must outlive the manager.
+    SessionManager(ApiClient* api, SignalingClient* signaling, SessionPlatform platform = {},
+                   QObject* parent = nullptr);
+    /// Ends the session, if any, with the reason "destructor_cleanup".
+    ~SessionManager() override;
+
+    SessionState state() const { return m_state; }
+    SessionRole role() const { return m_role; }
+    QString sessionId() const { return m_sessionId; }
+    QString peerClientId() const { return m_peerId; }
+
+    /// What carries the connected session: "p2p" or "relay"; empty before.
+    QString transportMethod() const { return m_transportMethod; }
+
+    /// Starts a session as viewer. Refused, with `sessionError`, unless idle or failed.
+    void initiateSession(const QString& targetClientId, const QString& password);
+
+    /// Accepts an incoming session as shared machine. Displaces a connected session; refused, with
+    /// `sessionError`, while one is being set up or torn down. Without a master key the session
+    /// waits in Handshaking until it is ended.
+    void acceptSession(const QString& sessionId, const QString& masterClientId,
+                       const QString& masterEcdhPublicKey);
+
+    /// Ends the session and tells the server why. Does nothing when idle or failed.
+    void endSession(const QString& reason);
+
+    void setCaptureFrameRate(int framesPerSecond);                     ///< kept within 1..60
+    void setEncoderQuality(int quality, const std::string& speedText); ///< quality within 0..51
+    void setMonitorIndex(int index);
+
+public Q_SLOTS:
+    /// Dropped unless this side is the viewer of a connected session.
+    void sendInputEvent(const corvane::InputEvent& event);
+    void requestMonitorSwitch(int monitorIndex);
+
+Q_SIGNALS:
+    void stateChanged(corvane::SessionState newState);
+    void frameDecoded(std::shared_ptr<corvane::DecodedFrame> frame);
+    void inputEventReceived(corvane::InputEvent event);
+    void sessionError(QString error);
+
+private Q_SLOTS:
+    void onSessionCreated(const nlohmann::json& data);
+    void onSessionUpdated(const nlohmann::json& data);
+    void onHandshakeAck(const QString& sessionId, const QString& state,
+                        const QString& targetEcdhPublicKey);
+    void onRequestError(const QString& endpoint, int statusCode, const QString& detail);
+    void onTransportEstablished(const QString& method);
+    void onTransportFailed(const QString& reason);
+    void onTransportData(corvane::ChannelType channel, const QByteArray& data);
+
+private:
+    void setState(SessionState newState);
+    void fail(const QString& error);
+    bool createKeyExchange();
+    bool createDataPlane();
+    bool takeCreationAnswer();
+    void setupTransport();
+    void startStreaming();
+    void stopStreaming();
+    void sendDescription(const QString& type, const QString& sdp);
+    void sendCandidate(const QString& candidate, const QString& mid);
+    void onRemoteDescription(const QString& sessionId, const QString& type, const QString& sdp);
+    void onRemoteCandidate(const QString& sessionId, const QString& candidate, const QString& mid);
+    void endSessionLater(const QString& reason);
+    void cleanup();
+
+    ApiClient* const m_api;
+    SignalingClient* const m_signaling;
+    const SessionPlatform m_platform;
+    StreamingSettings m_streaming;
+
+    SessionState m_state = SessionState::Idle;
+    SessionRole m_role = SessionRole::None;
+    QString m_sessionId;
+    QString m_peerId;
+    QString m_transportMethod;
+    /// Tells a queued end apart from the session that it was meant for.
+    quint64 m_generation = 0;
+    bool m_creationPending = false;
+    /// Creation requests of sessions that were given up before the server answered: as many answers
+    /// are still to come, and none of them belongs to the current session.
+    int m_abandonedCreations = 0;
+
+    std::unique_ptr<EcdhKeyExchange> m_keyExchange;
+    std::unique_ptr<SessionDataPlane> m_dataPlane;
+    std::unique_ptr<TransportManager> m_transportManager;
+};
+
+} // namespace corvane

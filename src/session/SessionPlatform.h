@@ -1,0 +1,22 @@
+#pragma once
+
+#include "CaptureBackendCandidate.h"
+#include "IInputBackend.h"
+#include "IPeerTransport.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace corvane {
+
+/// Where a session gets its platform objects from. The defaults are the real ones; tests put a
+/// synthetic screen and a recording input in their place.
+struct SessionPlatform {
+    std::function<std::vector<CaptureBackendCandidate>()> captureCandidates =
+        captureBackendCandidates;
+    std::function<std::unique_ptr<IInputBackend>()> inputBackend = createInputBackend;
+    std::function<std::unique_ptr<IPeerTransport>()> peerTransport = createPeerTransport;
+};
+
+} // namespace corvane

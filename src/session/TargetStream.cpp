@@ -1,0 +1,116 @@
+#include "TargetStream.h"
+
+#include "AV1Encoder.h"
+#include "InputForwarder.h"
+#include "ScreenCaptureManager.h"
+#include "SessionPlatform.h"
+
+#include <spdlog/spdlog.h>
+
+namespace corvane {
+
+TargetStream::TargetStream(StreamingSettings settings, AesGcmCipher& cipher, QObject* parent)
+    : QObject(parent), m_settings(std::move(settings)),
+      m_pipeline(m_settings, cipher, std::make_unique<AV1Encoder>()) {}
+
+TargetStream::~TargetStream() {
+    stop();
+}
+
+bool TargetStream::start(const SessionPlatform& platform) {
+    auto backend = openBackend(platform);
+    if (!backend) {
+        spdlog::error("Failed to initialize any screen capture backend");
+        return false;
+    }
+    m_capture = std::make_unique<ScreenCaptureManager>(std::move(backend));
+
+    auto inputBackend = platform.inputBackend();
+    inputBackend->initialize();
+    m_input = std::make_unique<InputForwarder>(std::move(inputBackend));
+
+    m_capture->setFrameCallback([this](const std::shared_ptr<CapturedFrame>& frame) {
+        if (frame) {
+            onFrame(*frame);
+        }
+    });
+    m_capture->start(m_settings.captureFrameRate);
+    spdlog::info("Target streaming started (capture@{}fps + encode + input forwarding)",
+                 m_settings.captureFrameRate);
+    return true;
+}
+
+void TargetStream::setFlowing(bool flowing) {
+    {
+        const std::lock_guard lock(m_gateMutex);
+        m_flowing = flowing;
+    }
+    m_gateChanged.notify_all();
+}
+
+void TargetStream::stop() {
+    {
+        const std::lock_guard lock(m_gateMutex);
+        m_stopping = true;
+    }
+    m_gateChanged.notify_all();
+    if (m_capture) {
+        m_capture->stop();
+    }
+    m_pipeline.shutdown();
+}
+
+void TargetStream::requestKeyframe() {
+    if (m_capture) {
+        m_capture->requestKeyframe();
+    }
+}
+
+void TargetStream::switchMonitor(int index) {
+    if (m_capture) {
+        m_capture->switchMonitor(index);
+    }
+}
+
+void TargetStream::applyInput(const InputEvent& event) {
+    if (m_input) {
+        m_input->processEvent(event);
+    }
+}
+
+std::unique_ptr<IScreenCaptureBackend>
+TargetStream::openBackend(const SessionPlatform& platform) const {
+    for (const auto& candidate : platform.captureCandidates()) {
+        auto backend = candidate.create();
+        if (backend->initialize(m_settings.monitorIndex)) {
+            spdlog::info(fmt::runtime(candidate.readyText), m_settings.monitorIndex);
+            return backend;
+        }
+        if (!candidate.unavailableText.empty()) {
+            spdlog::warn("{}", candidate.unavailableText);
+        }
+    }
+    return nullptr;
+}
+
+void TargetStream::onFrame(const CapturedFrame& frame) {
+    if (!waitUntilFlowing()) {
+        return;
+    }
+    auto sealed = m_pipeline.process(frame);
+    if (!sealed) {
+        return;
+    }
+    // A call queued for this object dies with it, so a packet never leaks into the next session.
+    QMetaObject::invokeMethod(
+        this, [this, packet = std::move(*sealed)] { Q_EMIT packetReady(packet); },
+        Qt::QueuedConnection);
+}
+
+bool TargetStream::waitUntilFlowing() {
+    std::unique_lock lock(m_gateMutex);
+    m_gateChanged.wait(lock, [this] { return m_flowing || m_stopping; });
+    return !m_stopping;
+}
+
+} // namespace corvane

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "ByteVector.h"
+#include "CapturedFrame.h"
+#include "FramePipeline.h"
+#include "InputEvent.h"
+#include "StreamingSettings.h"
+
+#include <QObject>
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+
+namespace corvane {
+
+class AesGcmCipher;
+class IScreenCaptureBackend;
+class InputForwarder;
+class ScreenCaptureManager;
+struct SessionPlatform;
+
+/// The shared side of a running session: captures, encodes and seals on the capture thread, hands
+/// every packet to the main thread, and applies the viewer's input.
+///
+/// All calls and the signal belong to the main thread.
+class TargetStream : public QObject {
+    Q_OBJECT
+
+public:
+    /// `cipher` is borrowed and must outlive the stream.
+    TargetStream(StreamingSettings settings, AesGcmCipher& cipher, QObject* parent = nullptr);
+    ~TargetStream() override;
+
+    /// Opens the first capture backend that works and starts capturing. False, logged, when none
+    /// does.
+    bool start(const SessionPlatform& platform);
+
+    /// While off, the capture thread holds on to the frame it has, so that the first picture of a
+    /// screen that never changes is not lost between the start of capture and the first moment a
+    /// packet can be sent. Off at first.
+    void setFlowing(bool flowing);
+
+    /// Ends capture and joins its thread.
+    void stop();
+
+    void requestKeyframe();
+    void switchMonitor(int index);
+    void applyInput(const InputEvent& event);
+
+Q_SIGNALS:
+    /// One sealed video message.
+    void packetReady(const corvane::ByteVector& sealed);
+
+private:
+    std::unique_ptr<IScreenCaptureBackend> openBackend(const SessionPlatform& platform) const;
+    void onFrame(const CapturedFrame& frame);
+    bool waitUntilFlowing();
+
+    const StreamingSettings m_settings;
+    FramePipeline m_pipeline; ///< capture thread only, while it runs
+    std::unique_ptr<ScreenCaptureManager> m_capture;
+    std::unique_ptr<InputForwarder> m_input;
+
+    std::mutex m_gateMutex;
+    std::condition_variable m_gateChanged;
+    bool m_flowing = false;
+    bool m_stopping = false;
+};
+
+} // namespace corvane

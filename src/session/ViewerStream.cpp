@@ -1,0 +1,25 @@
+#include "ViewerStream.h"
+
+#include "AV1Decoder.h"
+#include "MonotonicClock.h"
+
+namespace corvane {
+
+ViewerStream::ViewerStream() : m_decoder(std::make_unique<AV1Decoder>()) {}
+
+ViewerStream::~ViewerStream() = default;
+
+std::shared_ptr<DecodedFrame> ViewerStream::decode(ByteSpan packet) {
+    if (!m_decoder->isInitialized() && !m_decoder->initialize(0, 0)) {
+        return nullptr;
+    }
+    return m_decoder->decode(packet.data(), packet.size(), monotonicMilliseconds());
+}
+
+void ViewerStream::stop() {
+    if (m_decoder->isInitialized()) {
+        m_decoder->shutdown();
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,145 @@
+#include "FrameConverter.h"
+#include "LogCapture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace corvane {
+namespace {
+
+constexpr uint8_t kUntouched = 0xa5;
+
+struct Colour {
+    int red, green, blue;
+};
+
+Colour pixelAt(const ByteVector& bgra, int stride, int row, int column) {
+    const uint8_t* const pixel = bgra.data() + row * stride + column * 4;
+    return {pixel[2], pixel[1], pixel[0]};
+}
+
+/// Floor division by 2^15 after rounding, without relying on shifts.
+int scaled(int64_t sum) {
+    const int64_t rounded = sum + 16384;
+    return static_cast<int>((rounded - ((rounded % 32768) + 32768) % 32768) / 32768);
+}
+
+uint8_t limited(int value) {
+    return static_cast<uint8_t>(std::clamp(value, 0, 255));
+}
+
+/// Pixel by pixel, sample by sample, over a destination full of `kUntouched`.
+ByteVector expectedNv12(const ByteVector& bgra, int width, int height, int stride, size_t size) {
+    ByteVector out(size, kUntouched);
+    const int evenWidth = width / 2 * 2;
+    const int evenHeight = height / 2 * 2;
+    const auto put = [&out](int index, int value) {
+        out.at(static_cast<size_t>(index)) = limited(value);
+    };
+    for (int row = 0; row < evenHeight; ++row) {
+        for (int column = 0; column < evenWidth; ++column) {
+            const Colour c = pixelAt(bgra, stride, row, column);
+            put(row * width + column, scaled(9798 * c.red + 19235 * c.green + 3735 * c.blue));
+        }
+    }
+    for (int row = 0; row < evenHeight; row += 2) {
+        for (int column = 0; column < evenWidth; column += 2) {
+            Colour sum{2, 2, 2};
+            for (const auto& [down, right] : {std::pair{0, 0}, {0, 1}, {1, 0}, {1, 1}}) {
+                const Colour c = pixelAt(bgra, stride, row + down, column + right);
+                sum = {sum.red + c.red, sum.green + c.green, sum.blue + c.blue};
+            }
+            const Colour mean{sum.red / 4, sum.green / 4, sum.blue / 4};
+            const int at = width * evenHeight + row / 2 * width + column;
+            put(at, 128 + scaled(16384 * mean.blue - 10846 * mean.green - 5538 * mean.red));
+            put(at + 1, 128 + scaled(16384 * mean.red - 13730 * mean.green - 2654 * mean.blue));
+        }
+    }
+    return out;
+}
+
+TEST(FrameConverterTest, MatchesTheArithmeticOverRandomImages) {
+    struct Shape {
+        int width, height, padding;
+    };
+    std::mt19937 random(1);
+    for (const Shape& shape : {Shape{1, 1, 0},
+                               {2, 2, 0},
+                               {3, 2, 0},
+                               {4, 3, 0},
+                               {3, 3, 12},
+                               {1, 6, 0},
+                               {6, 1, 4},
+                               {257, 9, 0},
+                               {640, 48, 64},
+                               {1023, 31, 4}}) {
+        SCOPED_TRACE(::testing::Message() << shape.width << "x" << shape.height);
+        const int stride = shape.width * 4 + shape.padding;
+        ByteVector bgra(static_cast<size_t>(stride) * static_cast<size_t>(shape.height));
+        // Extreme samples are what rounding and limiting go wrong on.
+        std::generate(bgra.begin(), bgra.end(), [&random] {
+            const auto draw = random();
+            return static_cast<uint8_t>(draw % 4 == 0 ? (draw & 4 ? 255 : 0) : draw >> 8);
+        });
+        constexpr size_t kGuard = 64;
+        const size_t required = allocateNV12(shape.width, shape.height).size();
+        ByteVector converted(required + kGuard, kUntouched);
+        FrameConverter().convert(bgra.data(), shape.width, shape.height, stride, converted.data(),
+                                 required);
+        EXPECT_EQ(converted,
+                  expectedNv12(bgra, shape.width, shape.height, stride, converted.size()));
+    }
+}
+
+TEST(FrameConverterTest, PureColoursHaveTheirKnownValues) {
+    struct Case {
+        Colour colour;
+        std::array<uint8_t, 3> yCbCr;
+    };
+    for (const Case& c : {Case{{255, 255, 255}, {255, 128, 128}}, Case{{0, 0, 0}, {0, 128, 128}},
+                          Case{{255, 0, 0}, {76, 85, 255}}, Case{{0, 0, 255}, {29, 255, 107}}}) {
+        ByteVector bgra;
+        for (int i = 0; i < 4; ++i) {
+            for (const int sample : {c.colour.blue, c.colour.green, c.colour.red, 0}) {
+                bgra.push_back(static_cast<uint8_t>(sample));
+            }
+        }
+        ByteVector nv12 = allocateNV12(2, 2);
+        FrameConverter().convert(bgra.data(), 2, 2, 8, nv12.data(), 0);
+        const uint8_t y = c.yCbCr[0];
+        EXPECT_EQ(nv12, (ByteVector{y, y, y, y, c.yCbCr[1], c.yCbCr[2]}));
+    }
+}
+
+TEST(FrameConverterTest, RefusesBadArgumentsAndWritesNothing) {
+    const FrameConverter converter;
+    const ByteVector source(16, uint8_t{200});
+    ByteVector target(6, kUntouched);
+    const test::LogCapture log;
+    converter.convert(nullptr, 2, 2, 8, target.data(), 6);
+    converter.convert(source.data(), 2, 2, 8, nullptr, 6);
+    converter.convert(source.data(), 2, 0, 8, target.data(), 6);
+    converter.convert(source.data(), -4, 2, 8, target.data(), 0);
+    converter.convert(source.data(), 2, 2, 8, target.data(), 5);
+    converter.convert(source.data(), 1, 1, 4, target.data(), 0);
+    EXPECT_EQ(log.lines(), (std::vector<std::string>{
+                               "error|FrameConverter: null pointer passed to convert()",
+                               "error|FrameConverter: null pointer passed to convert()",
+                               "error|FrameConverter: invalid dimensions 2x0",
+                               "error|FrameConverter: invalid dimensions -4x2",
+                               "error|FrameConverter: output buffer too small (5 < 6 required)",
+                               "debug|FrameConverter: dimensions 1x1 not even, using 0x0"}));
+    EXPECT_EQ(target, ByteVector(6, kUntouched));
+}
+
+TEST(FrameConverterTest, AllocatesZeroFilledBuffersOfTheRequiredSize) {
+    EXPECT_EQ(allocateNV12(4, 3), ByteVector(18, uint8_t{0}));
+    EXPECT_EQ(allocateNV12(1, 1), ByteVector(1, uint8_t{0}));
+    EXPECT_TRUE(allocateNV12(0, 5).empty());
+    EXPECT_TRUE(allocateNV12(-2, -2).empty());
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,291 @@
+#include "ScreenCaptureManager.h"
+#include "LogCapture.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <poll.h>
+
+#include <future>
+#include <stdexcept>
+#include <thread>
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using Frame = std::unique_ptr<CapturedFrame>;
+
+/// Does what its script says; the script runs on the capture thread.
+struct Script {
+    std::function<Frame()> capture = [] {
+        return std::make_unique<CapturedFrame>();
+    };
+    std::function<bool(int)> initialize = [](int) {
+        return true;
+    };
+    std::atomic<bool> initialized{true};
+    std::atomic<int> monitor{0};
+    std::atomic<int> shutdowns{0};
+};
+
+class ScriptedBackend : public IScreenCaptureBackend {
+public:
+    explicit ScriptedBackend(Script& script) : m_script(script) {}
+
+    bool initialize(int monitorIndex) override {
+        m_script.monitor = monitorIndex;
+        m_script.initialized = m_script.initialize(monitorIndex);
+        return m_script.initialized;
+    }
+    void shutdown() override {
+        ++m_script.shutdowns;
+        m_script.initialized = false;
+    }
+    Frame captureFrame() override { return m_script.capture(); }
+    std::vector<MonitorInfo> monitors() override { return {currentMonitor()}; }
+    MonitorInfo currentMonitor() const override {
+        return {.index = static_cast<uint32_t>(m_script.monitor), .name = {}};
+    }
+    bool isInitialized() const override { return m_script.initialized; }
+
+private:
+    Script& m_script;
+};
+
+class ScreenCaptureManagerTest : public ::testing::Test {
+protected:
+    static constexpr int kFast = 120;
+
+    void create(ScreenCaptureManager::Timings timings = {}) {
+        manager = std::make_unique<ScreenCaptureManager>(std::make_unique<ScriptedBackend>(script),
+                                                         timings);
+        QObject::connect(manager.get(), &ScreenCaptureManager::captureError, &context,
+                         [this](const QString& message) { errors.append(message); });
+    }
+
+    static bool eventually(const std::function<bool()>& condition) {
+        return QTest::qWaitFor(condition, 5000);
+    }
+
+    std::vector<std::string> linesWith(std::string_view part) const {
+        auto lines = log.lines();
+        std::erase_if(lines, [part](const std::string& line) {
+            return line.find(part) == std::string::npos;
+        });
+        return lines;
+    }
+
+    test::LogCapture log;
+    Script script;
+    QObject context;
+    QStringList errors;
+    std::unique_ptr<ScreenCaptureManager> manager;
+};
+
+TEST_F(ScreenCaptureManagerTest, RefusesToStartWithoutAReadyBackend) {
+    create();
+    script.initialized = false;
+    manager->start(10);
+    ScreenCaptureManager empty(nullptr);
+    QObject::connect(&empty, &ScreenCaptureManager::captureError, &context,
+                     [this](const QString& message) { errors.append(message); });
+    empty.start(10);
+    empty.stop();
+    EXPECT_EQ(log.lines(),
+              (std::vector<std::string>{"error|ScreenCaptureManager: backend not initialized",
+                                        "error|ScreenCaptureManager: no backend set"}));
+    EXPECT_EQ(errors, (QStringList{QStringLiteral("Capture backend is not initialized"),
+                                   QStringLiteral("No capture backend available")}));
+}
+
+TEST_F(ScreenCaptureManagerTest, PacesAndDeliversTheSameFrameTwice) {
+    create();
+    std::mutex mutex;
+    std::vector<std::chrono::steady_clock::time_point> times;
+    std::vector<std::shared_ptr<CapturedFrame>> called;
+    std::vector<std::shared_ptr<CapturedFrame>> signalled;
+    manager->setFrameCallback([&](const std::shared_ptr<CapturedFrame>& frame) {
+        const std::lock_guard lock(mutex);
+        times.push_back(std::chrono::steady_clock::now());
+        called.push_back(frame);
+    });
+    QObject::connect(manager.get(), &ScreenCaptureManager::frameCaptured, &context,
+                     [&](const auto& frame) { signalled.push_back(frame); });
+    manager->start(25);
+    ASSERT_TRUE(eventually([&] { return signalled.size() >= 6; }));
+    manager->stop();
+    EXPECT_EQ(manager->framesDelivered(), 0U);
+    ASSERT_GE(called.size(), 6U);
+    EXPECT_TRUE(std::equal(called.begin(), called.begin() + 6, signalled.begin()));
+    EXPECT_GE(times[5] - times[0], 5 * 40ms - 10ms);
+    EXPECT_LT(times[5] - times[0], 1s);
+}
+
+TEST_F(ScreenCaptureManagerTest, LimitsTheRateAndStopsAtOnce) {
+    for (const auto& [asked, used] : {std::pair{0, 1}, {500, 120}}) {
+        create();
+        manager->start(asked);
+        manager->start(50);
+        ASSERT_TRUE(eventually([this] { return manager->framesDelivered() > 0; }));
+        QElapsedTimer timer;
+        timer.start();
+        manager->stop();
+        EXPECT_LT(timer.elapsed(), 500);
+        EXPECT_EQ(log.count("info|ScreenCaptureManager: started (target " + std::to_string(used) +
+                            " FPS)"),
+                  1);
+    }
+    EXPECT_EQ(log.count("warning|ScreenCaptureManager: already running"), 2);
+    EXPECT_EQ(log.count("info|ScreenCaptureManager: stopped"), 2);
+    EXPECT_EQ(log.count("debug|ScreenCaptureManager: capture loop exiting"), 2);
+}
+
+TEST_F(ScreenCaptureManagerTest, RunsAgainAfterAStop) {
+    create();
+    for (int run = 0; run < 3; ++run) {
+        manager->start(kFast);
+        EXPECT_TRUE(eventually([this] { return manager->framesDelivered() > 1; }));
+        manager->stop();
+    }
+    EXPECT_EQ(log.count("debug|ScreenCaptureManager: capture loop entered"), 3);
+}
+
+TEST_F(ScreenCaptureManagerTest, TheLastMonitorSwitchWins) {
+    std::promise<void> entered;
+    std::promise<void> switched;
+    script.capture = [&, first = true]() mutable -> Frame {
+        if (std::exchange(first, false)) {
+            entered.set_value();
+            switched.get_future().wait();
+        }
+        return std::make_unique<CapturedFrame>();
+    };
+    create();
+    manager->start(kFast);
+    entered.get_future().wait();
+    manager->switchMonitor(1);
+    manager->switchMonitor(2);
+    switched.set_value();
+    ASSERT_TRUE(eventually([this] { return manager->framesDelivered() > 2; }));
+    manager->stop();
+    EXPECT_EQ(linesWith("switch"),
+              (std::vector<std::string>{
+                  "info|ScreenCaptureManager: monitor switch to 1 queued",
+                  "info|ScreenCaptureManager: monitor switch to 2 queued",
+                  "info|ScreenCaptureManager: switching to monitor 2 (in capture thread)",
+                  "info|ScreenCaptureManager: switched to monitor 2"}));
+    EXPECT_EQ(script.shutdowns, 1);
+}
+
+TEST_F(ScreenCaptureManagerTest, RecoveryBacksOffAndStartsOverAfterAFrame) {
+    // The switch fails, recovery needs seven attempts, and a later loss begins anew.
+    script.initialize = [attempts = 0](int) mutable {
+        return ++attempts > 7;
+    };
+    script.capture = [this, captures = 0]() mutable -> Frame {
+        if (!script.initialized) {
+            return nullptr;
+        }
+        if (++captures == 3) {
+            script.initialized = false;
+            return nullptr;
+        }
+        return std::make_unique<CapturedFrame>();
+    };
+    create({.firstRecoveryDelay = 1ms, .longestRecoveryDelay = 20ms});
+    manager->switchMonitor(4);
+    manager->start(kFast);
+    ASSERT_TRUE(eventually([this] { return manager->framesDelivered() > 3; }));
+    manager->stop();
+    std::vector<std::string> delays;
+    for (const int delay : {1, 2, 4, 8, 16, 20, 20, 1}) {
+        delays.push_back("warning|ScreenCaptureManager: backend lost, reinitializing in " +
+                         std::to_string(delay) + " ms");
+    }
+    EXPECT_EQ(linesWith("backend lost"), delays);
+    EXPECT_EQ(log.count("error|ScreenCaptureManager: failed to switch to monitor 4"), 1);
+    EXPECT_EQ(log.count("error|ScreenCaptureManager: reinit failed for monitor 4"), 6);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(errors.count(QStringLiteral("Failed to reinitialize capture backend")), 6);
+}
+
+TEST_F(ScreenCaptureManagerTest, StopsAtOnceDuringARecoveryPause) {
+    script.capture = [this]() -> Frame {
+        script.initialized = false;
+        return nullptr;
+    };
+    create({.firstRecoveryDelay = 5000ms});
+    manager->start(kFast);
+    ASSERT_TRUE(eventually([this] { return log.contains("reinitializing in 5000 ms"); }));
+    QElapsedTimer timer;
+    timer.start();
+    manager->stop();
+    EXPECT_LT(timer.elapsed(), 1000);
+}
+
+TEST_F(ScreenCaptureManagerTest, AnExceptionCostsOneRound) {
+    script.capture = [first = true]() mutable -> Frame {
+        if (std::exchange(first, false)) {
+            throw std::runtime_error("device on fire");
+        }
+        return std::make_unique<CapturedFrame>();
+    };
+    create();
+    manager->start(kFast);
+    ASSERT_TRUE(eventually([this] { return manager->framesDelivered() > 0 && !errors.empty(); }));
+    manager->stop();
+    EXPECT_EQ(errors, QStringList{QStringLiteral("device on fire")});
+    EXPECT_EQ(log.count("error|ScreenCaptureManager: exception during capture: device on fire"), 1);
+    EXPECT_FALSE(log.contains("backend lost"));
+}
+
+TEST_F(ScreenCaptureManagerTest, AKeyFrameRequestMarksTheNextFrameHoweverLate) {
+    std::atomic<bool> still{true};
+    script.capture = [&still]() -> Frame {
+        if (still) {
+            return nullptr;
+        }
+        auto frame = std::make_unique<CapturedFrame>();
+        frame->dirtyRects = {{0, 0, 1, 1}};
+        return frame;
+    };
+    create();
+    std::vector<std::pair<bool, size_t>> frames;
+    QObject::connect(manager.get(), &ScreenCaptureManager::frameCaptured, &context,
+                     [&](const auto& frame) {
+                         frames.emplace_back(frame->keyframeRequested, frame->dirtyRects.size());
+                     });
+    manager->requestKeyframe();
+    manager->start(kFast);
+    EXPECT_FALSE(QTest::qWaitFor([&] { return !frames.empty(); }, 60));
+    still = false;
+    ASSERT_TRUE(eventually([&] { return frames.size() >= 3; }));
+    manager->stop();
+    frames.resize(3);
+    EXPECT_EQ(frames, (std::vector<std::pair<bool, size_t>>{{true, 0}, {false, 1}, {false, 1}}));
+}
+
+TEST_F(ScreenCaptureManagerTest, TerminatesAThreadThatHangs) {
+    std::promise<void> entered;
+    script.capture = [&entered]() -> Frame {
+        entered.set_value();
+        ::poll(nullptr, 0, 10'000);
+        return nullptr;
+    };
+    create({.joinLimit = 50ms});
+    manager->start(kFast);
+    entered.get_future().wait();
+    QElapsedTimer timer;
+    timer.start();
+    manager->stop();
+    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_EQ(log.count("warning|ScreenCaptureManager: worker thread did not finish within 5 s -- "
+                        "terminating"),
+              1);
+    EXPECT_EQ(log.count("info|ScreenCaptureManager: stopped"), 1);
+}
+
+} // namespace
+} // namespace corvane

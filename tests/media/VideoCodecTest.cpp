@@ -1,0 +1,244 @@
+#include "AV1Decoder.h"
+#include "AV1Encoder.h"
+#include "DesktopScene.h"
+#include "FrameConverter.h"
+#include "LogCapture.h"
+
+#include <aom/aom_encoder.h>
+#include <aom/aomcx.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+namespace corvane {
+namespace {
+
+ByteVector sceneNv12(int width, int height, int step) {
+    const ByteVector bgra = test::desktopScene(width, height, step);
+    ByteVector nv12 = allocateNV12(width, height);
+    FrameConverter().convert(bgra.data(), width, height, width * 4, nv12.data(), nv12.size());
+    return nv12;
+}
+
+double psnr(const uint8_t* expected, const ByteVector& actual) {
+    double squares = 0;
+    for (size_t i = 0; i < actual.size(); ++i) {
+        squares += std::pow(double{1} * expected[i] - actual[i], 2);
+    }
+    return 10 * std::log10(255.0 * 255.0 * static_cast<double>(actual.size()) / (squares + 1e-9));
+}
+
+EncoderConfig configFor(int width, int height) {
+    EncoderConfig config;
+    config.width = width;
+    config.height = height;
+    config.cqLevel = 23;
+    return config;
+}
+
+class VideoCodecTest : public ::testing::Test {
+protected:
+    /// The packet of the scene at `step`, in the size the encoder is configured for.
+    std::unique_ptr<EncodedPacket> encode(int step, bool forceKeyframe = false) {
+        const auto [width, height] = encoder.configuredSize();
+        return encoder.encode(sceneNv12(width, height, step).data(), width, height,
+                              1000 + static_cast<uint64_t>(step), forceKeyframe);
+    }
+
+    std::unique_ptr<DecodedFrame> decode(const ByteVector& packet, uint64_t timestamp = 0) {
+        return decoder.decode(packet.data(), packet.size(), timestamp);
+    }
+
+    test::LogCapture log;
+    AV1Encoder encoder;
+    AV1Decoder decoder;
+};
+
+TEST_F(VideoCodecTest, SpeedPresetsMapToLibrarySpeeds) {
+    const std::pair<const char*, int> cases[] = {
+        {"8", 6},      {"13", 10},         {"0", 0},           {"12abc", 9},      {"-5", 0},
+        {"500", 10},   {"fast", 8},        {"Fast", 8},        {"ultrafast", 10}, {"veryfast", 9},
+        {"medium", 6}, {"slow", 4},        {"veryslow", 1},    {"", 8},           {"superfast", 10},
+        {"faster", 9}, {"2147483647", 10}, {"99999999999", 8},
+    };
+    for (const auto& [preset, speed] : cases) {
+        EXPECT_EQ(AV1Encoder::speedOf(preset), speed) << preset;
+    }
+}
+
+TEST_F(VideoCodecTest, RoundTripKeepsThePicture) {
+    for (const auto& [width, height] : {std::pair{320, 180}, {64, 64}, {161, 91}}) {
+        SCOPED_TRACE(::testing::Message() << width << "x" << height);
+        ASSERT_TRUE(encoder.initialize(configFor(width, height)));
+        ASSERT_TRUE(decoder.initialize(0, 0));
+        const auto lumaSize = static_cast<size_t>(width * height);
+        for (int step = 0; step < 6; ++step) {
+            const auto packet = encode(step);
+            ASSERT_TRUE(packet);
+            EXPECT_EQ(packet->isKeyframe, step == 0);
+            EXPECT_EQ(packet->pts, step);
+            EXPECT_EQ(packet->dts, step);
+            const auto frame = decode(packet->data, packet->timestamp);
+            ASSERT_TRUE(frame);
+            EXPECT_EQ(frame->timestamp, 1000U + static_cast<uint64_t>(step));
+            EXPECT_EQ(std::pair(frame->width, frame->height), std::pair(width, height));
+            EXPECT_EQ(std::pair(frame->yStride, frame->uvStride), std::pair(width, width));
+            ASSERT_EQ(frame->yPlane.size(), lumaSize);
+            ASSERT_EQ(frame->uvPlane.size(), static_cast<size_t>(height / 2 * width));
+            if (width % 2 == 0) {
+                const ByteVector sent = sceneNv12(width, height, step);
+                EXPECT_GT(psnr(sent.data(), frame->yPlane), 30);
+                EXPECT_GT(psnr(sent.data() + lumaSize, frame->uvPlane), 32);
+            } else {
+                for (int row = 0; row < height / 2; ++row) {
+                    EXPECT_EQ(frame->uvPlane[static_cast<size_t>(row * width + width - 1)], 0);
+                }
+            }
+        }
+    }
+}
+
+TEST_F(VideoCodecTest, OddSizesReadNothingBeyondTheBufferAndKeepGreyEdges) {
+    ASSERT_TRUE(encoder.initialize(configFor(17, 9)));
+    ASSERT_TRUE(decoder.initialize(17, 9));
+    // Exactly as large as the converter allocates: a sanitizer sees any read behind it.
+    const ByteVector grey(17 * 9 * 3 / 2, uint8_t{128});
+    const auto packet = encoder.encode(grey.data(), 17, 9, 0, false);
+    ASSERT_TRUE(packet);
+    const auto frame = decode(packet->data);
+    ASSERT_TRUE(frame);
+    for (size_t i = 0; i < frame->uvPlane.size(); ++i) {
+        const int expected = i % 17 == 16 ? 0 : 128;
+        EXPECT_NEAR(frame->uvPlane[i], expected, expected == 0 ? 0 : 2) << i;
+    }
+}
+
+TEST_F(VideoCodecTest, KeyFramesComeWhenDueAndWhenForced) {
+    EncoderConfig config = configFor(64, 64);
+    config.keyframeInterval = 5;
+    config.cqLevel = 80;
+    ASSERT_TRUE(encoder.initialize(config));
+    EXPECT_EQ(log.count("info|AV1Encoder: initialized (64x64 @ 10 fps, CQ 63, bitrate 500 kbps, "
+                        "cpu-used=6)"),
+              1);
+    const auto encodeKinds = [this](int frames, int forced) {
+        std::string kinds;
+        for (int step = 0; step < frames; ++step) {
+            const auto packet = encode(0, step == forced);
+            kinds += !packet ? '!' : packet->isKeyframe ? 'K' : '.';
+        }
+        return kinds;
+    };
+    EXPECT_EQ(encodeKinds(9, 8), "K....K..K");
+    EXPECT_TRUE(log.contains("trace|AV1Encoder: encoded frame 8 ("));
+
+    // A new rate falls back to the library's own, practically endless key-frame distance.
+    encoder.updateBitrate(800);
+    EXPECT_EQ(log.count("info|AV1Encoder: bitrate updated to 800 kbps"), 1);
+    EXPECT_FALSE(log.contains("config update failed"));
+    encodeKinds(5, -1); // the old distance still ends once
+    EXPECT_EQ(encodeKinds(12, -1), "............");
+}
+
+TEST_F(VideoCodecTest, EncoderRefusesWhatItIsNotConfiguredFor) {
+    const ByteVector frame = sceneNv12(64, 64, 0);
+    EXPECT_FALSE(encoder.encode(frame.data(), 64, 64, 0, false));
+    encoder.updateBitrate(500);
+    ASSERT_TRUE(encoder.initialize(configFor(64, 64)));
+    encoder.updateBitrate(0);
+    EXPECT_FALSE(encoder.encode(frame.data(), 64, 32, 0, false));
+    EXPECT_TRUE(encoder.encode(frame.data(), 64, 64, 0, false));
+    EXPECT_FALSE(encoder.initialize(configFor(0, 64)));
+    EXPECT_FALSE(encoder.isInitialized());
+    for (const char* line :
+         {"error|AV1Encoder: encode called before initialization",
+          "warning|AV1Encoder: updateBitrate called before initialization",
+          "warning|AV1Encoder: ignoring invalid bitrate 0 kbps",
+          "error|AV1Encoder: frame dimensions 64x32 do not match configured 64x64",
+          "error|AV1Encoder: aom_codec_enc_init failed: Invalid parameter"}) {
+        EXPECT_EQ(log.count(line), 1) << line;
+    }
+}
+
+TEST_F(VideoCodecTest, DecoderRefusesCallsItCannotServe) {
+    const uint8_t byte = 0;
+    EXPECT_FALSE(decoder.decode(&byte, 1, 0));
+    ASSERT_TRUE(decoder.initialize(1280, 720));
+    EXPECT_FALSE(decoder.decode(&byte, 0, 0));
+    EXPECT_FALSE(decoder.decode(nullptr, 5, 0));
+    decoder.shutdown();
+    EXPECT_FALSE(decoder.isInitialized());
+    EXPECT_EQ(log.lines(),
+              (std::vector<std::string>{
+                  "error|AV1Decoder: decode called before initialization",
+                  "info|AV1Decoder: initialized using dav1d (expected 1280x720)",
+                  "warning|AV1Decoder: empty input data", "warning|AV1Decoder: empty input data"}));
+}
+
+TEST_F(VideoCodecTest, DecoderSurvivesHostilePackets) {
+    ASSERT_TRUE(encoder.initialize(configFor(64, 64)));
+    ASSERT_TRUE(decoder.initialize(0, 0));
+    const ByteVector good = encode(0)->data;
+    std::mt19937 random(2);
+    for (size_t cut = 1; cut < good.size(); cut += 7) {
+        decode(ByteVector(good.begin(), good.begin() + static_cast<ptrdiff_t>(cut)));
+    }
+    for (int round = 0; round < 400; ++round) {
+        ByteVector bytes = round % 2 == 0 ? good : ByteVector(1 + random() % 300, uint8_t{0});
+        const size_t changes = round % 2 == 0 ? 1 + random() % 8 : bytes.size();
+        for (size_t i = 0; i < changes; ++i) {
+            bytes[random() % bytes.size()] = static_cast<uint8_t>(random());
+        }
+        decode(bytes);
+    }
+    // One more for a decoder that still held a picture back, then it must be itself again.
+    decode(good);
+    EXPECT_TRUE(decode(good));
+}
+
+TEST_F(VideoCodecTest, DecoderRefusesAbsurdPictureSizes) {
+    // A still picture's sequence header for 65536 x 65536 pixels, and a frame of it.
+    const ByteVector packet = {0x0a, 0x0a, 0x18, 0x3f, 0xff, 0xff, 0xff, 0xff, 0xc0,
+                               0x00, 0x02, 0x00, 0x32, 0x04, 0x00, 0x00, 0x00, 0x00};
+    ASSERT_TRUE(decoder.initialize(0, 0));
+    EXPECT_FALSE(decode(packet));
+    EXPECT_EQ(log.count("error|AV1Decoder: dav1d_send_data failed (error -34)"), 1)
+        << ::testing::PrintToString(log.lines());
+}
+
+TEST_F(VideoCodecTest, DecoderRefusesTenBitStreams) {
+    constexpr unsigned kSize = 64;
+    aom_codec_enc_cfg_t config{};
+    ASSERT_EQ(aom_codec_enc_config_default(aom_codec_av1_cx(), &config, 0), AOM_CODEC_OK);
+    config.g_w = kSize;
+    config.g_h = kSize;
+    config.g_bit_depth = AOM_BITS_10;
+    config.g_input_bit_depth = 10;
+    config.g_lag_in_frames = 0;
+    aom_codec_ctx_t context{};
+    if (aom_codec_enc_init(&context, aom_codec_av1_cx(), &config, AOM_CODEC_USE_HIGHBITDEPTH) !=
+        AOM_CODEC_OK) {
+        GTEST_SKIP() << "this libaom has no high bit depth";
+    }
+    aom_image_t* const image = aom_img_alloc(nullptr, AOM_IMG_FMT_I42016, kSize, kSize, 16);
+    for (const int plane : {AOM_PLANE_Y, AOM_PLANE_U, AOM_PLANE_V}) {
+        const size_t rows = plane == AOM_PLANE_Y ? kSize : kSize / 2;
+        std::fill_n(image->planes[plane], static_cast<size_t>(image->stride[plane]) * rows,
+                    uint8_t{1});
+    }
+    ASSERT_EQ(aom_codec_encode(&context, image, 0, 1, 0), AOM_CODEC_OK);
+    aom_codec_iter_t position = nullptr;
+    const aom_codec_cx_pkt_t* const packet = aom_codec_get_cx_data(&context, &position);
+    ASSERT_NE(packet, nullptr);
+    ASSERT_TRUE(decoder.initialize(0, 0));
+    EXPECT_FALSE(decoder.decode(static_cast<const uint8_t*>(packet->data.frame.buf),
+                                packet->data.frame.sz, 0));
+    EXPECT_EQ(log.count("error|AV1Decoder: unsupported pixel format (layout=1, bpc=10)"), 1);
+    aom_img_free(image);
+    aom_codec_destroy(&context);
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,200 @@
+#include "AuthController.h"
+#include "ApiClient.h"
+#include "DevServerTest.h"
+#include "MachineFingerprint.h"
+#include "SettingsController.h"
+#include "SignalingClient.h"
+
+#include <QJsonDocument>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QSysInfo>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace corvane {
+namespace {
+
+using test::eventually;
+using namespace Qt::StringLiterals;
+
+/// The objects of one program run.
+struct ProgramRun {
+    explicit ProgramRun(const QUrl& server, AuthIntervals intervals) {
+        api.setServerUrl(server);
+        auth = std::make_unique<AuthController>(&api, &signaling, &settings, nullptr, intervals);
+    }
+
+    SettingsController settings;
+    ApiClient api;
+    SignalingClient signaling;
+    std::unique_ptr<AuthController> auth;
+};
+
+class AuthControllerTest : public test::DevServerTest {
+protected:
+    AuthControllerTest() {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home.path());
+        newRun();
+    }
+
+    void newRun() {
+        m_run.reset();
+        m_run = std::make_unique<ProgramRun>(m_server.url(), m_intervals);
+    }
+
+    AuthController& auth() { return *m_run->auth; }
+    SettingsController& settings() { return m_run->settings; }
+
+    bool authenticates() {
+        auth().start();
+        return eventually([this] { return auth().isAuthenticated(); });
+    }
+
+    /// Waits until the server knows `message` from this device.
+    bool serverHas(const QJsonObject& message) {
+        return eventually(
+            [&] { return m_server.signalingMessages(settings().clientId()).contains(message); });
+    }
+
+    bool serverHasPassword(const QString& password) {
+        return serverHas({{u"type"_s, u"SET_PASSWORD"_s}, {u"password"_s, password}});
+    }
+
+    bool serverHasCode(const QString& code) {
+        return serverHas({{u"type"_s, u"SET_PAIRING_CODE"_s}, {u"code"_s, code}});
+    }
+
+    QStringList requestedPaths() const {
+        QStringList paths;
+        for (const auto& request : m_server.requests()) {
+            paths.append(request.path);
+        }
+        return paths;
+    }
+
+    QTemporaryDir m_home;
+    AuthIntervals m_intervals{.retry = std::chrono::milliseconds(1)};
+    std::unique_ptr<ProgramRun> m_run;
+};
+
+const QString kLogin = u"/auth/auto-login"_s;
+const QString kRegistration = u"/auth/auto-register"_s;
+
+TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
+    QSignalSpy authenticated(&auth(), &AuthController::authenticated);
+    ASSERT_TRUE(authenticates());
+    const QString clientId = settings().clientId();
+    EXPECT_EQ(authenticated.value(0).value(0), clientId);
+    const auto body = QJsonDocument::fromJson(m_server.requests().constFirst().body).object();
+    EXPECT_EQ(body[u"client_name"_s].toString(), QSysInfo::machineHostName());
+    EXPECT_EQ(body[u"agent_version"_s].toString(), u"1.32"_s);
+    EXPECT_EQ(body[u"machine_fingerprint"_s].toString(), MachineFingerprint::generate());
+    EXPECT_TRUE(serverHasPassword(auth().sessionPassword()));
+    EXPECT_TRUE(serverHasCode(auth().pairingCode()));
+
+    const QStringList secrets{settings().deviceSecret(), m_run->api.token(),
+                              auth().sessionPassword(), auth().pairingCode()};
+    newRun();
+    ASSERT_TRUE(authenticates());
+    EXPECT_EQ(settings().clientId(), clientId);
+    EXPECT_EQ(requestedPaths(), (QStringList{kRegistration, kLogin}));
+    EXPECT_TRUE(serverHasPassword(auth().sessionPassword()));
+
+    const std::string id = clientId.toStdString();
+    EXPECT_EQ(m_log.count("info|First launch — auto-registering..."), 1);
+    EXPECT_EQ(m_log.count("info|Auto-registration successful. Client ID: " + id), 1);
+    EXPECT_EQ(m_log.count("info|Auto-login with stored client ID: " + id), 1);
+    EXPECT_EQ(m_log.count("info|Auto-login successful. Client ID: " + id), 1);
+    EXPECT_EQ(m_log.count("info|Sent session password to server via WebSocket"), 2);
+    for (const QString& secret : secrets) {
+        EXPECT_FALSE(m_log.contains(secret.toStdString()));
+    }
+}
+
+TEST_F(AuthControllerTest, CredentialErrorsClearAtOnce) {
+    for (const char* detail : {"invalid DEVICE credentials", "Your AUTHENTICATION has expired"}) {
+        m_server.misbehaviour().setReply(
+            kLogin,
+            {.status = 401, .body = QByteArrayLiteral(R"({"detail":")") + detail + R"("})"});
+        settings().setClientId(u"111111111"_s);
+        settings().setDeviceSecret(u"stale"_s);
+        m_log.clear();
+        QSignalSpy authenticated(&auth(), &AuthController::authenticated);
+        auth().start();
+        EXPECT_TRUE(authenticated.wait());
+        EXPECT_NE(settings().clientId(), u"111111111"_s);
+        EXPECT_EQ(m_log.count(std::string("warning|Authentication failed (attempt 1): ") + detail +
+                              ". Retrying in 20 seconds..."),
+                  1);
+        EXPECT_EQ(m_log.count("warning|Credential error — clearing stored credentials, will "
+                              "auto-register on next retry"),
+                  1);
+    }
+    EXPECT_EQ(requestedPaths(), (QStringList{kLogin, kRegistration, kLogin, kRegistration}));
+}
+
+TEST_F(AuthControllerTest, OtherErrorsClearAtTheThirdFailure) {
+    m_server.misbehaviour().setReply(kLogin, {.status = 500});
+    settings().setClientId(u"111111111"_s);
+    settings().setDeviceSecret(u"secret"_s);
+    QStringList idsAtFailure;
+    QObject::connect(&auth(), &AuthController::authenticationFailed, [&](const QString& error) {
+        EXPECT_EQ(error, u"Auto-login failed"_s);
+        idsAtFailure.append(settings().clientId());
+    });
+    ASSERT_TRUE(authenticates());
+    EXPECT_EQ(idsAtFailure, (QStringList{u"111111111"_s, u"111111111"_s, QString()}));
+    EXPECT_EQ(requestedPaths(), (QStringList{kLogin, kLogin, kLogin, kRegistration}));
+    EXPECT_EQ(m_log.count("info|Clearing stored credentials after 3 failures — will auto-register "
+                          "on next retry"),
+              1);
+}
+
+TEST_F(AuthControllerTest, RegistrationIsRetriedUntilItSucceeds) {
+    m_server.misbehaviour().setReply(kRegistration, {.status = 503});
+    auth().start();
+    EXPECT_TRUE(eventually([this] { return m_server.requests().size() >= 4; }));
+    EXPECT_FALSE(auth().isAuthenticated());
+    m_server.misbehaviour().clear();
+    EXPECT_TRUE(eventually([this] { return auth().isAuthenticated(); }));
+}
+
+TEST_F(AuthControllerTest, TheStoredPasswordIsUsedOnlyIfItMeetsThePolicy) {
+    settings().setSessionPassword(u"abcdefg1"_s);
+    newRun();
+    EXPECT_THAT(auth().sessionPassword().toStdString(), testing::MatchesRegex("[a-z0-9]{6}"));
+    EXPECT_EQ(settings().sessionPassword(), u"abcdefg1"_s) << "the generated one is not stored";
+    settings().setSessionPassword(u"Abcdefg1"_s);
+    newRun();
+    EXPECT_EQ(auth().sessionPassword(), u"Abcdefg1"_s);
+}
+
+TEST_F(AuthControllerTest, AChangedPasswordIsStoredAndPublished) {
+    const std::string published = "info|Updated session password sent to server";
+    auth().setSessionPassword(u"Offline1"_s);
+    EXPECT_EQ(settings().sessionPassword(), u"Offline1"_s);
+    EXPECT_EQ(m_log.count(published), 0);
+    ASSERT_TRUE(authenticates());
+    EXPECT_TRUE(serverHasPassword(u"Offline1"_s));
+    auth().setSessionPassword(u"Online11"_s);
+    EXPECT_EQ(m_log.count(published), 1);
+    EXPECT_TRUE(serverHasPassword(u"Online11"_s));
+}
+
+TEST_F(AuthControllerTest, ThePairingCodeChangesByItself) {
+    m_intervals.pairingCode = std::chrono::milliseconds(200);
+    newRun();
+    EXPECT_EQ(m_log.count("info|Pairing code regenerated"), 2) << "once per run";
+    ASSERT_TRUE(authenticates());
+    ASSERT_TRUE(serverHasCode(auth().pairingCode()));
+    QSignalSpy changed(&auth(), &AuthController::pairingCodeChanged);
+    ASSERT_TRUE(changed.wait());
+    const QString code = changed.constLast().at(0).toString();
+    EXPECT_THAT(code.toStdString(), testing::MatchesRegex("[1-9][0-9]{5}"));
+    EXPECT_TRUE(serverHasCode(code));
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "DevServer.h"
+#include "LogCapture.h"
+
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace corvane::test {
+
+constexpr int kPatienceMs = 5000;
+
+/// Waits for `condition` with the event loop running; false after five seconds.
+template <typename Condition>
+bool eventually(Condition condition) {
+    return QTest::qWaitFor(condition, kPatienceMs);
+}
+
+/// A test with a server of its own on free ports, and with the log captured.
+class DevServerTest : public testing::Test {
+protected:
+    DevServerTest() {
+        const devserver::DevServerConfig freePorts{
+            .address = QHostAddress::LocalHost, .httpPort = 0, .relayPort = 0, .stunPort = 0};
+        EXPECT_TRUE(m_server.start(freePorts));
+    }
+
+    LogCapture m_log;
+    devserver::DevServer m_server;
+};
+
+} // namespace corvane::test

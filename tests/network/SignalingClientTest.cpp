@@ -1,0 +1,242 @@
+#include "SignalingClient.h"
+#include "CannedServer.h"
+#include "DevServerTest.h"
+#include "JsonFields.h"
+
+#include <QSignalSpy>
+#include <QWebSocket>
+#include <QWebSocketServer>
+
+namespace corvane {
+namespace {
+
+using test::eventually;
+using namespace Qt::StringLiterals;
+
+class SignalingClientTest : public test::DevServerTest {
+protected:
+    SignalingClientTest() {
+        const auto note = [this](const char* name) {
+            return [this, name](const auto&... arguments) {
+                QStringList line{QString::fromLatin1(name)};
+                (line.append(arguments), ...);
+                m_signals.append(line.join(QLatin1Char('|')));
+            };
+        };
+        QObject::connect(&m_client, &SignalingClient::connected, note("connected"));
+        QObject::connect(&m_client, &SignalingClient::disconnected, note("disconnected"));
+        QObject::connect(&m_client, &SignalingClient::messageReceived,
+                         [this](const auto& message) { m_messages.push_back(jsonText(message)); });
+        QObject::connect(&m_client, &SignalingClient::sessionHandshakeRequest, note("request"));
+        QObject::connect(&m_client, &SignalingClient::sessionAutoAccept, note("autoAccept"));
+        QObject::connect(&m_client, &SignalingClient::sessionHandshakeAck, note("ack"));
+        QObject::connect(&m_client, &SignalingClient::connectionError, note("error"));
+        QObject::connect(&m_client, &SignalingClient::iceOffer, note("offer"));
+        QObject::connect(&m_client, &SignalingClient::iceAnswer, note("answer"));
+        QObject::connect(&m_client, &SignalingClient::iceCandidate, note("candidate"));
+    }
+
+    /// Starts connecting to the server as a registered device.
+    void connectClient() {
+        m_client.connectToServer(m_server.url(), m_device.clientId, m_device.token);
+    }
+
+    bool isOnline() const { return m_server.isOnline(m_device.clientId); }
+
+    bool goOnline() {
+        connectClient();
+        return waitFor(u"connected"_s);
+    }
+
+    /// Waits for a signal, given as its line; it and the signals before it are forgotten.
+    bool waitFor(const QString& line) {
+        const bool seen = eventually([&] { return m_signals.contains(line); });
+        m_signals.remove(0, m_signals.indexOf(line) + 1);
+        return seen;
+    }
+
+    bool waitForLog(const std::string& line, int count = 1) {
+        return eventually([&] { return m_log.count(line) >= count; });
+    }
+
+    const devserver::Device m_device = m_server.registerDevice();
+    QStringList m_signals;
+    std::vector<std::string> m_messages;
+    SignalingClient m_client;
+};
+
+const std::string kReconnecting = "info|Reconnecting in 1000 ms (attempt 1/10)";
+
+TEST_F(SignalingClientTest, TheUrlFollowsTheServers) {
+    const struct {
+        const char *server, *socket;
+    } cases[] = {
+        {"https://localhost:8443/any/path", "wss://localhost:8443/ws/clients/123456789"},
+        {"http://localhost:1", "ws://localhost:1/ws/clients/123456789"},
+        {"other://localhost", "ws://localhost/ws/clients/123456789"},
+    };
+    for (const auto& expected : cases) {
+        m_client.connectToServer(QUrl(QLatin1String(expected.server)), u"123456789"_s, u"tok"_s);
+        EXPECT_EQ(
+            m_log.count(std::string("info|Connecting to signaling server: ") + expected.socket), 1);
+        m_client.disconnectFromServer();
+    }
+}
+
+TEST_F(SignalingClientTest, ConnectedMeansAuthenticated) {
+    QWebSocketServer server({}, QWebSocketServer::NonSecureMode);
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    m_client.sendMessage({{"type", "early"}});
+    EXPECT_EQ(m_log.count("warning|Cannot send message: not connected"), 1);
+    m_client.connectToServer(server.serverUrl(), u"123456789"_s, u"tok"_s);
+    ASSERT_TRUE(eventually([&] { return server.hasPendingConnections(); }));
+    const std::unique_ptr<QWebSocket> peer(server.nextPendingConnection());
+    EXPECT_EQ(peer->requestUrl().path(), u"/ws/clients/123456789"_s);
+    EXPECT_EQ(peer->origin(), QString());
+    QSignalSpy received(peer.get(), &QWebSocket::textMessageReceived);
+    ASSERT_TRUE(received.wait());
+    EXPECT_EQ(received.takeFirst().at(0), uR"({"token":"tok","type":"AUTH"})"_s);
+    EXPECT_TRUE(m_client.isConnected());
+    EXPECT_TRUE(m_signals.isEmpty());
+
+    peer->sendTextMessage(uR"({"type":"AUTH_OK"})"_s);
+    EXPECT_TRUE(waitFor(u"connected"_s));
+    m_client.sendMessage({{"type", "SET_PASSWORD"}, {"password", "pw"}});
+    ASSERT_TRUE(received.wait());
+    EXPECT_EQ(received.takeFirst().at(0), uR"({"password":"pw","type":"SET_PASSWORD"})"_s);
+    EXPECT_EQ(m_log.count("info|Signaling WebSocket connected, sending auth"), 1);
+    EXPECT_EQ(m_log.count("info|Signaling auth confirmed"), 1);
+    EXPECT_EQ(m_log.count(R"(debug|Signaling message: {"type":"AUTH_OK"})"), 1);
+}
+
+TEST_F(SignalingClientTest, EveryMessageTypeBecomesItsSignal) {
+    ASSERT_TRUE(goOnline());
+    const struct {
+        const char *message, *signal;
+    } cases[] = {
+        {R"({"type":"SESSION_HANDSHAKE_REQUEST","session_id":"s","master_client_id":"m","purpose":"p"})",
+         "request|s|m|p"},
+        {R"({"type":"SESSION_AUTO_ACCEPT","session_id":"s","master_client_id":"m","master_ecdh_public_key":"k"})",
+         "autoAccept|s|m|k"},
+        {R"({"type":"SESSION_HANDSHAKE_ACK","session_id":"s","state":"st","target_ecdh_public_key":"k"})",
+         "ack|s|st|k"},
+        {R"({"type":"ICE_OFFER","session_id":"s","from_client_id":"f","sdp":"v=0"})",
+         "offer|s|f|v=0"},
+        {R"({"type":"ICE_ANSWER","session_id":"s","from_client_id":"f","sdp":"v=0"})",
+         "answer|s|f|v=0"},
+        {R"({"type":"ICE_CANDIDATE","session_id":"s","from_client_id":"f","candidate":"c","mid":"0"})",
+         "candidate|s|f|c|0"},
+        {R"({"type":"ICE_CANDIDATE","session_id":"s","from_client_id":5,"candidate":["c"]})",
+         "candidate|s|||"},
+        {R"({"type":"AUTH_OK"})", "connected"},
+    };
+    for (const auto& expected : cases) {
+        m_server.pushText(m_device.clientId, QLatin1String(expected.message));
+        EXPECT_TRUE(waitFor(QLatin1String(expected.signal))) << expected.signal;
+        EXPECT_EQ(m_messages.back(), jsonText(parseJson(expected.message)));
+    }
+    EXPECT_EQ(m_log.count("info|Session auto-accepted: s from m"), 1);
+    EXPECT_EQ(m_log.count("info|Session handshake ACK: s state=st"), 1);
+}
+
+TEST_F(SignalingClientTest, OddMessagesAreSkipped) {
+    ASSERT_TRUE(goOnline());
+    m_messages.clear();
+    const std::vector<std::string> odd{R"({"session_id":"s"})", R"({"type":"ice_offer"})",
+                                       R"({"type":["ICE_OFFER"]})", R"(["ICE_OFFER"])", "7"};
+    for (const std::string& text : odd) {
+        m_server.pushText(m_device.clientId, QString::fromStdString(text));
+    }
+    m_server.pushText(m_device.clientId, u"{broken"_s);
+    m_server.pushText(m_device.clientId, QString(100'000, QLatin1Char('[')));
+    m_server.pushText(m_device.clientId, uR"({"type":"AUTH_OK"})"_s);
+    EXPECT_TRUE(eventually([&] { return !m_signals.isEmpty(); }));
+    EXPECT_EQ(m_signals, QStringList{u"connected"_s});
+    EXPECT_EQ(std::vector(m_messages.begin(), m_messages.end() - 1), odd);
+    EXPECT_TRUE(m_log.contains("warning|Failed to parse signaling message: [json.exception"));
+}
+
+TEST_F(SignalingClientTest, ARejectedTokenStopsReconnecting) {
+    m_server.misbehaviour().setRejectAuth(true);
+    connectClient();
+    EXPECT_TRUE(waitFor(u"error|Authentication rejected by server"_s));
+    EXPECT_TRUE(eventually([&] { return !m_client.isConnected(); }));
+    EXPECT_TRUE(waitForLog("info|Signaling WebSocket disconnected"));
+    EXPECT_EQ(m_log.count("error|Signaling auth rejected by server — not reconnecting"), 1);
+    EXPECT_FALSE(m_log.contains("Reconnecting"));
+
+    m_server.misbehaviour().setRejectAuth(false);
+    EXPECT_TRUE(goOnline());
+    m_server.dropSignaling(m_device.clientId);
+    EXPECT_TRUE(waitForLog(kReconnecting));
+}
+
+TEST_F(SignalingClientTest, ADropIsMendedAfterASecond) {
+    ASSERT_TRUE(goOnline());
+    m_server.dropSignaling(m_device.clientId);
+    EXPECT_TRUE(waitFor(u"disconnected"_s));
+    EXPECT_EQ(m_log.count(kReconnecting), 1);
+    EXPECT_TRUE(waitFor(u"connected"_s));
+    EXPECT_TRUE(isOnline());
+    EXPECT_EQ(m_log.count("info|Attempting reconnect 1/10"), 1);
+}
+
+TEST_F(SignalingClientTest, ServersThatCannotBeReachedAreTriedAgain) {
+    m_client.connectToServer(test::deafUrl(), u"1"_s, u"tok"_s);
+    EXPECT_TRUE(waitFor(u"error|Connection refused"_s));
+    EXPECT_TRUE(waitForLog("error|WebSocket error (0): Connection refused"));
+    EXPECT_TRUE(waitForLog(kReconnecting, 2)) << "each attempt counts as the first";
+
+    const test::CannedServer noUpgrade("HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n");
+    m_log.clear();
+    m_client.connectToServer(noUpgrade.url(), u"1"_s, u"tok"_s);
+    EXPECT_TRUE(waitForLog(kReconnecting));
+
+    const test::CannedServer silent;
+    SignalingClient impatient(nullptr, std::chrono::milliseconds(50));
+    m_log.clear();
+    m_client.disconnectFromServer();
+    impatient.connectToServer(silent.url(), u"1"_s, u"tok"_s);
+    EXPECT_TRUE(waitForLog(kReconnecting));
+}
+
+TEST_F(SignalingClientTest, AnOversizedMessageEndsTheConnection) {
+    ASSERT_TRUE(goOnline());
+    m_server.pushText(m_device.clientId, QString(1024 * 1024 + 1, QLatin1Char('1')));
+    EXPECT_TRUE(waitForLog(kReconnecting));
+    EXPECT_EQ(m_messages.size(), 1U);
+}
+
+TEST_F(SignalingClientTest, DisconnectingIsForGood) {
+    ASSERT_TRUE(goOnline());
+    m_client.disconnectFromServer();
+    EXPECT_TRUE(eventually([&] { return !isOnline(); }));
+    EXPECT_FALSE(m_client.isConnected());
+    EXPECT_EQ(m_log.count(kReconnecting), 0);
+
+    ASSERT_TRUE(goOnline());
+    m_server.dropSignaling(m_device.clientId);
+    ASSERT_TRUE(waitForLog(kReconnecting));
+    m_client.disconnectFromServer();
+    EXPECT_FALSE(QTest::qWaitFor([&] { return m_log.contains("Attempting"); }, 1200));
+}
+
+TEST_F(SignalingClientTest, ConnectingAgainReplacesTheConnection) {
+    ASSERT_TRUE(goOnline());
+    const auto other = m_server.registerDevice();
+    m_client.connectToServer(m_server.url(), other.clientId, other.token);
+    EXPECT_TRUE(waitFor(u"connected"_s));
+    EXPECT_TRUE(eventually([&] { return !isOnline(); }));
+    EXPECT_TRUE(m_server.isOnline(other.clientId));
+}
+
+TEST_F(SignalingClientTest, AHandlerMayDisconnect) {
+    QObject::connect(&m_client, &SignalingClient::messageReceived,
+                     [this] { m_client.disconnectFromServer(); });
+    connectClient();
+    EXPECT_TRUE(waitFor(u"disconnected"_s));
+    EXPECT_FALSE(m_log.contains("Reconnecting"));
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+namespace corvane::demo {
+
+/// Prints the demonstration's findings as they come, and remembers whether all of them are good.
+class DemoReport {
+public:
+    void fact(const QString& name, const QString& value);
+
+    /// A finding that must hold for the demonstration to succeed. Answers `holds`.
+    bool check(const QString& name, bool holds, const QString& value);
+
+    bool isGood() const { return m_good; }
+
+private:
+    bool m_good = true;
+};
+
+} // namespace corvane::demo

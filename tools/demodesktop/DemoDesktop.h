@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+#include <QWidget>
+
+namespace corvane::demo {
+
+/// A desktop with something going on, for a shared machine that has none: a clock, a scrolling
+/// text, a moving shape and a field to type into.
+///
+/// Reports on standard output: "field: x y width height" and "echo: x y width height", where the
+/// field and the label that repeats its text lie on the screen, and "typed: text" each time the
+/// text changes.
+class DemoDesktop : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit DemoDesktop(QWidget* parent = nullptr);
+
+    /// Keeps still from now on: clock, text and shape disappear, the field stays.
+    void freeze();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void reportGeometry() const;
+    void showTime();
+
+    QLabel* m_time = nullptr;
+    QLineEdit* m_field = nullptr;
+    QLabel* m_echo = nullptr;
+    QWidget* m_lively = nullptr;
+    QTimer m_tick;
+};
+
+} // namespace corvane::demo

@@ -1,0 +1,90 @@
+#include "ClientProcess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+
+#include <csignal>
+#include <sys/prctl.h>
+
+namespace corvane::harness {
+
+namespace {
+
+constexpr int kStartTimeoutMs = 10'000;
+constexpr int kStopTimeoutMs = 20'000;
+
+} // namespace
+
+void tieToParent(QProcess& process) {
+    process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+}
+
+ClientProcess::ClientProcess(const QString& display) {
+    const QString home = m_home.path();
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home);
+    for (const auto& [variable, folder] :
+         {std::pair{"XDG_CONFIG_HOME", "config"}, std::pair{"XDG_DATA_HOME", "data"},
+          std::pair{"XDG_CACHE_HOME", "cache"}, std::pair{"XDG_RUNTIME_DIR", "runtime"}}) {
+        const QString path = home + QLatin1Char('/') + QLatin1String(folder);
+        QDir().mkpath(path);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        environment.insert(QLatin1String(variable), path);
+    }
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    m_process.setProcessEnvironment(environment);
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    tieToParent(m_process);
+}
+
+ClientProcess::~ClientProcess() {
+    stop();
+}
+
+void ClientProcess::presetPassword(const QString& password) {
+    QSettings(settingsPath(), QSettings::NativeFormat)
+        .setValue(QStringLiteral("auth/sessionPassword"), password);
+}
+
+bool ClientProcess::start(const QStringList& arguments) {
+    m_process.start(QStringLiteral(CORVANE_CLIENT_PATH),
+                    QStringList{QStringLiteral("--log-level"), QStringLiteral("debug")} +
+                        arguments);
+    return m_process.waitForStarted(kStartTimeoutMs);
+}
+
+bool ClientProcess::stop() {
+    if (m_process.state() == QProcess::NotRunning) {
+        return true;
+    }
+    m_process.terminate();
+    if (m_process.waitForFinished(kStopTimeoutMs)) {
+        return m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0;
+    }
+    m_process.kill();
+    m_process.waitForFinished();
+    return false;
+}
+
+QString ClientProcess::clientId() const {
+    return QSettings(settingsPath(), QSettings::NativeFormat)
+        .value(QStringLiteral("auth/clientId"))
+        .toString();
+}
+
+QString ClientProcess::log() const {
+    QFile file(m_home.path() + QStringLiteral("/data/Corvane/CorvaneClient/CorvaneClient.log"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList ClientProcess::logLines(const QString& part) const {
+    return log().split(QLatin1Char('\n')).filter(part);
+}
+
+QString ClientProcess::settingsPath() const {
+    return m_home.path() + QStringLiteral("/config/Corvane/CorvaneClient.conf");
+}
+
+} // namespace corvane::harness

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+
+namespace corvane::harness {
+
+/// One user of the program: a home, a settings file, a display and the running client.
+class ClientProcess {
+public:
+    /// `display` is the X display that the client's window appears on.
+    explicit ClientProcess(const QString& display);
+    ~ClientProcess();
+
+    /// Stores the session password before the first start.
+    void presetPassword(const QString& password);
+
+    bool start(const QStringList& arguments = {});
+
+    /// Ends the client as the system would and waits. False when it did not end well by itself.
+    bool stop();
+
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+    int exitCode() const { return m_process.exitCode(); }
+
+    /// The client ID that the server issued; empty before the first registration.
+    QString clientId() const;
+
+    QString log() const;
+
+    /// The lines of the log that hold `part`.
+    QStringList logLines(const QString& part) const;
+
+    QProcessEnvironment environment() const { return m_process.processEnvironment(); }
+
+private:
+    QString settingsPath() const;
+
+    QTemporaryDir m_home;
+    QProcess m_process;
+};
+
+/// Starts `process` such that it ends with this one, however this one ends.
+void tieToParent(QProcess& process);
+
+} // namespace corvane::harness

@@ -1,0 +1,179 @@
+#include "XDisplay.h"
+
+#include <xcb/xtest.h>
+
+#include <cstdlib>
+
+namespace corvane::harness {
+
+namespace {
+
+struct FreeReply {
+    void operator()(void* reply) const { std::free(reply); }
+};
+template <typename T>
+using Reply = std::unique_ptr<T, FreeReply>;
+
+constexpr uint8_t kLeftButton = 1;
+
+xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (; screens.rem > 0 && number > 0; --number) {
+        xcb_screen_next(&screens);
+    }
+    return screens.data;
+}
+
+} // namespace
+
+XDisplay::XDisplay(const QString& name)
+    : m_connection(xcb_connect(name.toLatin1().constData(), &m_screenNumber)) {
+    if (isConnected()) {
+        m_screen = screenOf(m_connection.get(), m_screenNumber);
+    }
+}
+
+bool XDisplay::isConnected() const {
+    return xcb_connection_has_error(m_connection.get()) == 0;
+}
+
+QSize XDisplay::size() const {
+    return m_screen != nullptr ? QSize(m_screen->width_in_pixels, m_screen->height_in_pixels)
+                               : QSize();
+}
+
+QImage XDisplay::grab(const QRect& area) const {
+    const QRect visible = area & QRect(QPoint(0, 0), size());
+    if (!isConnected() || visible.isEmpty()) {
+        return {};
+    }
+    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
+        m_connection.get(),
+        xcb_get_image(m_connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root,
+                      static_cast<int16_t>(visible.x()), static_cast<int16_t>(visible.y()),
+                      static_cast<uint16_t>(visible.width()),
+                      static_cast<uint16_t>(visible.height()), ~0U),
+        nullptr));
+    const int stride = visible.width() * 4;
+    if (!reply || xcb_get_image_data_length(reply.get()) < stride * visible.height()) {
+        return {};
+    }
+    return QImage(xcb_get_image_data(reply.get()), visible.width(), visible.height(), stride,
+                  QImage::Format_RGB32)
+        .copy();
+}
+
+QString XDisplay::title(xcb_window_t window) const {
+    constexpr uint32_t kLongestTitle = 256; // four-byte units
+    const Reply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection.get(),
+                               xcb_get_property(m_connection.get(), 0, window, XCB_ATOM_WM_NAME,
+                                                XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestTitle),
+                               nullptr));
+    return reply ? QString::fromUtf8(static_cast<const char*>(xcb_get_property_value(reply.get())),
+                                     xcb_get_property_value_length(reply.get()))
+                 : QString();
+}
+
+std::optional<QRect> XDisplay::findWindow(const QString& title) const {
+    return isConnected() ? findWindow(m_screen->root, title) : std::nullopt;
+}
+
+std::optional<QRect> XDisplay::findWindow(xcb_window_t parent, const QString& wanted) const {
+    xcb_connection_t* const connection = m_connection.get();
+    const Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(connection, xcb_query_tree(connection, parent), nullptr));
+    if (!tree) {
+        return std::nullopt;
+    }
+    const xcb_window_t* const children = xcb_query_tree_children(tree.get());
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        const xcb_window_t window = children[i];
+        const Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+            connection, xcb_get_window_attributes(connection, window), nullptr));
+        if (!attributes || attributes->map_state != XCB_MAP_STATE_VIEWABLE) {
+            continue;
+        }
+        if (title(window).startsWith(wanted)) {
+            const Reply<xcb_get_geometry_reply_t> geometry(
+                xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+            const Reply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
+                connection, xcb_translate_coordinates(connection, window, m_screen->root, 0, 0),
+                nullptr));
+            if (geometry && origin) {
+                return QRect(origin->dst_x, origin->dst_y, geometry->width, geometry->height);
+            }
+        }
+        if (const auto found = findWindow(window, wanted)) {
+            return found;
+        }
+    }
+    return std::nullopt;
+}
+
+void XDisplay::movePointer(QPoint position) {
+    fake(XCB_MOTION_NOTIFY, 0, position);
+}
+
+void XDisplay::click(QPoint position) {
+    movePointer(position);
+    fake(XCB_BUTTON_PRESS, kLeftButton);
+    fake(XCB_BUTTON_RELEASE, kLeftButton);
+}
+
+void XDisplay::type(const QString& text) {
+    for (const QChar character : text) {
+        pressKey(character.unicode());
+    }
+}
+
+void XDisplay::pressKey(xcb_keysym_t keysym) {
+    const Key key = findKey(keysym);
+    if (key.code == 0) {
+        return;
+    }
+    const xcb_keycode_t shift = key.shifted ? findKey(kKeyShift).code : xcb_keycode_t{0};
+    if (shift != 0) {
+        fake(XCB_KEY_PRESS, shift);
+    }
+    fake(XCB_KEY_PRESS, key.code);
+    fake(XCB_KEY_RELEASE, key.code);
+    if (shift != 0) {
+        fake(XCB_KEY_RELEASE, shift);
+    }
+}
+
+XDisplay::Key XDisplay::findKey(xcb_keysym_t keysym) const {
+    if (!isConnected()) {
+        return {};
+    }
+    const xcb_setup_t* const setup = xcb_get_setup(m_connection.get());
+    const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
+    const Reply<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
+        m_connection.get(), xcb_get_keyboard_mapping(m_connection.get(), setup->min_keycode, count),
+        nullptr));
+    if (!mapping) {
+        return {};
+    }
+    const xcb_keysym_t* const keysyms = xcb_get_keyboard_mapping_keysyms(mapping.get());
+    const int perKey = mapping->keysyms_per_keycode;
+    for (int level = 0; level < qMin(perKey, 2); ++level) {
+        for (int key = 0; key < count; ++key) {
+            if (keysyms[key * perKey + level] == keysym) {
+                return {static_cast<xcb_keycode_t>(setup->min_keycode + key), level == 1};
+            }
+        }
+    }
+    return {};
+}
+
+void XDisplay::fake(uint8_t type, uint8_t detail, QPoint position) {
+    if (!isConnected()) {
+        return;
+    }
+    xcb_test_fake_input(m_connection.get(), type, detail, XCB_CURRENT_TIME, m_screen->root,
+                        static_cast<int16_t>(position.x()), static_cast<int16_t>(position.y()), 0);
+    xcb_flush(m_connection.get());
+}
+
+} // namespace corvane::harness
