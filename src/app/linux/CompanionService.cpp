@@ -1,0 +1,10 @@
+#include "CompanionService.h"
+
+namespace corvane {
+
+// The companion service exists on Windows only.
+bool isCompanionServicePresent() {
+    return false;
+}
+
+} // namespace corvane

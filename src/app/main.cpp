@@ -1,0 +1,100 @@
+#include "ApiClient.h"
+#include "ApplicationIcon.h"
+#include "AuthController.h"
+#include "Autostart.h"
+#include "ButtonCursorFilter.h"
+#include "CommandLine.h"
+#include "CompanionService.h"
+#include "DeploymentConstants.h"
+#include "Logging.h"
+#include "MainWindow.h"
+#include "QuitOnRequest.h"
+#include "SessionManager.h"
+#include "SettingsController.h"
+#include "SignalingClient.h"
+#include "SingleInstanceGuard.h"
+#include "Theme.h"
+#include "Translation.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTranslator>
+#include <spdlog/spdlog.h>
+
+#include <cstdlib>
+
+namespace {
+
+using namespace corvane;
+
+int exitCode(bool success) {
+    return success ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+void applyLook(QApplication& application, ButtonCursorFilter& cursorFilter) {
+    constexpr int kIconSide = 256;
+    application.installEventFilter(&cursorFilter);
+    QApplication::setPalette(applicationPalette());
+    application.setStyleSheet(applicationStyleSheet());
+    QApplication::setWindowIcon(QIcon(drawApplicationIcon(kIconSide)));
+}
+
+void configureStreaming(SessionManager& session, const SettingsController& settings) {
+    session.setCaptureFrameRate(settings.captureFrameRate());
+    session.setEncoderQuality(settings.encoderQuality(), settings.encoderSpeed().toStdString());
+    session.setMonitorIndex(settings.monitorIndex());
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("CorvaneClient"));
+    QApplication::setOrganizationName(QStringLiteral("Corvane"));
+    QApplication::setApplicationVersion(QString::fromLatin1(deployment::kApplicationVersion));
+
+    const SingleInstanceGuard guard;
+    if (!guard.isFirst()) {
+        return EXIT_SUCCESS;
+    }
+
+    const CommandLine commandLine = parseCommandLine(QApplication::arguments());
+    setUpLogging(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation),
+                 commandLine.logLevel);
+    switch (commandLine.action) {
+    case CommandLine::Action::Install:
+        return exitCode(installAutostart());
+    case CommandLine::Action::Uninstall:
+        return exitCode(uninstallAutostart());
+    case CommandLine::Action::Run:
+        break;
+    }
+
+    quitOnSystemRequest(application);
+    ButtonCursorFilter cursorFilter;
+    applyLook(application, cursorFilter);
+
+    // Each takes the ones before it that it needs; destroyed in reverse order.
+    SettingsController settings;
+    QTranslator translator;
+    installTranslation(translator, interfaceLanguage(settings.language(), QLocale::system().name()),
+                       QApplication::applicationDirPath() + QStringLiteral("/translations"));
+    if (isCompanionServicePresent()) {
+        spdlog::info("Corvane service detected — agent mode not yet implemented, continuing in "
+                     "standalone mode");
+    }
+    spdlog::info("Corvane Client starting...");
+
+    ApiClient api;
+    api.setServerUrl(settings.serverBaseUrl());
+    SignalingClient signaling;
+    AuthController auth(&api, &signaling, &settings);
+    SessionManager session(&api, &signaling);
+    configureStreaming(session, settings);
+
+    MainWindow window(&auth, &api, &signaling, &session, &settings);
+    window.show();
+    auth.start();
+    return QApplication::exec();
+}

@@ -1,0 +1,51 @@
+#include "CardParts.h"
+
+#include "UiColors.h"
+
+#include <QFrame>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+
+namespace corvane {
+
+void styleCard(QFrame* card, const QString& objectName) {
+    card->setObjectName(objectName);
+    card->setStyleSheet(QStringLiteral("QFrame#%1 { background-color: %2; border: 1px solid %3; "
+                                       "border-radius: 6px; }")
+                            .arg(objectName, QLatin1String(colors::kCardBackground),
+                                 QLatin1String(colors::kCardBorder)));
+}
+
+QLabel* createCaption(const QString& text, QWidget* parent) {
+    auto* const caption = new QLabel(text, parent);
+    caption->setStyleSheet(QStringLiteral("color: %1; font-size: 10px; font-weight: bold; "
+                                          "letter-spacing: 1px;")
+                               .arg(QLatin1String(colors::kCaption)));
+    return caption;
+}
+
+QPushButton* createIconButton(const QString& objectName, const QString& icon,
+                              const QString& toolTip, int side, QWidget* parent) {
+    auto* const button = new QPushButton(QIcon(QStringLiteral(":/icons/") + icon), {}, parent);
+    button->setObjectName(objectName);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    button->setFixedSize(side, side);
+    button->setIconSize(QSize(side - 10, side - 10));
+    button->setStyleSheet(QStringLiteral(
+        "QPushButton { background: transparent; border: none; border-radius: 4px; padding: 0; }"
+        "QPushButton:hover { background-color: #2a3a5e; }"
+        "QPushButton:pressed { background-color: #3a4a6e; }"));
+    return button;
+}
+
+QFrame* createSeparator(QWidget* parent) {
+    auto* const line = new QFrame(parent);
+    line->setFixedHeight(1);
+    line->setStyleSheet(QStringLiteral("background-color: %1; border: none;")
+                            .arg(QLatin1String(colors::kCardBorder)));
+    return line;
+}
+
+} // namespace corvane

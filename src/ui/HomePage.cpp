@@ -1,0 +1,96 @@
+#include "HomePage.h"
+
+#include "CardParts.h"
+#include "ConnectCard.h"
+#include "DeploymentConstants.h"
+#include "DeviceCard.h"
+#include "UiColors.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace corvane {
+
+namespace {
+
+constexpr int kHeaderButtonSide = 32;
+constexpr int kCopyButtonSide = 28;
+
+} // namespace
+
+HomePage::HomePage(SettingsController* settings, QWidget* parent) : QWidget(parent) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 12);
+    layout->setSpacing(12);
+    m_deviceCard = new DeviceCard(this);
+    m_connectCard = new ConnectCard(settings, this);
+    auto* const version = new QLabel(QString::fromLatin1(deployment::kApplicationVersion), this);
+    version->setObjectName(QStringLiteral("versionLabel"));
+    version->setStyleSheet(
+        QStringLiteral("color: %1; font-size: 10px;").arg(QLatin1String(colors::kCaption)));
+
+    layout->addLayout(createHeader());
+    layout->addWidget(m_deviceCard);
+    layout->addWidget(m_connectCard);
+    layout->addWidget(createCaption(tr("PAIRING CODE"), this));
+    layout->addLayout(createPairingRow());
+    layout->addWidget(createAdminLink());
+    layout->addStretch(1);
+    layout->addWidget(version, 0, Qt::AlignRight);
+}
+
+QLayout* HomePage::createHeader() {
+    auto* const row = new QHBoxLayout;
+    auto* const title = new QLabel(QStringLiteral("Corvane"), this);
+    title->setObjectName(QStringLiteral("titleLabel"));
+    title->setStyleSheet(QStringLiteral("color: %1; font-size: 20px; font-weight: bold; "
+                                        "letter-spacing: 1px;")
+                             .arg(QLatin1String(colors::kAccent)));
+    auto* const admin = createIconButton(QStringLiteral("adminButton"), QStringLiteral("admin"),
+                                         tr("Admin Panel"), kHeaderButtonSide, this);
+    connect(admin, &QPushButton::clicked, this, &HomePage::adminPanelRequested);
+    row->addWidget(title, 1);
+    row->addWidget(admin);
+    return row;
+}
+
+QLayout* HomePage::createPairingRow() {
+    auto* const row = new QHBoxLayout;
+    m_pairingCode = new QLabel(this);
+    m_pairingCode->setObjectName(QStringLiteral("pairingCodeLabel"));
+    m_pairingCode->setStyleSheet(QStringLiteral("color: %1; font-size: 18px; font-weight: bold; "
+                                                "font-family: monospace;")
+                                     .arg(QLatin1String(colors::kPairingCode)));
+    auto* const copy =
+        createIconButton(QStringLiteral("copyPairingCodeButton"), QStringLiteral("content_copy"),
+                         tr("Copy Pairing Code"), kCopyButtonSide, this);
+    connect(copy, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(m_pairingCode->text()); });
+    row->addWidget(m_pairingCode, 1);
+    row->addWidget(copy);
+    return row;
+}
+
+QLabel* HomePage::createAdminLink() {
+    const QUrl url(QString::fromLatin1(deployment::kAdminUrl));
+    const QString link = QStringLiteral("<a href=\"%1\" style=\"color: %2;\">%3</a>")
+                             .arg(url.toString(), QLatin1String(colors::kAccent), url.host());
+    auto* const label = new QLabel(tr("Add this device at ") + link, this);
+    label->setObjectName(QStringLiteral("adminLink"));
+    label->setTextFormat(Qt::RichText);
+    label->setStyleSheet(
+        QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kCaption)));
+    connect(label, &QLabel::linkActivated, this, &HomePage::adminPanelRequested);
+    return label;
+}
+
+void HomePage::setPairingCode(const QString& code) {
+    m_pairingCode->setText(code);
+}
+
+} // namespace corvane

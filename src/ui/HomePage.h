@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QLayout;
+
+namespace corvane {
+
+class ConnectCard;
+class DeviceCard;
+class SettingsController;
+
+/// Page shown while this side is not viewing a partner.
+class HomePage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit HomePage(SettingsController* settings, QWidget* parent = nullptr);
+
+    DeviceCard* deviceCard() const { return m_deviceCard; }
+    ConnectCard* connectCard() const { return m_connectCard; }
+    void setPairingCode(const QString& code);
+
+Q_SIGNALS:
+    void adminPanelRequested();
+
+private:
+    QLayout* createHeader();
+    QLayout* createPairingRow();
+    QLabel* createAdminLink();
+
+    DeviceCard* m_deviceCard = nullptr;
+    ConnectCard* m_connectCard = nullptr;
+    QLabel* m_pairingCode = nullptr;
+};
+
+} // namespace corvane

@@ -1,0 +1,317 @@
+#include "MainWindow.h"
+
+#include "ApiClient.h"
+#include "AuthController.h"
+#include "ConnectCard.h"
+#include "DeploymentConstants.h"
+#include "DeviceCard.h"
+#include "HomePage.h"
+#include "MessageBoxes.h"
+#include "PartnerId.h"
+#include "SessionManager.h"
+#include "SettingsController.h"
+#include "SignalingClient.h"
+#include "UiColors.h"
+#include "ViewerPage.h"
+
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QInputDialog>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QUrl>
+#include <spdlog/spdlog.h>
+
+namespace corvane {
+
+namespace {
+
+constexpr QSize kHomeMinimum(420, 600);
+constexpr QSize kViewerMinimum(800, 600);
+constexpr QSize kViewerLargest(1280, 720);
+
+QString productTitle() {
+    return QStringLiteral("Corvane - Remote Access");
+}
+
+bool isActive(SessionState state) {
+    return state != SessionState::Idle && state != SessionState::Failed;
+}
+
+/// Three quarters of the screen, within what most pictures need.
+QSize initialViewerSize() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? (screen->availableSize() * 3 / 4).boundedTo(kViewerLargest)
+                             : kViewerLargest;
+}
+
+} // namespace
+
+MainWindow::MainWindow(AuthController* auth, ApiClient* api, SignalingClient* signaling,
+                       SessionManager* session, SettingsController* settings)
+    : m_auth(auth), m_api(api), m_signaling(signaling), m_session(session), m_settings(settings) {
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(productTitle());
+    setMinimumSize(kHomeMinimum);
+    m_boxes = new MessageBoxes(this);
+    createPages();
+    connectPages();
+    connectServices();
+    m_home->setPairingCode(m_auth->pairingCode());
+    m_connect->focusPartnerField();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::createPages() {
+    m_pages = new QStackedWidget(this);
+    m_home = new HomePage(m_settings, m_pages);
+    m_viewer = new ViewerPage(m_pages);
+    m_pages->addWidget(m_home);
+    m_pages->addWidget(m_viewer);
+    setCentralWidget(m_pages);
+    m_device = m_home->deviceCard();
+    m_connect = m_home->connectCard();
+}
+
+void MainWindow::connectPages() {
+    connect(m_home, &HomePage::adminPanelRequested, this,
+            [] { QDesktopServices::openUrl(QUrl(QString::fromLatin1(deployment::kAdminUrl))); });
+    connect(m_device, &DeviceCard::changePasswordRequested, this, &MainWindow::changePassword);
+    connect(m_connect, &ConnectCard::connectRequested, this, &MainWindow::onConnectClicked);
+    connect(m_connect, &ConnectCard::disconnectRequested, this, &MainWindow::onDisconnectClicked);
+    connect(m_viewer, &ViewerPage::disconnectRequested, this, &MainWindow::onDisconnectClicked);
+    connect(m_viewer, &ViewerPage::monitorSwitchRequested, m_session,
+            &SessionManager::requestMonitorSwitch);
+    connect(m_viewer->view(), &RemoteDesktopWidget::inputEvent, m_session,
+            &SessionManager::sendInputEvent);
+}
+
+void MainWindow::connectServices() {
+    connect(m_auth, &AuthController::authenticated, this, &MainWindow::onAuthenticated);
+    connect(m_auth, &AuthController::loggedOut, this, &MainWindow::onLoggedOut);
+    connect(m_auth, &AuthController::authenticationFailed, this,
+            [this] { setStatus(tr("Server unavailable — retrying..."), colors::kStatusWaiting); });
+    connect(m_auth, &AuthController::pairingCodeChanged, m_home, &HomePage::setPairingCode);
+    connect(m_api, &ApiClient::requestError, this, &MainWindow::onRequestError);
+    connect(m_signaling, &SignalingClient::connected, this, &MainWindow::onSignalingConnected);
+    connect(m_signaling, &SignalingClient::disconnected, this,
+            &MainWindow::onSignalingDisconnected);
+    connect(m_signaling, &SignalingClient::sessionHandshakeRequest, this,
+            &MainWindow::onSessionHandshakeRequest);
+    connect(m_signaling, &SignalingClient::sessionAutoAccept, this,
+            &MainWindow::onSessionAutoAccept);
+    connect(m_session, &SessionManager::stateChanged, this, &MainWindow::onSessionStateChanged);
+    connect(m_session, &SessionManager::sessionError, this, &MainWindow::onSessionError);
+    connect(m_session, &SessionManager::frameDecoded, this, &MainWindow::onFrameDecoded);
+}
+
+void MainWindow::onAuthenticated(const QString& clientId) {
+    m_device->setClientId(clientId);
+    m_device->setPassword(m_auth->sessionPassword());
+    m_home->setPairingCode(m_auth->pairingCode());
+    m_connect->setConnectEnabled(true);
+    m_connect->setDisconnectEnabled(true);
+    setStatus(tr("Ready"), colors::kStatusReady);
+}
+
+void MainWindow::onLoggedOut() {
+    m_device->showLoggedOut();
+    m_connect->setConnectEnabled(false);
+    m_connect->setDisconnectEnabled(false);
+    setStatus(tr("Disconnected"), colors::kStatusFailed);
+    returnHome();
+}
+
+void MainWindow::onSignalingConnected() {
+    setStatus(tr("Online (Ready)"), colors::kStatusReady);
+}
+
+void MainWindow::onSignalingDisconnected() {
+    if (isRegistered()) {
+        setStatus(tr("Reconnecting..."), colors::kStatusWaiting);
+    }
+}
+
+void MainWindow::onConnectClicked() {
+    const QString partner = barePartnerId(m_connect->partnerText().trimmed());
+    const QString password = m_connect->password().trimmed();
+    if (partner.isEmpty()) {
+        m_boxes->warn(tr("Error"), tr("Please enter a partner Client ID."));
+        return;
+    }
+    if (!isPartnerId(partner)) {
+        m_boxes->warn(tr("Error"), tr("Partner ID must be exactly 9 digits."));
+        return;
+    }
+    if (password.isEmpty()) {
+        m_boxes->warn(tr("Error"), tr("Please enter the partner's password."));
+        return;
+    }
+    m_connect->rememberPartner(partner);
+    spdlog::info("Initiating session to partner: {} (with password)", partner.toStdString());
+    m_connect->setConnectEnabled(false);
+    m_session->initiateSession(partner, password);
+}
+
+void MainWindow::onDisconnectClicked() {
+    if (m_session->state() != SessionState::Idle) {
+        m_session->endSession(QStringLiteral("user_disconnect"));
+    }
+}
+
+void MainWindow::onSessionHandshakeRequest(const QString& sessionId, const QString& masterClientId,
+                                           const QString& purpose) {
+    showNormal();
+    activateWindow();
+    raise();
+    const QString text = tr("Client %1 wants to connect.\nPurpose: %2\n\nAccept?")
+                             .arg(formatPartnerId(masterClientId),
+                                  purpose.isEmpty() ? tr("remote access") : purpose);
+    m_boxes->ask(tr("Incoming Connection"), text, [this, sessionId, masterClientId](bool yes) {
+        spdlog::info("{} session {} from {}", yes ? "Accepted" : "Rejected",
+                     sessionId.toStdString(), masterClientId.toStdString());
+        if (yes) {
+            m_session->acceptSession(sessionId, masterClientId, QString());
+        }
+    });
+}
+
+void MainWindow::onSessionAutoAccept(const QString& sessionId, const QString& masterClientId,
+                                     const QString& masterEcdhPublicKey) {
+    spdlog::info("Auto-accepting session {} from {} (password verified)", sessionId.toStdString(),
+                 masterClientId.toStdString());
+    m_session->acceptSession(sessionId, masterClientId, masterEcdhPublicKey);
+}
+
+void MainWindow::onSessionStateChanged(SessionState newState) {
+    switch (newState) {
+    case SessionState::Idle:
+        if (isRegistered()) {
+            setStatus(tr("Online (Ready)"), colors::kStatusReady);
+        }
+        returnHome();
+        restoreConnectButton();
+        break;
+    case SessionState::Initiating:
+        setStatus(tr("Initiating session..."), colors::kStatusInProgress);
+        break;
+    case SessionState::Handshaking:
+        setStatus(tr("Exchanging keys..."), colors::kStatusInProgress);
+        break;
+    case SessionState::Connecting:
+        setStatus(tr("Establishing transport..."), colors::kStatusInProgress);
+        break;
+    case SessionState::Connected:
+        setStatus(tr("Connected"), colors::kStatusReady);
+        if (m_session->role() == SessionRole::Master) {
+            enterViewer();
+        }
+        break;
+    case SessionState::Closing:
+        setStatus(tr("Disconnecting..."), colors::kStatusWaiting);
+        break;
+    case SessionState::Failed:
+        setStatus(tr("Session failed"), colors::kStatusFailed);
+        returnHome();
+        restoreConnectButton();
+        break;
+    }
+}
+
+void MainWindow::onSessionError(const QString& error) {
+    restoreConnectButton();
+    m_boxes->warn(tr("Session Error"), error);
+}
+
+void MainWindow::onFrameDecoded(std::shared_ptr<DecodedFrame> frame) {
+    m_viewer->view()->updateFrame(std::move(frame));
+}
+
+void MainWindow::onRequestError(const QString& endpoint, int statusCode, const QString& detail) {
+    spdlog::error("API error on {}: {} ({})", endpoint.toStdString(), statusCode,
+                  detail.toStdString());
+    if (endpoint.contains(u"close") || endpoint.contains(u"complete")) {
+        return;
+    }
+    restoreConnectButton();
+    setStatus(tr("Online (Ready)"), colors::kStatusReady);
+    QString message = tr("Failed to connect. Please try again.");
+    if (detail.contains(u"not available") || detail.contains(u"offline")) {
+        message = tr("The partner is not available or offline.");
+    } else if (detail.contains(u"password")) {
+        message = tr("Invalid session password.");
+    }
+    m_boxes->warn(tr("Connection Error"), message);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (isActive(m_session->state())) {
+        m_session->endSession(QStringLiteral("user_closed_window"));
+        returnHome();
+        event->ignore();
+        return;
+    }
+    event->accept();
+}
+
+void MainWindow::setStatus(const QString& text, const char* color) {
+    m_device->setStatus(text, QLatin1String(color));
+}
+
+bool MainWindow::isRegistered() const {
+    return m_auth->isAuthenticated();
+}
+
+void MainWindow::restoreConnectButton() {
+    m_connect->setConnectEnabled(isRegistered());
+}
+
+void MainWindow::enterViewer() {
+    m_pages->setCurrentWidget(m_viewer);
+    m_viewer->view()->setViewingMode(true);
+    m_viewer->view()->setFocus();
+    setMinimumSize(kViewerMinimum);
+    resize(initialViewerSize().expandedTo(kViewerMinimum));
+    setWindowTitle(tr("Corvane - Connected to %1").arg(formatPartnerId(m_session->peerClientId())));
+}
+
+void MainWindow::returnHome() {
+    RemoteDesktopWidget* const view = m_viewer->view();
+    view->setViewingMode(false);
+    view->clearPicture();
+    setWindowTitle(productTitle());
+    if (m_pages->currentWidget() == m_home) {
+        return;
+    }
+    if (isFullScreen()) {
+        showNormal();
+    }
+    m_pages->setCurrentWidget(m_home);
+    setMinimumSize(kHomeMinimum.width(), 0);
+    resize(kHomeMinimum.width(), m_home->sizeHint().height());
+}
+
+void MainWindow::changePassword() {
+    auto* const dialog = new QInputDialog(this);
+    dialog->setObjectName(QStringLiteral("changePasswordDialog"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(tr("Change Session Password"));
+    dialog->setLabelText(tr("New password (min 8 chars, uppercase + lowercase + digit):"));
+    connect(dialog, &QInputDialog::textValueSelected, this, [this](const QString& password) {
+        if (password.isEmpty()) {
+            return;
+        }
+        const QString violation = AuthController::validatePassword(password);
+        if (!violation.isEmpty()) {
+            m_boxes->warn(tr("Invalid Password"), violation);
+            return;
+        }
+        m_auth->setSessionPassword(password);
+        m_device->setPassword(password);
+    });
+    dialog->open();
+}
+
+} // namespace corvane

@@ -1,0 +1,38 @@
+#include "MessageBoxes.h"
+
+namespace corvane {
+
+MessageBoxes::MessageBoxes(QWidget* window) : QObject(window), m_window(window) {}
+
+void MessageBoxes::warn(const QString& title, const QString& text) {
+    QMessageBox* const box = create(QMessageBox::Warning, title, text);
+    box->setObjectName(QStringLiteral("warningBox"));
+    box->setStandardButtons(QMessageBox::Ok);
+    box->open();
+}
+
+void MessageBoxes::ask(const QString& title, const QString& text,
+                       std::function<void(bool yes)> answered) {
+    QMessageBox* const box = create(QMessageBox::Question, title, text);
+    box->setObjectName(QStringLiteral("questionBox"));
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    connect(box, &QMessageBox::finished, this,
+            [answered = std::move(answered)](int result) { answered(result == QMessageBox::Yes); });
+    box->open();
+}
+
+QMessageBox* MessageBoxes::create(QMessageBox::Icon icon, const QString& title,
+                                  const QString& text) {
+    constexpr qsizetype kLongestText = 1000;
+    if (QMessageBox* const previous = m_open.value(title)) {
+        previous->reject();
+    }
+    auto* const box = new QMessageBox(icon, title, text.first(qMin(text.size(), kLongestText)),
+                                      QMessageBox::NoButton, m_window);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    m_open.insert(title, box);
+    return box;
+}
+
+} // namespace corvane

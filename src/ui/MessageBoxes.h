@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QHash>
+#include <QMessageBox>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+
+namespace corvane {
+
+/// Message boxes that never block: a nested event loop inside a signal of the session or the
+/// network could see its sender torn down underneath. One box per title: a newer one replaces the
+/// older, so that a misbehaving peer or server cannot pile them up. Texts are shown literally.
+///
+/// Object names: "warningBox" and "questionBox".
+class MessageBoxes : public QObject {
+    Q_OBJECT
+
+public:
+    explicit MessageBoxes(QWidget* window);
+
+    void warn(const QString& title, const QString& text);
+
+    /// Calls `answered` with true for Yes and false for anything else, a replaced box included.
+    void ask(const QString& title, const QString& text, std::function<void(bool yes)> answered);
+
+private:
+    QMessageBox* create(QMessageBox::Icon icon, const QString& title, const QString& text);
+
+    QWidget* const m_window;
+    QHash<QString, QPointer<QMessageBox>> m_open;
+};
+
+} // namespace corvane
