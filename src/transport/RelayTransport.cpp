@@ -13,6 +13,7 @@ namespace {
 // What the socket holds back for us: a handler that stalls stalls the sender, not our memory.
 constexpr qint64 kSocketReadBuffer = 1024 * 1024;
 constexpr size_t kReadPiece = 64 * 1024;
+constexpr qsizetype kOwnBlockSize = 16 * 1024;
 
 const uint8_t* bytesOf(const std::string& text) {
     return reinterpret_cast<const uint8_t*>(text.data());
@@ -85,7 +86,11 @@ bool RelayTransport::send(ChannelType channel, const uint8_t* data, size_t size)
         return false;
     }
     const QByteArray frame = relayFrame(channel, data, size);
-    const qint64 written = m_socket.write(frame);
+    // The socket queues a byte array as a block with a system call of its own; small frames are
+    // cheaper copied together.
+    const qint64 written = frame.size() < kOwnBlockSize
+                               ? m_socket.write(frame.constData(), frame.size())
+                               : m_socket.write(frame);
     if (written != frame.size()) {
         spdlog::error("RelayTransport::send: write failed, wrote {}/{} bytes", written,
                       frame.size());

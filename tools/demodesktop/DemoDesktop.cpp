@@ -34,29 +34,31 @@ DemoDesktop::DemoDesktop(QWidget* parent) : QWidget(parent) {
         std::fflush(stdout);
     });
 
-    m_lively = new QWidget(this);
-    auto* const lively = new QHBoxLayout(m_lively);
-    lively->addWidget(new ScrollingText(m_lively), 3);
-    lively->addWidget(new MovingShape(m_lively), 2);
+    m_text = new ScrollingText(this);
+    m_shape = new MovingShape(this);
+    auto* const lively = new QHBoxLayout;
+    lively->addWidget(m_text, 3);
+    lively->addWidget(m_shape, 2);
 
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(40, 30, 40, 30);
+    // Leaves the left free for the client's own window.
+    layout->setContentsMargins(460, 30, 40, 30);
     layout->setSpacing(20);
     layout->addWidget(m_time, 0, Qt::AlignHCenter);
     layout->addWidget(m_field);
     layout->addWidget(m_echo);
-    layout->addWidget(m_lively, 1);
+    layout->addLayout(lively, 1);
 
     connect(&m_tick, &QTimer::timeout, this, &DemoDesktop::showTime);
-    m_tick.start(100);
     showTime();
+    setRunning(true);
 }
 
-void DemoDesktop::freeze() {
-    m_tick.stop();
-    m_time->hide();
-    delete m_lively;
-    m_lively = nullptr;
+void DemoDesktop::setRunning(bool running) {
+    constexpr int kClockMs = 100;
+    running ? m_tick.start(kClockMs) : m_tick.stop();
+    m_text->setRunning(running);
+    m_shape->setRunning(running);
 }
 
 void DemoDesktop::showEvent(QShowEvent* event) {

@@ -7,6 +7,9 @@
 
 namespace corvane::demo {
 
+class MovingShape;
+class ScrollingText;
+
 /// A desktop with something going on, for a shared machine that has none: a clock, a scrolling
 /// text, a moving shape and a field to type into.
 ///
@@ -19,8 +22,8 @@ class DemoDesktop : public QWidget {
 public:
     explicit DemoDesktop(QWidget* parent = nullptr);
 
-    /// Keeps still from now on: clock, text and shape disappear, the field stays.
-    void freeze();
+    /// While not running, nothing but the text field changes.
+    void setRunning(bool running);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -32,7 +35,8 @@ private:
     QLabel* m_time = nullptr;
     QLineEdit* m_field = nullptr;
     QLabel* m_echo = nullptr;
-    QWidget* m_lively = nullptr;
+    ScrollingText* m_text = nullptr;
+    MovingShape* m_shape = nullptr;
     QTimer m_tick;
 };
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -13,12 +12,14 @@ class MovingShape : public QWidget {
 public:
     explicit MovingShape(QWidget* parent = nullptr);
 
+    void setRunning(bool running);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QElapsedTimer m_clock;
     QTimer m_redraw;
+    double m_seconds = 0.0;
 };
 
 } // namespace corvane::demo

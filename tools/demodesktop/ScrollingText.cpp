@@ -21,10 +21,15 @@ ScrollingText::ScrollingText(QWidget* parent) : QPlainTextEdit(parent) {
     setFocusPolicy(Qt::NoFocus);
     setMaximumBlockCount(200);
     connect(&m_tick, &QTimer::timeout, this, &ScrollingText::addLine);
-    m_tick.start(500);
+    setRunning(true);
     for (int i = 0; i < 12; ++i) {
         addLine();
     }
+}
+
+void ScrollingText::setRunning(bool running) {
+    constexpr int kLineMs = 500;
+    running ? m_tick.start(kLineMs) : m_tick.stop();
 }
 
 void ScrollingText::addLine() {

@@ -12,6 +12,8 @@ class ScrollingText : public QPlainTextEdit {
 public:
     explicit ScrollingText(QWidget* parent = nullptr);
 
+    void setRunning(bool running);
+
 private:
     void addLine();
 

@@ -1,11 +1,10 @@
 #include "ClientProcess.h"
 
+#include "XvfbServer.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSettings>
-
-#include <csignal>
-#include <sys/prctl.h>
 
 namespace corvane::harness {
 
@@ -17,7 +16,7 @@ constexpr int kStopTimeoutMs = 20'000;
 } // namespace
 
 void tieToParent(QProcess& process) {
-    process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    process.setChildProcessModifier(test::endWithParent);
 }
 
 ClientProcess::ClientProcess(const QString& display) {
@@ -46,6 +45,12 @@ ClientProcess::~ClientProcess() {
 void ClientProcess::presetPassword(const QString& password) {
     QSettings(settingsPath(), QSettings::NativeFormat)
         .setValue(QStringLiteral("auth/sessionPassword"), password);
+}
+
+void ClientProcess::presetCredentials(const QString& clientId, const QString& secret) {
+    QSettings settings(settingsPath(), QSettings::NativeFormat);
+    settings.setValue(QStringLiteral("auth/clientId"), clientId);
+    settings.setValue(QStringLiteral("auth/deviceSecret"), secret);
 }
 
 bool ClientProcess::start(const QStringList& arguments) {

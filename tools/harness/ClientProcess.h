@@ -16,6 +16,10 @@ public:
     /// Stores the session password before the first start.
     void presetPassword(const QString& password);
 
+    /// Makes the first start a login as this device instead of a registration. Programs on one
+    /// machine share its fingerprint and would otherwise be the same device.
+    void presetCredentials(const QString& clientId, const QString& secret);
+
     bool start(const QStringList& arguments = {});
 
     /// Ends the client as the system would and waits. False when it did not end well by itself.

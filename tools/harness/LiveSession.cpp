@@ -10,6 +10,8 @@
 #include <QUrl>
 #include <qtestsupport_core.h>
 
+#include <algorithm>
+
 namespace corvane::harness {
 
 using namespace std::chrono_literals;
@@ -19,6 +21,7 @@ namespace {
 constexpr auto kStartTimeout = 30s;
 constexpr auto kConnectTimeout = 30s;
 constexpr auto kInputTimeout = 10s;
+constexpr auto kPictureTimeout = 8s;
 
 /// Follows the password rule: eight characters, lower and upper case, a digit.
 QString createPassword() {
@@ -113,6 +116,8 @@ void LiveSession::readDesktop() {
 
 bool LiveSession::startClients() {
     m_target->presetPassword(m_targetPassword);
+    const devserver::Device viewerDevice = m_server.registerDevice();
+    m_viewer->presetCredentials(viewerDevice.clientId, viewerDevice.secret);
     const auto isOnline = [this](const ClientProcess& client) {
         const QString id = client.clientId();
         return !id.isEmpty() && m_server.isOnline(id);
@@ -194,6 +199,23 @@ StreamFigures LiveSession::measureStream(std::chrono::milliseconds duration) {
     const auto after = m_server.relay().videoTotals();
     return {static_cast<double>(after.frames - before.frames) / seconds,
             static_cast<double>(after.bytes - before.bytes) * 8.0 / 1000.0 / seconds};
+}
+
+void LiveSession::setDesktopRunning(bool running) {
+    m_desktop.write(running ? "run\n" : "hold\n");
+    m_desktop.waitForBytesWritten(1000);
+}
+
+double LiveSession::pictureFidelity() {
+    constexpr double kGoodEnough = 35.0;
+    double best = 0.0;
+    waitFor(
+        [&] {
+            best = std::max(best, psnr(viewerPicture(), targetScreen()));
+            return best >= kGoodEnough;
+        },
+        kPictureTimeout);
+    return best;
 }
 
 QImage LiveSession::viewerPicture() {

@@ -61,6 +61,13 @@ public:
 
     StreamFigures measureStream(std::chrono::milliseconds duration);
 
+    /// Starts or stops what moves on the target's desktop.
+    void setDesktopRunning(bool running);
+
+    /// How close the viewer's picture comes to the target's screen within a few seconds, in dB.
+    /// Means something while the desktop stands still.
+    double pictureFidelity();
+
     /// The remote picture as the viewer's display shows it.
     QImage viewerPicture();
 

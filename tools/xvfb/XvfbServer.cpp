@@ -9,15 +9,24 @@ namespace {
 constexpr int kStartTimeoutMs = 20'000;
 }
 
-XvfbServer::XvfbServer(QSize size) {
-    // However this process ends, the server ends with it.
-    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+void endWithParent() {
+    // The child must hear signals that this process keeps from its own threads.
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+}
+
+XvfbServer::XvfbServer(QSize size, const QStringList& extraArguments) {
+    m_process.setChildProcessModifier(endWithParent);
     m_process.setStandardErrorFile(QProcess::nullDevice());
-    m_process.start(
-        QStringLiteral("Xvfb"),
-        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-         QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height()),
-         QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
+    m_process.start(QStringLiteral("Xvfb"),
+                    QStringList{QStringLiteral("-displayfd"), QStringLiteral("1"),
+                                QStringLiteral("-screen"), QStringLiteral("0"),
+                                QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height()),
+                                QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                                QStringLiteral("-noreset")} +
+                        extraArguments);
     while (m_process.state() != QProcess::NotRunning && !m_process.canReadLine()) {
         if (!m_process.waitForReadyRead(kStartTimeoutMs)) {
             return;

@@ -3,13 +3,18 @@
 #include <QProcess>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 namespace corvane::test {
+
+/// Child process modifier: the child ends when this process ends, however it does.
+void endWithParent();
 
 /// A virtual X display of its own, ended with the object.
 class XvfbServer {
 public:
-    explicit XvfbServer(QSize size = QSize(1280, 720));
+    /// `extraArguments` go to the server as they are, e.g. to leave an extension out.
+    explicit XvfbServer(QSize size = QSize(1280, 720), const QStringList& extraArguments = {});
     ~XvfbServer();
     XvfbServer(const XvfbServer&) = delete;
     XvfbServer& operator=(const XvfbServer&) = delete;

@@ -115,8 +115,12 @@ private:
 
 class XcbCaptureBackendTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        server = std::make_unique<test::XvfbServer>(kScreen);
+    void SetUp() override { startServer({}); }
+
+    void startServer(const QStringList& arguments) {
+        painter.reset();
+        server.reset();
+        server = std::make_unique<test::XvfbServer>(kScreen, arguments);
         ASSERT_TRUE(server->isRunning());
         server->use();
         painter = std::make_unique<Painter>();
@@ -224,6 +228,31 @@ TEST_F(XcbCaptureBackendTest, CapturesASecondMonitorAndFollowsIt) {
     EXPECT_FALSE(capture());
     EXPECT_FALSE(backend.isInitialized());
     EXPECT_EQ(log.count("warning|XcbCaptureBackend: monitor 'right' is gone"), 1);
+}
+
+TEST_F(XcbCaptureBackendTest, ManagesWithoutExtensions) {
+    QStringList arguments;
+    for (const char* name : {"MIT-SHM", "RANDR", "DAMAGE", "XFIXES"}) {
+        arguments << QStringLiteral("-extension") << QLatin1String(name);
+    }
+    startServer(arguments);
+    painter->showWindow({100, 50, 60, 40}, kRed);
+    ASSERT_TRUE(backend.initialize(0));
+    EXPECT_TRUE(log.contains("(640x480) [no shared memory]"));
+    for (int round = 0; round < 2; ++round) {
+        const auto frame = capture();
+        ASSERT_TRUE(frame) << "nothing tells whether something changed";
+        EXPECT_EQ(pixelAt(*frame, 159, 89), kRed);
+        EXPECT_EQ(pixelAt(*frame, 160, 90), 0U);
+    }
+}
+
+TEST_F(XcbCaptureBackendTest, RefusesOtherPixelFormats) {
+    startServer({QStringLiteral("-screen"), QStringLiteral("0"), QStringLiteral("640x480x16")});
+    EXPECT_FALSE(backend.initialize(0));
+    EXPECT_EQ(log.count("error|XcbCaptureBackend: unsupported screen format (depth 16, 16 bits per "
+                        "pixel)"),
+              1);
 }
 
 TEST_F(XcbCaptureBackendTest, RefusesMonitorsThatAreNotThere) {

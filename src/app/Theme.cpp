@@ -1,0 +1,248 @@
+#include "Theme.h"
+
+#include <QColor>
+
+#include <array>
+#include <cstring>
+
+namespace corvane {
+
+namespace {
+
+struct Colour {
+    const char* token;
+    const char* value;
+};
+
+constexpr auto kColours = std::to_array<Colour>({
+    {"$window", "#1a1a2e"},          // windows and dialogs
+    {"$raised", "#16213e"},          // tab panes, headers, message boxes, tool tips
+    {"$field", "#0d1b2a"},           // input fields, lists, tracks; text on the accent
+    {"$button", "#1e2d4a"},          // buttons; hover on tabs, rows and tool buttons
+    {"$border", "#2a3a5e"},          // borders, lines, scroll handles; hover on buttons
+    {"$pressed", "#3a4a6e"},         // pressed buttons
+    {"$muted", "#111827"},           // disabled buttons, alternate rows
+    {"$text", "#e0e0e0"},            // normal text
+    {"$secondary", "#8892b0"},       // captions, tabs, headers, flat and tool buttons
+    {"$disabled", "#4a5568"},        // disabled text
+    {"$accent", "#4da6ff"},          // focus, selection, primary buttons, checked boxes
+    {"$primaryHover", "#74bcff"},    //
+    {"$primaryPressed", "#2a8fff"},  //
+    {"$primaryDisabled", "#1e3a5e"}, //
+});
+
+// The tokens stand for the colours above.
+constexpr const char* kSurfaces = R"(
+QWidget { background-color: $window; color: $text; font-size: 13px; }
+QMainWindow, QDialog { background-color: $window; }
+QLabel, QCheckBox, QRadioButton { background-color: transparent; }
+QWidget:disabled { color: $disabled; }
+QGroupBox {
+    font-size: 10px; border: 1px solid $border; border-radius: 6px;
+    margin-top: 9px; padding: 10px 8px 8px 8px; color: $secondary;
+}
+QGroupBox::title {
+    subcontrol-origin: margin; subcontrol-position: top left;
+    left: 10px; padding: 0 4px; color: $secondary;
+}
+QMessageBox { background-color: $raised; }
+QMessageBox QLabel { color: $text; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QToolTip {
+    background-color: $raised; color: $text;
+    border: 1px solid $border; border-radius: 3px; padding: 3px 6px;
+}
+QFrame[frameShape="4"] { background-color: $border; border: none; max-height: 1px; }
+QFrame[frameShape="5"] { background-color: $border; border: none; max-width: 1px; }
+QSplitter::handle { background-color: $border; }
+QSplitter::handle:horizontal { width: 3px; }
+QSplitter::handle:vertical { height: 3px; }
+)";
+
+constexpr const char* kButtons = R"(
+QPushButton {
+    background-color: $button; color: $text;
+    border: 1px solid $border; border-radius: 5px; padding: 6px 14px;
+}
+QPushButton:hover { background-color: $border; }
+QPushButton:focus { border-color: $accent; }
+QPushButton:pressed { background-color: $pressed; }
+QPushButton:disabled { background-color: $muted; color: $disabled; border-color: $button; }
+QPushButton#primaryButton {
+    background-color: $accent; color: $field; border: 1px solid $accent; font-weight: bold;
+}
+QPushButton#primaryButton:hover { background-color: $primaryHover; border-color: $primaryHover; }
+QPushButton#primaryButton:focus { border-color: $text; }
+QPushButton#primaryButton:pressed {
+    background-color: $primaryPressed; border-color: $primaryPressed;
+}
+QPushButton#primaryButton:disabled {
+    background-color: $primaryDisabled; color: $disabled; border-color: $primaryDisabled;
+}
+QPushButton#flatButton {
+    background-color: transparent; color: $secondary; border: none; padding: 4px;
+}
+QPushButton#flatButton:hover { background-color: $button; color: $text; }
+QPushButton#flatButton:focus { background-color: $button; color: $accent; }
+QPushButton#flatButton:pressed { background-color: $pressed; }
+QPushButton#flatButton:disabled { background-color: transparent; color: $disabled; }
+QToolBar {
+    background-color: $field; border: none; border-bottom: 1px solid $border;
+    padding: 3px; spacing: 3px;
+}
+QToolBar::separator { background-color: $border; width: 1px; margin: 4px 3px; }
+QToolButton {
+    background-color: transparent; color: $secondary;
+    border: 1px solid transparent; border-radius: 4px; padding: 4px 7px;
+}
+QToolButton:hover { background-color: $button; color: $text; }
+QToolButton:pressed, QToolButton:checked, QToolButton:open { background-color: $border; color: $text; }
+QToolButton:disabled { color: $disabled; }
+QToolButton[popupMode="2"] { padding-right: 18px; }
+QToolButton::menu-indicator {
+    image: url(:/icons/arrow_down); width: 9px; height: 9px;
+    subcontrol-origin: padding; subcontrol-position: right center; right: 5px;
+}
+QMenu { background-color: $raised; border: 1px solid $border; padding: 4px; }
+QMenu::item { background-color: transparent; padding: 5px 22px; border-radius: 3px; }
+QMenu::item:selected { background-color: $accent; color: $field; }
+QMenu::item:disabled { color: $disabled; }
+QMenu::separator { background-color: $border; height: 1px; margin: 4px 6px; }
+)";
+
+constexpr const char* kInputs = R"(
+QLineEdit, QComboBox, QSpinBox, QDoubleSpinBox, QTextEdit, QPlainTextEdit {
+    background-color: $field; color: $text; border: 1px solid $border; border-radius: 4px;
+    padding: 5px 8px; selection-background-color: $accent; selection-color: $field;
+}
+QLineEdit:focus, QComboBox:focus, QSpinBox:focus, QDoubleSpinBox:focus,
+QTextEdit:focus, QPlainTextEdit:focus { border-color: $accent; }
+QLineEdit:disabled, QComboBox:disabled, QSpinBox:disabled, QDoubleSpinBox:disabled {
+    color: $disabled; border-color: $button;
+}
+QComboBox { padding-right: 24px; }
+QComboBox QLineEdit { border: none; border-radius: 0; padding: 0; }
+QComboBox::drop-down {
+    subcontrol-origin: padding; subcontrol-position: center right; width: 22px; border: none;
+}
+QComboBox::down-arrow { image: url(:/icons/arrow_down); width: 12px; height: 12px; }
+QComboBox QAbstractItemView {
+    background-color: $field; color: $text; border: 1px solid $border; outline: none;
+    selection-background-color: $accent; selection-color: $field;
+}
+QSpinBox, QDoubleSpinBox { padding-right: 22px; }
+QSpinBox::up-button, QDoubleSpinBox::up-button {
+    subcontrol-origin: border; subcontrol-position: top right;
+    width: 20px; border: none; border-top-right-radius: 4px;
+}
+QSpinBox::down-button, QDoubleSpinBox::down-button {
+    subcontrol-origin: border; subcontrol-position: bottom right;
+    width: 20px; border: none; border-bottom-right-radius: 4px;
+}
+QSpinBox::up-button:hover, QSpinBox::down-button:hover,
+QDoubleSpinBox::up-button:hover, QDoubleSpinBox::down-button:hover { background-color: $button; }
+QSpinBox::up-arrow, QDoubleSpinBox::up-arrow {
+    image: url(:/icons/arrow_up); width: 9px; height: 9px;
+}
+QSpinBox::down-arrow, QDoubleSpinBox::down-arrow {
+    image: url(:/icons/arrow_down); width: 9px; height: 9px;
+}
+QCheckBox, QRadioButton { spacing: 7px; }
+QCheckBox::indicator, QRadioButton::indicator {
+    width: 16px; height: 16px; background-color: $field; border: 1px solid $border;
+}
+QCheckBox::indicator { border-radius: 3px; }
+QRadioButton::indicator { border-radius: 9px; }
+QCheckBox::indicator:hover, QRadioButton::indicator:hover,
+QCheckBox::indicator:focus, QRadioButton::indicator:focus { border-color: $accent; }
+QCheckBox::indicator:checked {
+    background-color: $accent; border-color: $accent; image: url(:/icons/check);
+}
+QRadioButton::indicator:checked {
+    width: 8px; height: 8px; background-color: $field; border: 5px solid $accent;
+}
+QCheckBox::indicator:disabled, QRadioButton::indicator:disabled {
+    background-color: $muted; border-color: $button;
+}
+QCheckBox::indicator:checked:disabled { background-color: $primaryDisabled; }
+QRadioButton::indicator:checked:disabled { border-color: $primaryDisabled; }
+QProgressBar {
+    background-color: $field; color: $text; border: 1px solid $border; border-radius: 4px;
+    font-size: 11px; text-align: center; min-height: 16px;
+}
+QProgressBar::chunk { background-color: $accent; border-radius: 3px; }
+)";
+
+constexpr const char* kViews = R"(
+QTabWidget::pane { background-color: $raised; border: 1px solid $border; border-radius: 4px; }
+QTabBar::tab {
+    background-color: $field; color: $secondary; border: 1px solid $border; border-bottom: none;
+    border-top-left-radius: 4px; border-top-right-radius: 4px;
+    padding: 6px 14px; margin-right: 2px;
+}
+QTabBar::tab:hover { background-color: $button; color: $text; }
+QTabBar::tab:selected { background-color: $raised; color: $text; border-top: 2px solid $accent; }
+QTabBar::tab:disabled { color: $disabled; }
+QTreeView, QListView {
+    background-color: $field; alternate-background-color: $muted; color: $text;
+    border: 1px solid $border; border-radius: 4px; outline: none;
+}
+QTreeView:focus, QListView:focus { border-color: $accent; }
+QTreeView::item, QListView::item { padding: 3px; border: none; }
+QTreeView::item:hover, QListView::item:hover { background-color: $button; }
+QTreeView::item:selected, QListView::item:selected { background-color: $accent; color: $field; }
+QHeaderView { background-color: $raised; border: none; }
+QHeaderView::section {
+    background-color: $raised; color: $secondary; font-size: 11px; padding: 5px 8px;
+    border: none; border-right: 1px solid $border; border-bottom: 1px solid $border;
+}
+QScrollBar:vertical { background-color: $field; width: 7px; margin: 0; border: none; }
+QScrollBar:horizontal { background-color: $field; height: 7px; margin: 0; border: none; }
+QScrollBar::handle { background-color: $border; border-radius: 3px; }
+QScrollBar::handle:vertical { min-height: 24px; }
+QScrollBar::handle:horizontal { min-width: 24px; }
+QScrollBar::handle:hover { background-color: $pressed; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; }
+QScrollBar::add-page, QScrollBar::sub-page { background-color: transparent; }
+)";
+
+QColor colour(const char* token) {
+    for (const Colour& entry : kColours) {
+        if (std::strcmp(entry.token, token) == 0) {
+            return QColor(QLatin1String(entry.value));
+        }
+    }
+    return QColor();
+}
+
+} // namespace
+
+QPalette applicationPalette() {
+    QPalette palette(colour("$text"), colour("$button"), colour("$pressed"), colour("$field"),
+                     colour("$border"), colour("$text"), colour("$text"), colour("$field"),
+                     colour("$window"));
+    palette.setColor(QPalette::AlternateBase, colour("$muted"));
+    palette.setColor(QPalette::Highlight, colour("$accent"));
+    palette.setColor(QPalette::HighlightedText, colour("$field"));
+    palette.setColor(QPalette::Link, colour("$accent"));
+    palette.setColor(QPalette::ToolTipBase, colour("$raised"));
+    palette.setColor(QPalette::ToolTipText, colour("$text"));
+    palette.setColor(QPalette::PlaceholderText, colour("$secondary"));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, colour("$disabled"));
+    }
+    return palette;
+}
+
+QString applicationStyleSheet() {
+    QString sheet;
+    for (const char* part : {kSurfaces, kButtons, kInputs, kViews}) {
+        sheet += QLatin1String(part);
+    }
+    for (const Colour& colour : kColours) {
+        sheet.replace(QLatin1String(colour.token), QLatin1String(colour.value));
+    }
+    return sheet;
+}
+
+} // namespace corvane
