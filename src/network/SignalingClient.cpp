@@ -100,7 +100,8 @@ void SignalingClient::onDisconnected() {
     m_handshakeTimer.stop();
     spdlog::info("Signaling WebSocket disconnected");
     Q_EMIT disconnected();
-    if (m_reconnectAttempts >= kMaxReconnectAttempts) {
+    const bool reopened = m_socket.state() != QAbstractSocket::UnconnectedState;
+    if (reopened || m_reconnectAttempts >= kMaxReconnectAttempts) {
         return;
     }
     const int delay = std::min(kReconnectBaseDelayMs << m_reconnectAttempts, kReconnectDelayCapMs);

@@ -213,13 +213,20 @@ TEST_F(SignalingClientTest, ConnectingAgainReplacesTheConnection) {
     EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
     EXPECT_TRUE(eventually([&] { return !isOnline(); }));
     EXPECT_TRUE(m_server.isOnline(other.clientId));
+    EXPECT_FALSE(m_log.contains("Reconnecting"));
 }
 
-TEST_F(SignalingClientTest, AHandlerMayDisconnect) {
-    QObject::connect(&m_client, &SignalingClient::messageReceived,
-                     [this] { m_client.disconnectFromServer(); });
-    connectClient();
+TEST_F(SignalingClientTest, AHandlerMayDisconnectAndConnectAgain) {
+    ASSERT_TRUE(goOnline());
+    QObject::connect(&m_client, &SignalingClient::messageReceived, [this](const auto& message) {
+        if (message == "leave") {
+            m_client.disconnectFromServer();
+        }
+    });
+    QObject::connect(&m_client, &SignalingClient::disconnected, [this] { connectClient(); });
+    m_server.pushText(m_device.clientId, u"\"leave\""_s);
     EXPECT_TRUE(m_signals.waitFor(u"disconnected"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
     EXPECT_FALSE(m_log.contains("Reconnecting"));
 }
 
