@@ -20,7 +20,7 @@ namespace corvane {
 namespace {
 
 /// Frames per pass: one key frame and deltas with movement, scrolling and little else.
-constexpr int kFrames = 12;
+constexpr int kFrames = 8;
 
 struct Clip {
     int width;
@@ -248,7 +248,7 @@ int main(int argc, char** argv) {
     // machine hits both. Arguments given by the user come later and win.
     std::vector<char*> arguments(argv, argv + argc);
     std::string defaults[] = {
-        "--benchmark_repetitions=7", "--benchmark_enable_random_interleaving=true",
+        "--benchmark_repetitions=5", "--benchmark_enable_random_interleaving=true",
         "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.3"};
     for (std::string& argument : defaults) {
         arguments.insert(arguments.begin() + 1, argument.data());
