@@ -1,0 +1,113 @@
+#include "FramePipeline.h"
+#include "AesGcmCipher.h"
+#include "LogCapture.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+namespace {
+
+/// Answers every frame with a packet, unless told to fail.
+class ScriptedEncoder : public IVideoEncoder {
+public:
+    struct Script {
+        bool opens = true;
+        bool holdsBack = false;
+        int openings = 0;
+        EncoderConfig config;
+        bool forcedKeyframe = false;
+    };
+
+    explicit ScriptedEncoder(Script& script) : m_script(script) {}
+
+    bool initialize(const EncoderConfig& config) override {
+        ++m_script.openings;
+        m_script.config = config;
+        m_open = m_script.opens;
+        return m_open;
+    }
+    void shutdown() override { m_open = false; }
+    std::unique_ptr<EncodedPacket> encode(const uint8_t*, int, int, uint64_t,
+                                          bool forceKeyframe) override {
+        m_script.forcedKeyframe = forceKeyframe;
+        if (m_script.holdsBack) {
+            return nullptr;
+        }
+        auto packet = std::make_unique<EncodedPacket>();
+        packet->data = {1, 2, 3};
+        return packet;
+    }
+    bool isInitialized() const override { return m_open; }
+    void updateBitrate(int) override {}
+    std::pair<int32_t, int32_t> configuredSize() const override {
+        return {m_script.config.width, m_script.config.height};
+    }
+
+private:
+    Script& m_script;
+    bool m_open = false;
+};
+
+CapturedFrame frame(int width, int height) {
+    CapturedFrame result;
+    result.width = width;
+    result.height = height;
+    result.stride = width * 4;
+    result.data.assign(static_cast<size_t>(result.stride) * static_cast<size_t>(height), 0x40);
+    return result;
+}
+
+class FramePipelineTest : public ::testing::Test {
+protected:
+    LogCapture m_log;
+    AesGcmCipher m_cipher{ByteVector(32, 1), ByteVector(12, 2)};
+    ScriptedEncoder::Script m_script;
+    FramePipeline m_pipeline{
+        {.captureFrameRate = 24, .encoderQuality = 23, .encoderSpeed = "8", .monitorIndex = 0},
+        m_cipher,
+        std::make_unique<ScriptedEncoder>(m_script)};
+};
+
+TEST_F(FramePipelineTest, SealsTheBarePacket) {
+    CapturedFrame first = frame(64, 48);
+    first.keyframeRequested = true;
+    const auto sealed = m_pipeline.process(first);
+    ASSERT_TRUE(sealed.has_value());
+    EXPECT_EQ(m_cipher.decrypt(sealed->data(), sealed->size()), (ByteVector{1, 2, 3}));
+    EXPECT_TRUE(m_script.forcedKeyframe);
+    EXPECT_EQ(m_script.config.width, 64);
+    EXPECT_EQ(m_script.config.fps, 24);
+    EXPECT_EQ(m_script.config.cqLevel, 23);
+    EXPECT_EQ(m_script.config.keyframeInterval, 60);
+}
+
+TEST_F(FramePipelineTest, ReopensTheEncoderOncePerSize) {
+    for (const int width : {64, 64, 32, 32, 64}) {
+        EXPECT_TRUE(m_pipeline.process(frame(width, 48)).has_value());
+    }
+    EXPECT_EQ(m_script.openings, 3);
+}
+
+TEST_F(FramePipelineTest, RetriesAFailedOpeningWithTheNextFrame) {
+    m_script.opens = false;
+    EXPECT_FALSE(m_pipeline.process(frame(64, 48)).has_value());
+    EXPECT_EQ(m_log.count("error|Failed to initialize AV1 encoder (64x48)"), 1);
+    m_script.opens = true;
+    EXPECT_TRUE(m_pipeline.process(frame(64, 48)).has_value());
+    m_script.holdsBack = true;
+    EXPECT_FALSE(m_pipeline.process(frame(64, 48)).has_value());
+}
+
+TEST_F(FramePipelineTest, RefusesFramesThatDoNotHoldWhatTheySay) {
+    CapturedFrame cut = frame(64, 48);
+    cut.data.pop_back();
+    CapturedFrame narrow = frame(64, 48);
+    narrow.stride = 64;
+    for (const CapturedFrame& bad : {cut, narrow, frame(0, 48), CapturedFrame()}) {
+        EXPECT_FALSE(m_pipeline.process(bad).has_value());
+    }
+    EXPECT_EQ(m_script.openings, 0);
+}
+
+} // namespace
+} // namespace corvane::test

@@ -1,0 +1,173 @@
+#include "SessionDataPlane.h"
+#include "LogCapture.h"
+#include "TestPlatform.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+namespace corvane::test {
+namespace {
+
+const ByteVector kKey(32, 0x11);
+const ByteVector kIv(12, 0x22);
+
+/// Keeps what it is given to send.
+class RecordingTransport : public ITransport {
+public:
+    struct Message {
+        ChannelType channel;
+        ByteVector sealed;
+    };
+
+    bool connect(const std::string&, uint16_t) override { return true; }
+    void disconnect() override {}
+    bool isConnected() const override { return true; }
+    bool send(ChannelType channel, const uint8_t* data, size_t size) override {
+        sent.push_back({channel, ByteVector(data, data + size)});
+        return true;
+    }
+
+    std::vector<Message> sent;
+};
+
+ByteVector bytes(std::string_view text) {
+    return {text.begin(), text.end()};
+}
+
+/// One side of a session and the peer that talks to it.
+class DataPlaneTest : public ::testing::TestWithParam<SessionRole> {
+protected:
+    void startAs(SessionRole role) {
+        m_plane = std::make_unique<SessionDataPlane>(role, kKey, kIv);
+        QObject::connect(m_plane.get(), &SessionDataPlane::disconnectRequested,
+                         [this] { ++m_disconnects; });
+        QObject::connect(m_plane.get(), &SessionDataPlane::inputEventReceived,
+                         [this](const InputEvent&) { ++m_inputEvents; });
+        m_plane->setTransport(&m_transport);
+        m_plane->startStreaming({}, createTestPlatform(m_machine));
+        m_log.clear();
+    }
+
+    void receive(ChannelType channel, const ByteVector& plain) {
+        const ByteVector sealed = m_peer.encrypt(plain);
+        m_plane->receive(channel, QByteArray(reinterpret_cast<const char*>(sealed.data()),
+                                             static_cast<qsizetype>(sealed.size())));
+    }
+
+    void receiveCommand(std::string_view command) {
+        receive(ChannelType::Control, controlMessage(ControlTag::Command, bytes(command)));
+    }
+
+    LogCapture m_log;
+    std::shared_ptr<Machine> m_machine = std::make_shared<Machine>();
+    RecordingTransport m_transport;
+    AesGcmCipher m_peer{kKey, kIv};
+    std::unique_ptr<SessionDataPlane> m_plane;
+    int m_disconnects = 0;
+    int m_inputEvents = 0;
+};
+
+TEST_F(DataPlaneTest, InputReachesTheTargetOnly) {
+    InputEvent event;
+    event.type = InputEventType::KeyPress;
+    const ByteVector message = controlMessage(ControlTag::InputEvent, event.serialize());
+    startAs(SessionRole::Master);
+    receive(ChannelType::Control, message);
+    EXPECT_EQ(m_inputEvents, 0);
+
+    startAs(SessionRole::Target);
+    receive(ChannelType::Control, message);
+    EXPECT_EQ(m_inputEvents, 1);
+    EXPECT_EQ(m_machine->injected.size(), 1U);
+
+    receive(ChannelType::Control, bytes("\x01"));
+    receive(ChannelType::Control, bytes("\x01\x05"));
+    receive(ChannelType::Control, bytes("\x01\x09\0\0\0\0\0\0\0\0"));
+    EXPECT_EQ(m_inputEvents, 1);
+    EXPECT_EQ(m_log.count("warning|Failed to deserialize input event: InputEvent::deserialize: "
+                          "buffer too small for header"),
+              2);
+}
+
+TEST_P(DataPlaneTest, OnlyTheExactCommandDisconnects) {
+    startAs(GetParam());
+    for (const char* other : {"disconnect\n", "disconnec", "Disconnect", "quit"}) {
+        receiveCommand(other);
+    }
+    EXPECT_EQ(m_disconnects, 0);
+    receiveCommand("disconnect");
+    EXPECT_EQ(m_disconnects, 1);
+    EXPECT_EQ(m_log.count("info|Session command received: disconnect"), 1);
+    EXPECT_EQ(m_log.count("info|Session command received: disconnect?"), 1);
+    receiveCommand(std::string(100'000, 'x'));
+    EXPECT_LT(m_log.lines().back().size(), 300U);
+}
+
+TEST_F(DataPlaneTest, OnlyTheTargetSwitchesMonitors) {
+    startAs(SessionRole::Master);
+    receiveCommand("switch_monitor:1");
+    EXPECT_FALSE(m_log.contains("Switching capture"));
+
+    startAs(SessionRole::Target);
+    for (const char* bad : {"switch_monitor:", "switch_monitor:one", "switch_monitor:-1",
+                            "switch_monitor:1 ", "switch_monitor:99999999999"}) {
+        receiveCommand(bad);
+    }
+    EXPECT_EQ(m_log.count("warning|Ignoring monitor switch without a valid index"), 5);
+    EXPECT_FALSE(m_log.contains("Switching capture"));
+    receiveCommand("switch_monitor:3");
+    EXPECT_EQ(m_log.count("info|Switching capture to monitor 3"), 1);
+}
+
+TEST_P(DataPlaneTest, UnknownAndForeignMessagesAreDropped) {
+    startAs(GetParam());
+    m_plane->setConnected(true);
+    for (const char* message : {"\x07", "\xff rubbish", "\x05", "\x04", "\x03"}) {
+        receive(ChannelType::Control, bytes(message));
+    }
+    EXPECT_TRUE(m_log.lines().empty()) << m_log.lines().front();
+    receive(ChannelType::Control, bytes("\x06"));
+    EXPECT_EQ(m_log.count("warning|Chat: service not initialized or message too short"), 1);
+}
+
+TEST_F(DataPlaneTest, VideoIsForTheViewer) {
+    startAs(SessionRole::Target);
+    receive(ChannelType::Video, bytes("packet"));
+    m_plane->receive(ChannelType::Video, QByteArray(40, 'x'));
+    EXPECT_FALSE(m_log.contains("video"));
+
+    startAs(SessionRole::Master);
+    QSignalSpy decoded(m_plane.get(), &SessionDataPlane::frameDecoded);
+    receive(ChannelType::Video, ByteVector(5000, 0xA5)); // sealed, but no AV1
+    EXPECT_EQ(decoded.count(), 0);
+    EXPECT_TRUE(m_log.contains("error|AV1Decoder: "));
+}
+
+TEST_F(DataPlaneTest, NothingLeavesBeforeOrAfterTheConnection) {
+    startAs(SessionRole::Master);
+    InputEvent event;
+    event.type = InputEventType::MouseMove;
+    m_plane->sendInputEvent(event);
+    m_plane->requestMonitorSwitch(1);
+    m_plane->setConnected(true);
+    m_plane->sendInputEvent(event);
+    m_plane->requestMonitorSwitch(1);
+    m_plane->setConnected(false);
+    m_plane->sendInputEvent(event);
+
+    ASSERT_EQ(m_transport.sent.size(), 2U);
+    EXPECT_EQ(m_transport.sent[0].channel, ChannelType::Control);
+    EXPECT_EQ(m_peer.decrypt(m_transport.sent[0].sealed.data(), m_transport.sent[0].sealed.size()),
+              controlMessage(ControlTag::InputEvent, event.serialize()));
+    EXPECT_EQ(m_peer.decrypt(m_transport.sent[1].sealed.data(), m_transport.sent[1].sealed.size()),
+              bytes("\x03switch_monitor:1"));
+}
+
+INSTANTIATE_TEST_SUITE_P(EitherRole, DataPlaneTest,
+                         ::testing::Values(SessionRole::Master, SessionRole::Target),
+                         [](const auto& role) { return std::string(sessionRoleName(role.param)); });
+
+} // namespace
+} // namespace corvane::test
