@@ -11,7 +11,7 @@ if(CORVANE_PLATFORM STREQUAL "linux")
         xcb xcb-shm xcb-xfixes xcb-damage xcb-randr xcb-xtest)
 endif()
 
-if(CORVANE_BUILD_TESTS OR CORVANE_BUILD_BENCHMARKS)
+if(CORVANE_BUILD_TOOLS)
     find_package(Qt6 6.4 REQUIRED COMPONENTS HttpServer)
 endif()
 if(CORVANE_BUILD_TESTS)

@@ -4,8 +4,8 @@ class QCoreApplication;
 
 namespace corvane {
 
-/// Lets the system end the program the way the user does, through the event loop, so that a running
-/// session is closed properly. One implementation per platform.
+/// Has the event loop end when the system asks the program to, so that everything is destroyed in
+/// order and a running session is closed properly. One implementation per platform.
 void quitOnSystemRequest(QCoreApplication& application);
 
 } // namespace corvane

@@ -291,6 +291,7 @@ void MainWindow::returnHome() {
     m_pages->setCurrentWidget(m_home);
     setMinimumSize(kHomeMinimum.width(), 0);
     resize(kHomeMinimum.width(), m_home->sizeHint().height());
+    m_connect->focusPartnerField();
 }
 
 void MainWindow::changePassword() {

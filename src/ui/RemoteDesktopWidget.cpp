@@ -47,6 +47,8 @@ RemoteDesktopWidget::RemoteDesktopWidget(QWidget* parent) : QOpenGLWidget(parent
 }
 
 RemoteDesktopWidget::~RemoteDesktopWidget() {
+    // The context itself goes with the base class, when this class is no more.
+    disconnect(m_contextLoss);
     releaseRenderer();
     spdlog::debug("RemoteDesktopWidget destroyed");
 }
@@ -99,8 +101,8 @@ void RemoteDesktopWidget::updateFrame(std::shared_ptr<DecodedFrame> frame) {
 
 void RemoteDesktopWidget::initializeGL() {
     // The context, and all that lives in it, is replaced when the widget moves to another window.
-    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this,
-            &RemoteDesktopWidget::releaseRenderer);
+    m_contextLoss = connect(context(), &QOpenGLContext::aboutToBeDestroyed, this,
+                            &RemoteDesktopWidget::releaseRenderer);
     m_renderer = std::make_unique<Nv12Renderer>();
     if (m_renderer->initialize()) {
         spdlog::info("RemoteDesktopWidget GL initialisation complete");

@@ -54,10 +54,26 @@ void ClientProcess::presetCredentials(const QString& clientId, const QString& se
 }
 
 bool ClientProcess::start(const QStringList& arguments) {
+    QFile::remove(logPath());
     m_process.start(QStringLiteral(CORVANE_CLIENT_PATH),
                     QStringList{QStringLiteral("--log-level"), QStringLiteral("debug")} +
                         arguments);
     return m_process.waitForStarted(kStartTimeoutMs);
+}
+
+int ClientProcess::runSecondCopy(const QStringList& arguments) const {
+    QProcess copy;
+    copy.setProcessEnvironment(m_process.processEnvironment());
+    copy.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    tieToParent(copy);
+    copy.start(QStringLiteral(CORVANE_CLIENT_PATH), arguments);
+    const bool ended = copy.waitForFinished(kStartTimeoutMs);
+    return ended && copy.exitStatus() == QProcess::NormalExit ? copy.exitCode() : -1;
+}
+
+void ClientProcess::crash() {
+    m_process.kill();
+    m_process.waitForFinished();
 }
 
 bool ClientProcess::stop() {
@@ -79,8 +95,12 @@ QString ClientProcess::clientId() const {
         .toString();
 }
 
+QString ClientProcess::homePath(const QString& relative) const {
+    return m_home.path() + QLatin1Char('/') + relative;
+}
+
 QString ClientProcess::log() const {
-    QFile file(m_home.path() + QStringLiteral("/data/Corvane/CorvaneClient/CorvaneClient.log"));
+    QFile file(logPath());
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -88,8 +108,12 @@ QStringList ClientProcess::logLines(const QString& part) const {
     return log().split(QLatin1Char('\n')).filter(part);
 }
 
+QString ClientProcess::logPath() const {
+    return homePath(QStringLiteral("data/Corvane/CorvaneClient/CorvaneClient.log"));
+}
+
 QString ClientProcess::settingsPath() const {
-    return m_home.path() + QStringLiteral("/config/Corvane/CorvaneClient.conf");
+    return homePath(QStringLiteral("config/Corvane/CorvaneClient.conf"));
 }
 
 } // namespace corvane::harness

@@ -22,6 +22,13 @@ public:
 
     bool start(const QStringList& arguments = {});
 
+    /// Starts another copy as the same user and answers its exit code; -1 when it does not end by
+    /// itself.
+    int runSecondCopy(const QStringList& arguments) const;
+
+    /// Ends the client without giving it a chance to tidy up.
+    void crash();
+
     /// Ends the client as the system would and waits. False when it did not end well by itself.
     bool stop();
 
@@ -31,6 +38,9 @@ public:
     /// The client ID that the server issued; empty before the first registration.
     QString clientId() const;
 
+    /// A file or folder under the user's home.
+    QString homePath(const QString& relative) const;
+
     QString log() const;
 
     /// The lines of the log that hold `part`.
@@ -39,6 +49,7 @@ public:
     QProcessEnvironment environment() const { return m_process.processEnvironment(); }
 
 private:
+    QString logPath() const;
     QString settingsPath() const;
 
     QTemporaryDir m_home;

@@ -137,6 +137,7 @@ bool LiveSession::enterPartner(const QString& password) {
     }
     // A click beside all widgets gives the window the keyboard; the partner field has the focus.
     m_viewerDisplay->click(home->topLeft() + QPoint(8, 8));
+    m_viewerDisplay->pressKey('a', {kKeyControl});
     m_viewerDisplay->type(m_target->clientId());
     m_viewerDisplay->pressKey(kKeyTab);
     m_viewerDisplay->type(password);
@@ -144,10 +145,7 @@ bool LiveSession::enterPartner(const QString& password) {
     return true;
 }
 
-bool LiveSession::connectToTarget() {
-    if (!enterPartner(m_targetPassword)) {
-        return false;
-    }
+bool LiveSession::waitUntilConnected() {
     const auto isConnected = [](const ClientProcess& client) {
         return stateChanges(client).endsWith(u"Connected");
     };
@@ -164,10 +162,11 @@ bool LiveSession::connectToTarget() {
 }
 
 bool LiveSession::typeRemotely(const QString& word) {
+    const QString shown = m_typed + word;
     m_viewerDisplay->click(onViewer(m_field).center());
     m_viewerDisplay->type(word);
-    return waitFor([&] { return m_typed.endsWith(word); }, kInputTimeout) ||
-           fail(QStringLiteral("typed \"%1\" but the target shows \"%2\"").arg(word, m_typed));
+    return waitFor([&] { return m_typed == shown; }, kInputTimeout) ||
+           fail(QStringLiteral("typed \"%1\" but the target shows \"%2\"").arg(shown, m_typed));
 }
 
 std::optional<std::chrono::milliseconds> LiveSession::inputRoundTrip() {

@@ -48,9 +48,11 @@ public:
     /// Types the target's ID and a password into the viewer's main window and presses Return.
     bool enterPartner(const QString& password);
 
-    /// `enterPartner` with the right password, and waits until both sides are connected and the
-    /// first picture is there.
-    bool connectToTarget();
+    /// Waits until both sides are connected and the first picture is there.
+    bool waitUntilConnected();
+
+    /// `enterPartner` with the right password, then `waitUntilConnected`.
+    bool connectToTarget() { return enterPartner(m_targetPassword) && waitUntilConnected(); }
 
     /// Clicks into the remote text field and types through the viewer. True once the target shows
     /// all of it.
@@ -82,7 +84,6 @@ public:
     XDisplay& viewerDisplay() { return *m_viewerDisplay; }
     devserver::DevServer& server() { return m_server; }
     QString targetPassword() const { return m_targetPassword; }
-    QString typedOnTarget() const { return m_typed; }
     QString error() const { return m_error; }
 
 private:

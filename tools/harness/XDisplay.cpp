@@ -16,6 +16,9 @@ using Reply = std::unique_ptr<T, FreeReply>;
 
 constexpr uint8_t kLeftButton = 1;
 
+/// A release and a press of the same key in the same millisecond would pass for auto-repeat.
+constexpr uint32_t kKeyDelayMs = 8;
+
 xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
     auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
     for (; screens.rem > 0 && number > 0; --number) {
@@ -127,19 +130,24 @@ void XDisplay::type(const QString& text) {
     }
 }
 
-void XDisplay::pressKey(xcb_keysym_t keysym) {
+void XDisplay::pressKey(xcb_keysym_t keysym, const std::vector<xcb_keysym_t>& held) {
     const Key key = findKey(keysym);
     if (key.code == 0) {
         return;
     }
-    const xcb_keycode_t shift = key.shifted ? findKey(kKeyShift).code : xcb_keycode_t{0};
-    if (shift != 0) {
-        fake(XCB_KEY_PRESS, shift);
+    std::vector<xcb_keycode_t> down;
+    if (key.shifted) {
+        down.push_back(findKey(kKeyShift).code);
     }
-    fake(XCB_KEY_PRESS, key.code);
-    fake(XCB_KEY_RELEASE, key.code);
-    if (shift != 0) {
-        fake(XCB_KEY_RELEASE, shift);
+    for (const xcb_keysym_t modifier : held) {
+        down.push_back(findKey(modifier).code);
+    }
+    down.push_back(key.code);
+    for (const xcb_keycode_t code : down) {
+        fake(XCB_KEY_PRESS, code, {}, kKeyDelayMs);
+    }
+    for (auto code = down.rbegin(); code != down.rend(); ++code) {
+        fake(XCB_KEY_RELEASE, *code, {}, kKeyDelayMs);
     }
 }
 
@@ -167,11 +175,11 @@ XDisplay::Key XDisplay::findKey(xcb_keysym_t keysym) const {
     return {};
 }
 
-void XDisplay::fake(uint8_t type, uint8_t detail, QPoint position) {
+void XDisplay::fake(uint8_t type, uint8_t detail, QPoint position, uint32_t delayMs) {
     if (!isConnected()) {
         return;
     }
-    xcb_test_fake_input(m_connection.get(), type, detail, XCB_CURRENT_TIME, m_screen->root,
+    xcb_test_fake_input(m_connection.get(), type, detail, delayMs, m_screen->root,
                         static_cast<int16_t>(position.x()), static_cast<int16_t>(position.y()), 0);
     xcb_flush(m_connection.get());
 }

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace corvane::harness {
 
@@ -35,8 +36,8 @@ public:
     /// Types Latin-1 text; characters that the display's keyboard lacks are left out.
     void type(const QString& text);
 
-    /// Presses and releases one key by its X keysym.
-    void pressKey(xcb_keysym_t keysym);
+    /// Presses and releases one key by its X keysym, with `held` down meanwhile.
+    void pressKey(xcb_keysym_t keysym, const std::vector<xcb_keysym_t>& held = {});
 
 private:
     struct Disconnect {
@@ -48,7 +49,7 @@ private:
     };
 
     Key findKey(xcb_keysym_t keysym) const;
-    void fake(uint8_t type, uint8_t detail, QPoint position = {});
+    void fake(uint8_t type, uint8_t detail, QPoint position = {}, uint32_t delayMs = 0);
     QString title(xcb_window_t window) const;
     std::optional<QRect> findWindow(xcb_window_t parent, const QString& title) const;
 
@@ -60,5 +61,6 @@ private:
 inline constexpr xcb_keysym_t kKeyTab = 0xff09;
 inline constexpr xcb_keysym_t kKeyReturn = 0xff0d;
 inline constexpr xcb_keysym_t kKeyShift = 0xffe1;
+inline constexpr xcb_keysym_t kKeyControl = 0xffe3;
 
 } // namespace corvane::harness

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building, testing and the demonstration need and that are
+# missing, and nothing else.
+set -euo pipefail
+
+packages=(
+    # tool chain
+    build-essential ca-certificates clang-format cmake git ninja-build pkg-config
+    # libraries of the program
+    libaom-dev libdav1d-dev libfmt-dev libgl-dev libspdlog-dev libssl-dev nlohmann-json3-dev
+    qt6-base-dev qt6-websockets-dev
+    libxcb-damage0-dev libxcb-randr0-dev libxcb-shm0-dev libxcb-xfixes0-dev libxcb-xtest0-dev
+    libxcb1-dev
+    # tests, benchmarks, development server
+    libbenchmark-dev libgmock-dev libgtest-dev qt6-httpserver-dev
+    # running the program on a virtual display
+    fonts-dejavu-core libgl1-mesa-dri xkb-data xvfb
+)
+
+missing=()
+for package in "${packages[@]}"; do
+    if [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
+        missing+=("$package")
+    fi
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y --no-install-recommends "${missing[@]}"

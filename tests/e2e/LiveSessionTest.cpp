@@ -1,0 +1,94 @@
+#include "LiveSession.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane::harness {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 20s;
+const QString kHomeTitle = QStringLiteral("Corvane - Remote Access");
+
+/// Two real programs on two displays, and a desktop that stands still.
+class LiveSessionTest : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(m_live.start()) << m_live.error().toStdString(); }
+
+    bool isShown(const QString& title) {
+        return waitFor([&] { return m_live.viewerDisplay().findWindow(title).has_value(); },
+                       kPatience);
+    }
+
+    bool endsWith(const ClientProcess& client, const char* state) {
+        return waitFor(
+            [&] { return LiveSession::stateChanges(client).endsWith(QLatin1String(state)); },
+            kPatience);
+    }
+
+    LiveSession m_live{{.viewerDisplay = {}, .stillDesktop = true}};
+};
+
+TEST_F(LiveSessionTest, OnePersonSeesAndDrivesAnothersDesktop) {
+    ASSERT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
+    EXPECT_GE(m_live.pictureFidelity(), 28.0);
+    // Capitals, digits and a sign that takes Shift: the keyboard arrives key by key.
+    EXPECT_TRUE(m_live.typeRemotely(QStringLiteral("Hello-World_42!")))
+        << m_live.error().toStdString();
+    EXPECT_GE(m_live.pictureFidelity(), 28.0);
+
+    for (const ClientProcess* client : {&m_live.viewer(), &m_live.target()}) {
+        EXPECT_EQ(client->logLines(QStringLiteral("[error]")).join(u'\n').toStdString(), "");
+    }
+    m_live.viewerDisplay().pressKey('d', {kKeyControl, kKeyShift});
+    EXPECT_TRUE(isShown(kHomeTitle));
+    EXPECT_TRUE(endsWith(m_live.viewer(), "Closing -> Idle"));
+    EXPECT_TRUE(endsWith(m_live.target(), "Closing -> Idle"));
+    EXPECT_EQ(m_live.viewer().logLines(QStringLiteral("(reason: user_disconnect)")).size(), 1);
+    EXPECT_EQ(m_live.target().logLines(QStringLiteral("(reason: remote_transport_closed)")).size(),
+              1);
+    EXPECT_TRUE(m_live.viewer().stop());
+    EXPECT_TRUE(m_live.target().stop());
+    for (const ClientProcess* client : {&m_live.viewer(), &m_live.target()}) {
+        EXPECT_FALSE(client->log().contains(m_live.targetPassword()));
+    }
+}
+
+TEST_F(LiveSessionTest, AWrongPasswordIsToldAndTheNextTryConnects) {
+    ASSERT_TRUE(m_live.enterPartner(QStringLiteral("Wrong0000")));
+    EXPECT_TRUE(isShown(QStringLiteral("Connection Error")));
+    EXPECT_TRUE(isShown(QStringLiteral("Session Error")));
+    // Both boxes close with Return; the newest has the keyboard.
+    for (const char* title : {"Connection Error", "Session Error"}) {
+        const auto box = m_live.viewerDisplay().findWindow(QLatin1String(title));
+        if (box) {
+            m_live.viewerDisplay().click(box->topLeft() + QPoint(4, 4));
+            m_live.viewerDisplay().pressKey(kKeyReturn);
+            EXPECT_TRUE(
+                waitFor([&] { return !m_live.viewerDisplay().findWindow(QLatin1String(title)); },
+                        kPatience));
+        }
+    }
+    // The password field still has the keyboard.
+    m_live.viewerDisplay().pressKey('a', {kKeyControl});
+    m_live.viewerDisplay().type(m_live.targetPassword());
+    m_live.viewerDisplay().pressKey(kKeyReturn);
+    EXPECT_TRUE(m_live.waitUntilConnected()) << m_live.error().toStdString();
+}
+
+TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerHome) {
+    ASSERT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
+    m_live.target().crash();
+    EXPECT_TRUE(isShown(kHomeTitle));
+    EXPECT_TRUE(endsWith(m_live.viewer(), "Closing -> Idle"));
+    ASSERT_TRUE(m_live.target().start());
+    ASSERT_TRUE(
+        waitFor([&] { return m_live.server().isOnline(m_live.target().clientId()); }, kPatience));
+    EXPECT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
+    // A request of the system's ends the program and, on the way, the session.
+    EXPECT_TRUE(m_live.target().stop());
+    EXPECT_EQ(m_live.target().logLines(QStringLiteral("(reason: destructor_cleanup)")).size(), 1);
+}
+
+} // namespace
+} // namespace corvane::harness
