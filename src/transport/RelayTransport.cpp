@@ -15,6 +15,9 @@ constexpr qint64 kSocketReadBuffer = 1024 * 1024;
 constexpr size_t kReadPiece = 64 * 1024;
 constexpr qsizetype kOwnBlockSize = 16 * 1024;
 
+// Far more than a link that moves at all ever holds: beyond it the relay has stopped reading.
+constexpr qint64 kMaxUnsent = 64 * 1024 * 1024;
+
 const uint8_t* bytesOf(const std::string& text) {
     return reinterpret_cast<const uint8_t*>(text.data());
 }
@@ -83,6 +86,11 @@ bool RelayTransport::send(ChannelType channel, const uint8_t* data, size_t size)
     }
     if (size > kRelayMaxPayload) {
         spdlog::error("RelayTransport::send: payload too large ({} > {})", size, kRelayMaxPayload);
+        return false;
+    }
+    if (m_socket.bytesToWrite() >= kMaxUnsent) {
+        spdlog::warn("RelayTransport::send: relay takes no data, {} bytes unsent",
+                     m_socket.bytesToWrite());
         return false;
     }
     const QByteArray frame = relayFrame(channel, data, size);

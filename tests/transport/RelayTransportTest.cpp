@@ -61,6 +61,19 @@ TEST_F(RelayTransportTest, JoinsFirstThenFramesWhatItSends) {
               QByteArray::fromHex("0100000006") + "pixels" + QByteArray::fromHex("0000000000"));
 }
 
+TEST_F(RelayTransportTest, ARelayThatStopsReadingCostsBoundedMemory) {
+    establish();
+    const QByteArray payload(8 * 1024 * 1024, 'v');
+    int accepted = 0;
+    while (accepted < 20 && send(ChannelType::Video, payload)) {
+        ++accepted;
+    }
+    EXPECT_EQ(accepted, 8);
+    EXPECT_TRUE(log.contains("RelayTransport::send: relay takes no data, "));
+    relay.read(accepted * (payload.size() + 5));
+    EXPECT_TRUE(send(ChannelType::Video, payload));
+}
+
 TEST_F(RelayTransportTest, WithoutASessionIdConnectsUnjoined) {
     transport.setSessionId(QString());
     ASSERT_TRUE(connectToRelay());
