@@ -1,0 +1,356 @@
+#include "windows/DxgiCaptureBackend.h"
+#include "CaptureBackendCandidate.h"
+#include "LogCapture.h"
+#include "ScriptedDesktop.h"
+
+#include <gmock/gmock.h>
+
+namespace corvane {
+
+bool operator==(const FrameRect& a, const FrameRect& b) {
+    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr const char* kLost = "warning|DxgiCaptureBackend: access lost -- attempting "
+                              "reinitialization";
+
+/// What the whole of `desktop` looks like in a frame.
+ByteVector picture(const test::ScriptedDesktop& desktop) {
+    ByteVector bytes;
+    for (size_t row = 0; row < desktop.height; ++row) {
+        for (size_t column = 0; column < desktop.width * 4; ++column) {
+            bytes.push_back(test::ScriptedDesktop::pixelByte(row, column));
+        }
+    }
+    return bytes;
+}
+
+class DxgiCaptureBackendTest : public ::testing::Test {
+protected:
+    void TearDown() override {
+        backend.shutdown();
+        EXPECT_EQ(desktop.objects, 0);
+        EXPECT_EQ(desktop.framesHeld, 0);
+        EXPECT_EQ(desktop.texturesMapped, 0);
+    }
+
+    HRESULT createDevice(UINT flags, std::vector<D3D_FEATURE_LEVEL> levels, ID3D11Device** device,
+                         D3D_FEATURE_LEVEL* level, ID3D11DeviceContext** context) {
+        EXPECT_EQ(flags, static_cast<UINT>(D3D11_CREATE_DEVICE_BGRA_SUPPORT));
+        EXPECT_THAT(levels, ElementsAre(D3D_FEATURE_LEVEL_11_1, D3D_FEATURE_LEVEL_11_0,
+                                        D3D_FEATURE_LEVEL_10_1, D3D_FEATURE_LEVEL_10_0));
+        const HRESULT result = desktop.resultOf("D3D11CreateDevice");
+        if (SUCCEEDED(result)) {
+            *device = static_cast<ID3D11Device*>(desktop.newDevice());
+            *context = static_cast<ID3D11DeviceContext*>(desktop.newContext());
+            *level = D3D_FEATURE_LEVEL_11_0;
+        }
+        return result;
+    }
+
+    DxgiFunctions dxgi() {
+        return {
+            .createDevice =
+                [this](IDXGIAdapter*, D3D_DRIVER_TYPE type, HMODULE, UINT flags,
+                       const D3D_FEATURE_LEVEL* levels, UINT count, UINT, ID3D11Device** device,
+                       D3D_FEATURE_LEVEL* level, ID3D11DeviceContext** context) {
+                    EXPECT_EQ(type, D3D_DRIVER_TYPE_HARDWARE);
+                    return createDevice(flags, {levels, levels + count}, device, level, context);
+                },
+            .createFactory =
+                [this](REFIID, void** factory) {
+                    const HRESULT result = desktop.resultOf("CreateDXGIFactory1");
+                    *factory = SUCCEEDED(result) ? desktop.newFactory() : nullptr;
+                    return result;
+                },
+        };
+    }
+
+    GdiFunctions gdi() {
+        GdiFunctions functions;
+        functions.getCursorInfo = [this](CURSORINFO* info) -> WINBOOL {
+            info->flags = cursorShown ? CURSOR_SHOWING : 0;
+            info->hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+            info->ptScreenPos = cursorPlace;
+            return TRUE;
+        };
+        return functions;
+    }
+
+    test::LogCapture log;
+    test::ScriptedDesktop desktop;
+    bool cursorShown = false;
+    POINT cursorPlace = {};
+    DxgiCaptureBackend backend{dxgi(), gdi()};
+};
+
+TEST_F(DxgiCaptureBackendTest, FramesAreCopiedRowByRowWithoutPadding) {
+    ASSERT_TRUE(backend.initialize(0));
+    EXPECT_THAT(log.lines(),
+                ElementsAre("debug|DxgiCaptureBackend: D3D11 device created (feature level 0xB000)",
+                            "info|DxgiCaptureBackend: initialized on monitor 0 (4x3)"));
+    for (const UINT pitch : {16U, 64U}) {
+        desktop.rowPitch = pitch;
+        const auto frame = backend.captureFrame();
+        ASSERT_TRUE(frame);
+        EXPECT_EQ(frame->width, 4);
+        EXPECT_EQ(frame->height, 3);
+        EXPECT_EQ(frame->stride, 16);
+        EXPECT_FALSE(frame->keyframeRequested);
+        EXPECT_EQ(frame->data, picture(desktop));
+        EXPECT_EQ(desktop.framesHeld, 0);
+    }
+    EXPECT_EQ(desktop.acquireTimeout, 100U);
+    EXPECT_EQ(desktop.stagingTextures.size(), 1U);
+}
+
+TEST_F(DxgiCaptureBackendTest, EachFailingCallOfInitializeIsNamed) {
+    const struct {
+        const char* call;
+        const char* text;
+    } cases[] = {
+        {"D3D11CreateDevice", "D3D11CreateDevice"},
+        {"IDXGIDevice", "QueryInterface IDXGIDevice"},
+        {"GetAdapter", "GetAdapter"},
+        {"CreateDXGIFactory1", "CreateDXGIFactory1"},
+        {"GetDesc", "GetDesc"},
+        {"IDXGIOutput1", "QueryInterface IDXGIOutput1"},
+        {"DuplicateOutput", "DuplicateOutput"},
+    };
+    for (const auto& item : cases) {
+        desktop.failures = {{item.call, E_ACCESSDENIED}};
+        log.clear();
+        EXPECT_FALSE(backend.initialize(0));
+        EXPECT_FALSE(backend.isInitialized());
+        EXPECT_EQ(backend.captureFrame(), nullptr);
+        EXPECT_EQ(desktop.objects, 0) << item.call;
+        EXPECT_EQ(log.count("error|DxgiCaptureBackend: " + std::string(item.text) +
+                            " failed (0x80070005)"),
+                  1)
+            << item.call;
+        const bool device = item.call == std::string_view("D3D11CreateDevice");
+        EXPECT_EQ(log.lines().back(),
+                  device ? "error|DxgiCaptureBackend: failed to create D3D11 device"
+                         : "error|DxgiCaptureBackend: failed to create output duplication for "
+                           "monitor 0");
+    }
+}
+
+TEST_F(DxgiCaptureBackendTest, MonitorsAreTheOutputsOfAllAdapters) {
+    desktop.adapters = {{{0, 0, 4, 3}, {-8, 1, 0, 7}}, {}, {{4, 0, 9, 9}}};
+    const auto monitors = backend.monitors();
+    ASSERT_EQ(monitors.size(), 3U);
+    EXPECT_EQ(monitors[0].name, "\\\\.\\DISPLAY1");
+    EXPECT_TRUE(monitors[0].primary);
+    EXPECT_EQ(monitors[1].x, -8);
+    EXPECT_EQ(monitors[1].width, 8);
+    EXPECT_EQ(monitors[2].height, 9);
+    EXPECT_FALSE(monitors[2].primary);
+    ASSERT_TRUE(backend.initialize(2));
+    EXPECT_EQ(log.lines().back(), "info|DxgiCaptureBackend: initialized on monitor 2 (5x9)");
+    EXPECT_EQ(backend.currentMonitor().name, monitors[2].name);
+    for (const int index : {3, -1}) {
+        EXPECT_FALSE(backend.initialize(index));
+        EXPECT_EQ(log.count("error|DxgiCaptureBackend: monitor index " + std::to_string(index) +
+                            " not found"),
+                  1);
+    }
+    desktop.failures = {{"CreateDXGIFactory1", E_FAIL}};
+    EXPECT_THAT(backend.monitors(), IsEmpty());
+}
+
+TEST_F(DxgiCaptureBackendTest, AnUnchangedScreenIsSilent) {
+    ASSERT_TRUE(backend.initialize(0));
+    log.clear();
+    desktop.acquisitions = {DXGI_ERROR_WAIT_TIMEOUT, DXGI_ERROR_WAIT_TIMEOUT};
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+    EXPECT_THAT(log.lines(), IsEmpty());
+    EXPECT_TRUE(backend.captureFrame());
+}
+
+TEST_F(DxgiCaptureBackendTest, EachFailingCallOfACaptureCostsOneFrame) {
+    ASSERT_TRUE(backend.initialize(0));
+    const struct {
+        const char* call;
+        const char* text;
+    } cases[] = {
+        {"ID3D11Texture2D", "QueryInterface for Texture2D failed (0x80004005)"},
+        {"CreateTexture2D", "CreateTexture2D (staging) failed (0x80004005)"},
+        {"Map", "Map staging texture failed (0x80004005)"},
+    };
+    desktop.dirtyRects = {{0, 0, 1, 1}};
+    for (const auto& item : cases) {
+        desktop.failures = {{item.call, E_FAIL}};
+        log.clear();
+        EXPECT_EQ(backend.captureFrame(), nullptr);
+        EXPECT_THAT(log.lines(),
+                    ElementsAre("error|DxgiCaptureBackend: " + std::string(item.text)));
+        EXPECT_TRUE(backend.isInitialized());
+    }
+    desktop.failures.clear();
+    desktop.acquisitions = {DXGI_ERROR_DEVICE_REMOVED};
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+    EXPECT_EQ(log.lines().back(), "error|DxgiCaptureBackend: AcquireNextFrame failed (0x887A0005)");
+    const auto frame = backend.captureFrame();
+    ASSERT_TRUE(frame);
+    EXPECT_THAT(frame->dirtyRects, IsEmpty()) << "changes of the lost frames are unknown";
+}
+
+TEST_F(DxgiCaptureBackendTest, LostAccessIsRegainedFiveTimes) {
+    ASSERT_TRUE(backend.initialize(0));
+    for (int attempt = 1; attempt <= 5; ++attempt) {
+        log.clear();
+        desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
+        EXPECT_EQ(backend.captureFrame(), nullptr);
+        EXPECT_THAT(log.lines(),
+                    ElementsAre(kLost,
+                                "info|DxgiCaptureBackend: reinitializing (attempt " +
+                                    std::to_string(attempt) + "/5)",
+                                "info|DxgiCaptureBackend: reinitialization successful"));
+        EXPECT_EQ(desktop.duplications, attempt + 1);
+        EXPECT_TRUE(backend.captureFrame());
+    }
+    log.clear();
+    desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+    EXPECT_THAT(log.lines(),
+                ElementsAre(kLost,
+                            "error|DxgiCaptureBackend: max reinitialization attempts (5) exceeded",
+                            "error|DxgiCaptureBackend: reinitialization failed"));
+    EXPECT_FALSE(backend.isInitialized());
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+
+    ASSERT_TRUE(backend.initialize(static_cast<int>(backend.currentMonitor().index)));
+    desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
+    backend.captureFrame();
+    EXPECT_EQ(log.count("info|DxgiCaptureBackend: reinitializing (attempt 1/5)"), 1);
+    EXPECT_TRUE(backend.isInitialized());
+}
+
+TEST_F(DxgiCaptureBackendTest, AFailedReinitializationIsALostScreen) {
+    desktop.adapters = {{{0, 0, 4, 3}, {4, 0, 8, 3}}};
+    ASSERT_TRUE(backend.initialize(1));
+    log.clear();
+    desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
+    desktop.failures = {{"DuplicateOutput", E_ACCESSDENIED}};
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+    EXPECT_THAT(log.lines(),
+                ElementsAre(kLost, "info|DxgiCaptureBackend: reinitializing (attempt 1/5)",
+                            "error|DxgiCaptureBackend: DuplicateOutput failed (0x80070005)",
+                            "error|DxgiCaptureBackend: reinit createDuplication failed",
+                            "error|DxgiCaptureBackend: reinitialization failed"));
+    EXPECT_FALSE(backend.isInitialized());
+    EXPECT_EQ(backend.currentMonitor().index, 1U);
+    desktop.failures.clear();
+    EXPECT_TRUE(backend.initialize(1));
+    EXPECT_TRUE(backend.captureFrame());
+}
+
+TEST_F(DxgiCaptureBackendTest, AChangedResolutionIsFollowed) {
+    ASSERT_TRUE(backend.initialize(0));
+    EXPECT_TRUE(backend.captureFrame());
+    desktop.width = 7;
+    desktop.height = 2;
+    desktop.rowPitch = 32;
+    desktop.adapters = {{{0, 0, 7, 2}}};
+    desktop.dirtyRects = {{0, 0, 1, 1}};
+    desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+    const auto frame = backend.captureFrame();
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(log.lines().back(), "info|DxgiCaptureBackend: resolution changed to 7x2");
+    EXPECT_EQ(frame->stride, 28);
+    EXPECT_EQ(frame->data, picture(desktop));
+    EXPECT_THAT(frame->dirtyRects, IsEmpty());
+    EXPECT_EQ(backend.currentMonitor().width, 7);
+    EXPECT_EQ(desktop.stagingTextures.back().right, 7);
+    EXPECT_EQ(backend.captureFrame()->dirtyRects.size(), 1U);
+    EXPECT_EQ(desktop.stagingTextures.size(), 2U);
+}
+
+TEST_F(DxgiCaptureBackendTest, ChangesAreDirtyRectanglesAndWhereThingsMovedTo) {
+    ASSERT_TRUE(backend.initialize(0));
+    desktop.dirtyRects = {{0, 0, 1, 2}, {1, 1, 2, 2}};
+    desktop.moveTargets = {{2, 0, 4, 3}};
+    EXPECT_THAT(backend.captureFrame()->dirtyRects, IsEmpty()) << "the first frame is whole";
+    EXPECT_THAT(backend.captureFrame()->dirtyRects,
+                ElementsAre(FrameRect{0, 0, 1, 2}, FrameRect{1, 1, 2, 2}, FrameRect{2, 0, 4, 3}));
+    for (const char* call : {"GetFrameDirtyRects", "GetFrameMoveRects"}) {
+        desktop.failures = {{call, DXGI_ERROR_MORE_DATA}};
+        const auto frame = backend.captureFrame();
+        ASSERT_TRUE(frame);
+        EXPECT_THAT(frame->dirtyRects, IsEmpty());
+        EXPECT_EQ(log.lines().back(),
+                  "error|DxgiCaptureBackend: " + std::string(call) + " failed (0x887A0003)");
+    }
+}
+
+TEST_F(DxgiCaptureBackendTest, ThePointerIsDrawnRelativeToTheMonitor) {
+    desktop.adapters = {{{-600, 50, -100, 450}}};
+    desktop.width = 500;
+    desktop.height = 400;
+    desktop.rowPitch = 2048;
+    ASSERT_TRUE(backend.initialize(0));
+    const ByteVector bare = backend.captureFrame()->data;
+    cursorShown = true;
+    cursorPlace = {-600 + 40, 50 + 30};
+    desktop.dirtyRects = {{0, 0, 1, 1}};
+    const auto frame = backend.captureFrame();
+    ASSERT_TRUE(frame);
+    RECT drawn = {500, 400, -1, -1};
+    for (LONG pixel = 0; pixel < 500 * 400; ++pixel) {
+        const auto offset = static_cast<size_t>(pixel) * 4;
+        if (!std::equal(bare.begin() + pixel * 4, bare.begin() + pixel * 4 + 3,
+                        frame->data.begin() + static_cast<ptrdiff_t>(offset))) {
+            drawn = {std::min(drawn.left, pixel % 500), std::min(drawn.top, pixel / 500),
+                     std::max(drawn.right, pixel % 500), std::max(drawn.bottom, pixel / 500)};
+        }
+    }
+    EXPECT_GE(drawn.left, 40);
+    EXPECT_GE(drawn.top, 30);
+    EXPECT_LT(drawn.left, 60);
+    EXPECT_LT(drawn.right, 40 + 64);
+    EXPECT_LT(drawn.bottom, 30 + 64);
+    const FrameRect around = {40, 30, 296, 286};
+    EXPECT_THAT(frame->dirtyRects, ElementsAre(FrameRect{0, 0, 1, 1}, around));
+
+    cursorPlace = {-600 + 300, 50 - 300};
+    EXPECT_THAT(backend.captureFrame()->dirtyRects, ElementsAre(FrameRect{0, 0, 1, 1}, around));
+    EXPECT_THAT(backend.captureFrame()->dirtyRects, ElementsAre(FrameRect{0, 0, 1, 1}));
+}
+
+TEST(DxgiCaptureBackendOnThisMachine, InitializesOrSaysWhyNot) {
+    test::LogCapture log;
+    DxgiCaptureBackend backend;
+    if (backend.initialize(0)) {
+        EXPECT_TRUE(log.contains("info|DxgiCaptureBackend: initialized on monitor 0 ("));
+        return;
+    }
+    std::string lines;
+    for (const auto& line : log.lines()) {
+        lines += line + "\n";
+    }
+    RecordProperty("log", lines);
+    std::fputs(lines.c_str(), stderr);
+    EXPECT_TRUE(log.contains(" failed (0x"));
+    EXPECT_FALSE(backend.isInitialized());
+    EXPECT_FALSE(backend.monitors().empty());
+}
+
+TEST(CaptureBackendCandidates, GdiStandsInForDesktopDuplication) {
+    const auto candidates = captureBackendCandidates();
+    ASSERT_EQ(candidates.size(), 2U);
+    EXPECT_EQ(candidates[0].readyText, "Using DXGI screen capture backend (monitor {})");
+    EXPECT_EQ(candidates[0].unavailableText, "DXGI capture unavailable, falling back to GDI");
+    EXPECT_EQ(candidates[1].readyText, "Using GDI screen capture backend (RDP-compatible)");
+    EXPECT_TRUE(candidates[1].create()->initialize(0));
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,298 @@
+#include "windows/GdiCaptureBackend.h"
+#include "LogCapture.h"
+#include "MonotonicClock.h"
+
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace corvane {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr uint32_t kRgbMask = 0xFFFFFF;
+
+/// A window of one colour above all others.
+class ColouredWindow {
+public:
+    ColouredWindow(const RECT& place, COLORREF colour) : m_brush(CreateSolidBrush(colour)) {
+        m_window =
+            CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, "STATIC", "", WS_POPUP | WS_VISIBLE,
+                            place.left, place.top, place.right - place.left,
+                            place.bottom - place.top, nullptr, nullptr, nullptr, nullptr);
+        paint();
+    }
+    ~ColouredWindow() {
+        DestroyWindow(m_window);
+        DeleteObject(m_brush);
+    }
+    ColouredWindow(const ColouredWindow&) = delete;
+    ColouredWindow& operator=(const ColouredWindow&) = delete;
+
+    void paint() const {
+        const HDC context = GetDC(m_window);
+        RECT area;
+        GetClientRect(m_window, &area);
+        FillRect(context, &area, m_brush);
+        ReleaseDC(m_window, context);
+        GdiFlush();
+    }
+
+private:
+    HBRUSH m_brush;
+    HWND m_window;
+};
+
+/// The pixel as 0xRRGGBB.
+uint32_t pixelAt(const CapturedFrame& frame, int32_t x, int32_t y) {
+    uint32_t pixel = 0;
+    std::memcpy(&pixel, frame.data.data() + static_cast<ptrdiff_t>(y) * frame.stride + 4 * x,
+                sizeof(pixel));
+    return pixel & kRgbMask;
+}
+
+GdiFunctions hiddenCursor() {
+    GdiFunctions functions;
+    functions.getCursorInfo = [](CURSORINFO* info) -> WINBOOL {
+        info->flags = 0;
+        return TRUE;
+    };
+    return functions;
+}
+
+TEST(GdiCaptureBackendTest, WindowsAreSeenInTheirPlaceAndColour) {
+    const test::LogCapture log;
+    const ColouredWindow red({100, 100, 180, 150}, RGB(250, 20, 30));
+    const ColouredWindow blue({180, 150, 300, 200}, RGB(10, 40, 240));
+    GdiCaptureBackend backend(hiddenCursor());
+    const auto monitors = backend.monitors();
+    ASSERT_FALSE(monitors.empty());
+    const auto primary =
+        std::find_if(monitors.begin(), monitors.end(), [](const auto& m) { return m.primary; });
+    ASSERT_NE(primary, monitors.end());
+    ASSERT_TRUE(backend.initialize(static_cast<int>(primary->index)));
+    EXPECT_EQ(log.lines().back(),
+              fmt::format("info|GdiCaptureBackend: initialized on monitor {} '{}' ({}x{}) "
+                          "[GDI fallback]",
+                          primary->index, primary->name, GetSystemMetrics(SM_CXSCREEN),
+                          GetSystemMetrics(SM_CYSCREEN)));
+    std::unique_ptr<CapturedFrame> frame;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        red.paint();
+        blue.paint();
+        frame = backend.captureFrame();
+        return frame && pixelAt(*frame, 100, 100) == 0xFA141E &&
+               pixelAt(*frame, 299, 199) == 0x0A28F0;
+    }));
+    EXPECT_EQ(pixelAt(*frame, 179, 149), 0xFA141EU);
+    EXPECT_EQ(pixelAt(*frame, 180, 150), 0x0A28F0U);
+    EXPECT_EQ(frame->stride, 4 * frame->width);
+    EXPECT_EQ(frame->data.size(), static_cast<size_t>(frame->stride * frame->height));
+    EXPECT_LT(monotonicMilliseconds() - frame->timestamp, 10'000U);
+    EXPECT_THAT(frame->dirtyRects, IsEmpty());
+    EXPECT_FALSE(frame->keyframeRequested);
+}
+
+TEST(GdiCaptureBackendTest, ThePointerIsDrawnOnlyWhileShown) {
+    const RECT place = {100, 100, 300, 300};
+    const ColouredWindow window(place, RGB(0, 255, 0));
+    const HCURSOR arrow = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+    WINBOOL known = TRUE;
+    CURSORINFO cursor = {};
+    auto functions = hiddenCursor();
+    functions.getCursorInfo = [&](CURSORINFO* info) {
+        EXPECT_EQ(info->cbSize, 24U);
+        *info = cursor;
+        return known;
+    };
+    GdiCaptureBackend backend(functions);
+    ASSERT_TRUE(backend.initialize(0));
+    const auto strangePixels = [&] {
+        window.paint();
+        const auto frame = backend.captureFrame();
+        int count = 0;
+        for (int32_t y = place.top; frame && y < place.bottom; ++y) {
+            for (int32_t x = place.left; x < place.right; ++x) {
+                count += pixelAt(*frame, x, y) == 0x00FF00 ? 0 : 1;
+            }
+        }
+        return count;
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return strangePixels() == 0; }));
+    cursor = {24, CURSOR_SHOWING, arrow, {200, 200}};
+    EXPECT_GT(strangePixels(), 20);
+    EXPECT_LT(strangePixels(), 64 * 64);
+    known = FALSE;
+    EXPECT_EQ(strangePixels(), 0);
+    known = TRUE;
+    cursor.flags = 2;
+    EXPECT_EQ(strangePixels(), 0);
+    cursor = {24, CURSOR_SHOWING, nullptr, {200, 200}};
+    EXPECT_EQ(strangePixels(), 0);
+}
+
+/// Two monitors, the second left of the first, on GDI whose calls are counted and can fail.
+class ScriptedGdi : public ::testing::Test {
+protected:
+    struct Place {
+        RECT rect;
+        DWORD flags;
+        const char* name;
+    };
+
+    GdiFunctions script() {
+        GdiFunctions functions;
+        functions.enumDisplayMonitors = [this](HDC context, LPCRECT clip, MONITORENUMPROC visit,
+                                               LPARAM data) -> WINBOOL {
+            EXPECT_EQ(context, nullptr);
+            EXPECT_EQ(clip, nullptr);
+            for (size_t i = 0; i < places.size(); ++i) {
+                visit(reinterpret_cast<HMONITOR>(i + 1), nullptr, &places[i].rect, data);
+            }
+            return TRUE;
+        };
+        functions.getMonitorInfo = [this](HMONITOR monitor, MONITORINFO* info) -> WINBOOL {
+            EXPECT_EQ(info->cbSize, 72U);
+            const Place& place = places[reinterpret_cast<size_t>(monitor) - 1];
+            info->rcMonitor = place.rect;
+            info->dwFlags = place.flags;
+            std::strcpy(reinterpret_cast<MONITORINFOEXA*>(info)->szDevice, place.name);
+            return failing != "GetMonitorInfoA";
+        };
+        functions.getDc = [this](HWND window) {
+            return made("GetDC", GetDC(window));
+        };
+        functions.releaseDc = [this](HWND window, HDC context) {
+            --alive;
+            return ReleaseDC(window, context);
+        };
+        functions.createCompatibleDc = [this](HDC context) {
+            return made("CreateCompatibleDC", CreateCompatibleDC(context));
+        };
+        functions.deleteDc = [this](HDC context) {
+            --alive;
+            return DeleteDC(context);
+        };
+        functions.createDibSection = [this](HDC context, const BITMAPINFO* info, UINT usage,
+                                            void** bits, HANDLE section, DWORD offset) {
+            return made("CreateDIBSection",
+                        CreateDIBSection(context, info, usage, bits, section, offset));
+        };
+        functions.deleteObject = [this](HGDIOBJ object) {
+            --alive;
+            return DeleteObject(object);
+        };
+        functions.bitBlt = [this](HDC, int x, int y, int width, int height, HDC, int fromX,
+                                  int fromY, DWORD operation) -> WINBOOL {
+            blit = {x, y, width, height, fromX, fromY, static_cast<int>(operation)};
+            return failing != "BitBlt";
+        };
+        functions.getDiBits = [this](HDC context, HBITMAP bitmap, UINT first, UINT count,
+                                     void* bits, BITMAPINFO* info, UINT usage) {
+            const int lines = GetDIBits(context, bitmap, first, count, bits, info, usage);
+            return failing == "GetDIBits" ? 0 : lines;
+        };
+        functions.getCursorInfo = [](CURSORINFO* info) -> WINBOOL {
+            *info = {24, CURSOR_SHOWING, reinterpret_cast<HCURSOR>(1), {-1900, 15}};
+            return TRUE;
+        };
+        functions.drawIcon = [this](HDC, int x, int y, HICON icon, int width, int height, UINT step,
+                                    HBRUSH, UINT flags) -> WINBOOL {
+            EXPECT_EQ(icon, reinterpret_cast<HICON>(1));
+            drawn = {x, y, width, height, static_cast<int>(step), static_cast<int>(flags)};
+            return TRUE;
+        };
+        return functions;
+    }
+
+    /// `handle`, or null when the call `name` is to fail.
+    template <typename Handle>
+    Handle made(const char* name, Handle handle) {
+        if (failing == name) {
+            return nullptr;
+        }
+        ++alive;
+        return handle;
+    }
+
+    test::LogCapture log;
+    std::vector<Place> places = {{{0, 0, 1280, 720}, MONITORINFOF_PRIMARY, "\\\\.\\DISPLAY1"},
+                                 {{-1920, -40, 0, 1040}, 0, "\\\\.\\DISPLAY2"}};
+    std::string failing;
+    int alive = 0;
+    std::vector<int> blit;
+    std::vector<int> drawn;
+    GdiCaptureBackend backend{script()};
+};
+
+TEST_F(ScriptedGdi, AMonitorLeftOfThePrimaryIsReadFromNegativePlaces) {
+    ASSERT_TRUE(backend.initialize(1));
+    EXPECT_EQ(log.lines().back(), "info|GdiCaptureBackend: initialized on monitor 1 "
+                                  "'\\\\.\\DISPLAY2' (1920x1080) [GDI fallback]");
+    const auto frame = backend.captureFrame();
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(frame->width, 1920);
+    EXPECT_EQ(frame->height, 1080);
+    EXPECT_THAT(blit, ElementsAre(0, 0, 1920, 1080, -1920, -40, 0x00CC0020));
+    EXPECT_THAT(drawn, ElementsAre(20, 55, 0, 0, 0, 3));
+    const MonitorInfo monitor = backend.currentMonitor();
+    EXPECT_EQ(monitor.index, 1U);
+    EXPECT_EQ(monitor.x, -1920);
+    EXPECT_EQ(monitor.y, -40);
+    EXPECT_FALSE(monitor.primary);
+    EXPECT_TRUE(backend.monitors()[0].primary);
+}
+
+TEST_F(ScriptedGdi, UnusableMonitorsAreRefused) {
+    for (const int index : {2, -1}) {
+        EXPECT_FALSE(backend.initialize(index));
+        EXPECT_EQ(
+            log.count(fmt::format(
+                "error|GdiCaptureBackend: monitor index {} not found (have 2 monitors)", index)),
+            1);
+    }
+    places[1].rect.right = -1920;
+    EXPECT_FALSE(backend.initialize(1));
+    EXPECT_EQ(log.count("error|GdiCaptureBackend: invalid monitor dimensions 0x1080"), 1);
+    failing = "GetMonitorInfoA";
+    EXPECT_FALSE(backend.initialize(0));
+    EXPECT_EQ(log.count("error|GdiCaptureBackend: invalid monitor dimensions 0x0"), 1);
+    EXPECT_EQ(backend.captureFrame(), nullptr);
+}
+
+TEST_F(ScriptedGdi, FailingCallsOfInitializeLeaveNothingBehind) {
+    for (const char* call : {"GetDC", "CreateCompatibleDC", "CreateDIBSection"}) {
+        failing = call;
+        log.clear();
+        EXPECT_FALSE(backend.initialize(0));
+        EXPECT_THAT(log.lines(),
+                    ElementsAre(fmt::format("error|GdiCaptureBackend: {} failed", call)));
+        EXPECT_FALSE(backend.isInitialized());
+        EXPECT_EQ(alive, 0);
+    }
+    failing.clear();
+    EXPECT_TRUE(backend.initialize(0));
+    EXPECT_TRUE(backend.initialize(1));
+    EXPECT_EQ(alive, 3);
+    backend.shutdown();
+    EXPECT_EQ(alive, 0);
+    EXPECT_FALSE(backend.isInitialized());
+}
+
+TEST_F(ScriptedGdi, AFailingCopyCostsTheRoundOnly) {
+    ASSERT_TRUE(backend.initialize(0));
+    for (const char* call : {"BitBlt", "GetDIBits"}) {
+        failing = call;
+        log.clear();
+        EXPECT_EQ(backend.captureFrame(), nullptr);
+        EXPECT_THAT(log.lines(),
+                    ElementsAre(fmt::format("warning|GdiCaptureBackend: {} failed", call)));
+        EXPECT_TRUE(backend.isInitialized());
+    }
+    failing.clear();
+    EXPECT_TRUE(backend.captureFrame());
+}
+
+} // namespace
+} // namespace corvane
