@@ -332,13 +332,8 @@ TEST(DxgiCaptureBackendOnThisMachine, InitializesOrSaysWhyNot) {
         EXPECT_TRUE(log.contains("info|DxgiCaptureBackend: initialized on monitor 0 ("));
         return;
     }
-    std::string lines;
-    for (const auto& line : log.lines()) {
-        lines += line + "\n";
-    }
-    RecordProperty("log", lines);
-    std::fputs(lines.c_str(), stderr);
-    EXPECT_TRUE(log.contains(" failed (0x"));
+    EXPECT_TRUE(log.contains("error|DxgiCaptureBackend: DuplicateOutput failed (0x8") ||
+                log.contains("error|DxgiCaptureBackend: D3D11CreateDevice failed (0x8"));
     EXPECT_FALSE(backend.isInitialized());
     EXPECT_FALSE(backend.monitors().empty());
 }

@@ -21,6 +21,7 @@ public:
             CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, "STATIC", "", WS_POPUP | WS_VISIBLE,
                             place.left, place.top, place.right - place.left,
                             place.bottom - place.top, nullptr, nullptr, nullptr, nullptr);
+        ShowWindow(m_window, SW_SHOWNOACTIVATE);
         paint();
     }
     ~ColouredWindow() {
