@@ -1,9 +1,11 @@
-#include "DevServerTest.h"
+#include "LogCapture.h"
 #include "MachineFingerprint.h"
 #include "MachineIdentity.h"
 #include "PairingCodeGenerator.h"
 #include "PasswordPolicy.h"
 #include "SessionPasswordGenerator.h"
+
+#include <gmock/gmock.h>
 
 #include <set>
 
