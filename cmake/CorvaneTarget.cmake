@@ -4,6 +4,9 @@ target_compile_options(corvane_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 target_compile_definitions(corvane_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
+if(CORVANE_PLATFORM STREQUAL "windows")
+    target_compile_definitions(corvane_options INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN)
+endif()
 if(CORVANE_SANITIZE)
     target_compile_options(corvane_options INTERFACE
         -fsanitize=${CORVANE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

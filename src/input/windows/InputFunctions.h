@@ -1,0 +1,15 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+
+namespace corvane {
+
+/// The entry points for injecting input, the system's own unless a test puts others in.
+struct InputFunctions {
+    std::function<decltype(::SendInput)> sendInput = ::SendInput;
+    std::function<decltype(::GetLastError)> lastError = ::GetLastError;
+};
+
+} // namespace corvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "IInputBackend.h"
+#include "InputFunctions.h"
+
+namespace corvane {
+
+/// Injects input with `SendInput`, one record per event. Positions span the primary monitor. A key
+/// that comes with a scan code goes by that, any other by its virtual key.
+class Win32InputBackend : public IInputBackend {
+public:
+    explicit Win32InputBackend(InputFunctions functions = {});
+    ~Win32InputBackend() override;
+    Win32InputBackend(const Win32InputBackend&) = delete;
+    Win32InputBackend& operator=(const Win32InputBackend&) = delete;
+
+    bool initialize() override;
+    void shutdown() override;
+    bool injectEvent(const InputEvent& event) override;
+
+private:
+    bool injectButton(const InputEvent& event, bool press);
+    bool injectKey(const InputEvent& event, DWORD flags);
+    bool send(INPUT record, const char* kind);
+
+    const InputFunctions m_functions;
+    bool m_initialized = false;
+};
+
+} // namespace corvane

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "ComPtr.h"
+#include "DxgiFunctions.h"
+#include "GdiFunctions.h"
+#include "IScreenCaptureBackend.h"
+
+#include <optional>
+
+namespace corvane {
+
+/// Captures one monitor through desktop duplication, pointer drawn in.
+///
+/// An unchanged screen gives no frame. When the system takes the duplication away (mode change,
+/// secure desktop), it is made anew, up to five times; after that, or when that fails, the backend
+/// is uninitialised and `initialize` starts over. A monitor's index is its position among the
+/// outputs of all adapters, so that it means the same monitor whichever adapter it hangs on.
+class DxgiCaptureBackend : public IScreenCaptureBackend {
+public:
+    explicit DxgiCaptureBackend(DxgiFunctions dxgi = {}, GdiFunctions gdi = {});
+    ~DxgiCaptureBackend() override;
+    DxgiCaptureBackend(const DxgiCaptureBackend&) = delete;
+    DxgiCaptureBackend& operator=(const DxgiCaptureBackend&) = delete;
+
+    bool initialize(int monitorIndex) override;
+    void shutdown() override;
+    std::unique_ptr<CapturedFrame> captureFrame() override;
+    std::vector<MonitorInfo> monitors() override;
+
+    /// Kept after the screen has been lost, so that recovery knows where to go on.
+    MonitorInfo currentMonitor() const override { return m_monitor; }
+
+    bool isInitialized() const override { return m_initialized; }
+
+private:
+    bool createDevice();
+    bool createDuplication(MonitorInfo& monitor);
+    bool findOutput(ComPtr<IDXGIOutput>& output);
+    bool reinitialize();
+
+    std::unique_ptr<CapturedFrame> readFrame(const ComPtr<IDXGIResource>& resource,
+                                             const DXGI_OUTDUPL_FRAME_INFO& info);
+    void followSize(const D3D11_TEXTURE2D_DESC& description);
+    bool ensureStaging(const D3D11_TEXTURE2D_DESC& description);
+    std::unique_ptr<CapturedFrame> makeFrame(const D3D11_MAPPED_SUBRESOURCE& mapped) const;
+
+    std::vector<FrameRect> readChanges(const DXGI_OUTDUPL_FRAME_INFO& info);
+    bool appendDirtyRects(UINT capacity, std::vector<FrameRect>& changes);
+    bool appendMoveRects(UINT capacity, std::vector<FrameRect>& changes);
+    void addPointer(CapturedFrame& frame);
+
+    const DxgiFunctions m_dxgi;
+    const GdiFunctions m_gdi;
+    ComPtr<ID3D11Device> m_device;
+    ComPtr<ID3D11DeviceContext> m_context;
+    ComPtr<IDXGIOutputDuplication> m_duplication;
+    ComPtr<ID3D11Texture2D> m_staging; ///< copy that the CPU can read
+    MonitorInfo m_monitor;
+    int m_reinitializations = 0;             ///< since `initialize`
+    std::optional<FrameRect> m_pointerDrawn; ///< in the last frame
+    bool m_wholeFrameDue = false; ///< the last frame handed out does not lead up to the next
+    bool m_initialized = false;
+};
+
+} // namespace corvane
