@@ -2,6 +2,7 @@
 #include "LogCapture.h"
 #include "MachineFingerprint.h"
 #include "MachineIdentity.h"
+#include "ScratchSettings.h"
 
 #include <QSettings>
 #include <QUuid>
@@ -10,22 +11,16 @@
 namespace corvane {
 namespace {
 
-/// A registry key of its own.
 class RegistryMachineGuidTest : public testing::Test {
 protected:
-    RegistryMachineGuidTest()
-        : m_key(QStringLiteral("HKEY_CURRENT_USER\\SOFTWARE\\CorvaneTest\\") +
-                QUuid::createUuid().toString()),
-          m_registry(m_key, QSettings::NativeFormat) {}
-    ~RegistryMachineGuidTest() override { m_registry.clear(); }
-
     int warnings() const {
         return m_log.count("warning|MachineFingerprint: could not read MachineGuid from registry");
     }
 
+    const test::ScratchSettings m_place;
     test::LogCapture m_log;
-    const QString m_key;
-    QSettings m_registry;
+    const QString m_key = QStringLiteral("HKEY_CURRENT_USER\\SOFTWARE\\Identity");
+    QSettings m_registry{m_key, QSettings::NativeFormat};
 };
 
 TEST_F(RegistryMachineGuidTest, ReadsTheValue) {
