@@ -26,5 +26,13 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(ENV{PKG_CONFIG_LIBDIR} "${CORVANE_WIN64_PREFIX}/lib/pkgconfig")
 
+# Tests run under Wine where there is one.
+find_program(CORVANE_WINE wine)
+if(CORVANE_WINE)
+    cmake_path(SET corvane_scripts NORMALIZE "${CMAKE_CURRENT_LIST_DIR}/../../scripts")
+    set(CMAKE_CROSSCOMPILING_EMULATOR
+        "${corvane_scripts}/run-in-wine.sh;${CORVANE_WIN64_PREFIX}")
+endif()
+
 set(QT_HOST_PATH /usr CACHE PATH "Qt of the machine that builds")
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake CACHE PATH "Its CMake packages")
