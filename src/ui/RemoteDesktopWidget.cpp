@@ -47,6 +47,10 @@ RemoteDesktopWidget::RemoteDesktopWidget(QWidget* parent) : QOpenGLWidget(parent
 }
 
 RemoteDesktopWidget::~RemoteDesktopWidget() {
+    // The base class ends the context, when there is no renderer left to release.
+    if (context() != nullptr) {
+        disconnect(context(), nullptr, this, nullptr);
+    }
     releaseRenderer();
     spdlog::debug("RemoteDesktopWidget destroyed");
 }
