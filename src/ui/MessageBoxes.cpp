@@ -16,6 +16,8 @@ void MessageBoxes::ask(const QString& title, const QString& text,
     QMessageBox* const box = create(QMessageBox::Question, title, text);
     box->setObjectName(QStringLiteral("questionBox"));
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    // A question may come up under the fingers of someone who is typing.
+    box->setDefaultButton(QMessageBox::No);
     connect(box, &QMessageBox::finished, this,
             [answered = std::move(answered)](int result) { answered(result == QMessageBox::Yes); });
     box->open();
