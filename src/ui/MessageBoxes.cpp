@@ -18,8 +18,10 @@ void MessageBoxes::ask(const QString& title, const QString& text,
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     // A question may come up under the fingers of someone who is typing.
     box->setDefaultButton(QMessageBox::No);
-    connect(box, &QMessageBox::finished, this,
-            [answered = std::move(answered)](int result) { answered(result == QMessageBox::Yes); });
+    connect(
+        box, &QMessageBox::finished, this,
+        [answered = std::move(answered)](int result) { answered(result == QMessageBox::Yes); },
+        Qt::SingleShotConnection);
     box->open();
 }
 
