@@ -2,6 +2,18 @@
 
 namespace corvane {
 
+namespace {
+
+/// As much as leaves the box's buttons on the screen.
+QString boundedText(const QString& text) {
+    constexpr qsizetype kLongestText = 1000;
+    constexpr qsizetype kMostLines = 20;
+    return text.first(qMin(text.size(), kLongestText))
+        .section(QLatin1Char('\n'), 0, kMostLines - 1);
+}
+
+} // namespace
+
 MessageBoxes::MessageBoxes(QWidget* window) : QObject(window), m_window(window) {}
 
 void MessageBoxes::warn(const QString& title, const QString& text) {
@@ -27,12 +39,11 @@ void MessageBoxes::ask(const QString& title, const QString& text,
 
 QMessageBox* MessageBoxes::create(QMessageBox::Icon icon, const QString& title,
                                   const QString& text) {
-    constexpr qsizetype kLongestText = 1000;
     if (QMessageBox* const previous = m_open.value(title)) {
         previous->reject();
     }
-    auto* const box = new QMessageBox(icon, title, text.first(qMin(text.size(), kLongestText)),
-                                      QMessageBox::NoButton, m_window);
+    auto* const box =
+        new QMessageBox(icon, title, boundedText(text), QMessageBox::NoButton, m_window);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     m_open.insert(title, box);
