@@ -288,9 +288,6 @@ void MainWindow::returnHome() {
     view->setViewingMode(false);
     view->clearPicture();
     setWindowTitle(productTitle());
-    if (m_pages->currentWidget() == m_home) {
-        return;
-    }
     if (isFullScreen()) {
         showNormal();
     }
