@@ -21,74 +21,69 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Folders of a user of their own, for this process and its children.
+/// Folders of a user of their own, shared with a child that runs the same case.
 class ProgramTest : public testing::Test {
 protected:
     ProgramTest() {
         QStandardPaths::setTestModeEnabled(false);
-        qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
-        qputenv("XDG_CONFIG_HOME", m_home.path().toUtf8());
+        const QByteArray home = isChild() ? qgetenv("CORVANE_TEST_HOME") : m_home.path().toUtf8();
+        for (const char* variable : {"XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "CORVANE_TEST_HOME"}) {
+            qputenv(variable, home);
+        }
+    }
+    ~ProgramTest() override { qunsetenv("CORVANE_TEST_HOME"); }
+
+    void startChild(const QString& program) {
+        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
+        m_child.setChildProcessModifier(test::endWithParent);
+        m_child.start(program, {u"--gtest_filter=*."_s + QString::fromUtf8(test->name())});
     }
 
-    /// Runs one of the disabled cases below in a process of its own.
-    void startCase(const QString& name, const QString& program = qApp->applicationFilePath()) {
-        m_child.setChildProcessModifier(test::endWithParent);
-        m_child.start(program, {u"--gtest_also_run_disabled_tests"_s,
-                                u"--gtest_filter=ProgramTest.DISABLED_"_s + name});
+    static bool isChild() {
+        static const bool child = qEnvironmentVariableIsSet("CORVANE_TEST_HOME");
+        return child;
     }
 
     QTemporaryDir m_home;
     QProcess m_child;
 };
 
-/// Holds the guard until killed.
-TEST_F(ProgramTest, DISABLED_Guarded) {
-    qputenv("XDG_RUNTIME_DIR", qgetenv("XDG_CACHE_HOME"));
-    const SingleInstanceGuard guard;
-    std::printf("%s\n", guard.isFirst() ? "first" : "second");
-    std::fflush(stdout);
-    qApp->exec();
-}
-
 TEST_F(ProgramTest, RunsOnceUntilItsProcessIsGone) {
-    {
-        const SingleInstanceGuard first;
-        EXPECT_TRUE(first.isFirst());
-        EXPECT_FALSE(SingleInstanceGuard().isFirst());
+    auto guard = std::make_unique<SingleInstanceGuard>();
+    EXPECT_TRUE(guard->isFirst());
+    EXPECT_FALSE(SingleInstanceGuard().isFirst());
+    if (isChild()) {
+        std::puts("guarded");
+        std::fflush(stdout);
+        qApp->exec(); // until killed
     }
-    qputenv("XDG_CACHE_HOME", m_home.path().toUtf8());
-    startCase(u"Guarded"_s);
+    guard.reset();
+    startChild(qApp->applicationFilePath());
     QByteArray output;
-    while (!output.contains("first") && m_child.waitForReadyRead(30'000)) {
+    while (!output.contains("guarded") && m_child.waitForReadyRead(30'000)) {
         output += m_child.readAllStandardOutput();
     }
-    ASSERT_TRUE(output.contains("first")) << output.toStdString();
-    EXPECT_FALSE(SingleInstanceGuard().isFirst());
+    EXPECT_FALSE(SingleInstanceGuard().isFirst()) << output.toStdString();
     m_child.kill();
     m_child.waitForFinished();
     EXPECT_TRUE(SingleInstanceGuard().isFirst());
 }
 
-TEST_F(ProgramTest, DISABLED_Installed) {
-    qputenv("XDG_CONFIG_HOME", qgetenv("XDG_CACHE_HOME"));
+TEST_F(ProgramTest, StartsWithTheDesktopFromAnyPath) {
     EXPECT_TRUE(installAutostart());
-}
-
-TEST_F(ProgramTest, StartsItselfWithTheDesktopFromAnyPath) {
+    if (isChild()) {
+        return;
+    }
+    EXPECT_TRUE(installAutostart());
     QFile entry(m_home.filePath(u"autostart/CorvaneClient.desktop"_s));
-    EXPECT_FALSE(uninstallAutostart());
-    EXPECT_TRUE(installAutostart());
-    EXPECT_TRUE(installAutostart());
-    EXPECT_TRUE(entry.exists());
     EXPECT_TRUE(uninstallAutostart());
     EXPECT_FALSE(entry.exists());
+    EXPECT_FALSE(uninstallAutostart());
 
-    qputenv("XDG_CACHE_HOME", m_home.path().toUtf8());
     const QString program = m_home.filePath(uR"(a "b" $c `d` 100% e\f ü)"_s);
     ASSERT_TRUE(QFile::copy(qApp->applicationFilePath(), program));
-    startCase(u"Installed"_s, program);
+    startChild(program);
     ASSERT_TRUE(m_child.waitForFinished(30'000));
-    ASSERT_EQ(m_child.exitCode(), 0) << m_child.readAll().toStdString();
     ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
     const QString exec =
         u"Exec=\""_s + m_home.path() + uR"(/a \\"b\\" \\$c \\`d\\` 100%% e\\\\f ü")"_s;

@@ -1,10 +1,8 @@
 #include "WindowFixture.h"
 
 #include <QClipboard>
-#include <QComboBox>
 #include <QGuiApplication>
 #include <QInputDialog>
-#include <QListWidget>
 
 namespace corvane {
 namespace {
@@ -117,53 +115,17 @@ TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
     EXPECT_TRUE(m_log.contains("API error on /sessions/create: 403 (Invalid session password)"));
 }
 
-TEST_F(MainWindowTest, KeepsFavouritesAndRecentPartners) {
+TEST_F(MainWindowTest, ShowsAnAcceptablePasswordLiterally) {
     start();
-    auto* const edit = widget<QLineEdit>("partnerEdit");
-    auto* const list = widget<QListWidget>("favoritesList");
-    for (const auto& id : {u"111 222 333"_s, u"44455566"_s, u"777888999"_s}) {
-        edit->clear();
-        QTest::keyClicks(edit, id);
-        click("favoriteButton");
-    }
-    EXPECT_EQ(m_settings.favorites(), (QStringList{u"111222333"_s, u"777888999"_s}));
-    const QRect first = list->visualItemRect(list->item(0));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, first.center());
-    EXPECT_EQ(edit->text(), u"111 222 333"_s);
-    EXPECT_EQ(m_window.focusWidget(), widget<QLineEdit>("partnerPasswordEdit"));
-    click("favoriteButton");
-    EXPECT_EQ(m_settings.favorites(), QStringList(u"777888999"_s));
-
-    connectTo(u"111222333"_s, u"Password1"_s);
-    EXPECT_EQ(edit->text(), u"111 222 333"_s);
-    const auto* const combo = widget<QComboBox>("partnerCombo");
-    EXPECT_EQ(combo->count(), 1);
-    EXPECT_EQ(combo->itemText(0), u"111 222 333"_s);
-}
-
-TEST_F(MainWindowTest, ChangesThePasswordByItsRules) {
-    start();
-    const QString longWithMarkup = u"<b>Aa1</b>"_s + QString(200, u'W');
-    const struct {
-        QString typed;
-        QStringList boxes;
-        QString shown;
-    } cases[] = {
-        {u""_s, {}, u"Password1"_s},
-        {u"Ab1"_s, {u"Invalid Password|Password must be at least 8 characters."_s}, u"Password1"_s},
-        {u"Better22"_s, {}, u"Better22"_s},
-        {longWithMarkup, {}, longWithMarkup},
-    };
-    for (const auto& c : cases) {
+    const QString accepted = u"<b>Aa1</b>"_s + QString(200, u'W');
+    for (const QString& typed : {u"Ab1"_s, accepted}) {
         click("changePasswordButton");
         auto* const dialog = m_window.findChild<QInputDialog*>();
-        ASSERT_NE(dialog, nullptr);
-        dialog->setTextValue(c.typed);
+        dialog->setTextValue(typed);
         QTest::keyClick(dialog, Qt::Key_Return);
-        EXPECT_EQ(takeBoxes(), c.boxes);
-        EXPECT_EQ(label("passwordLabel"), c.shown);
-        EXPECT_EQ(m_settings.sessionPassword(), c.shown);
         EXPECT_TRUE(eventually([&] { return m_window.findChild<QInputDialog*>() == nullptr; }));
+        EXPECT_EQ(takeBoxes().size(), typed == accepted ? 0 : 1);
+        EXPECT_EQ(label("passwordLabel"), typed == accepted ? accepted : u"Password1"_s);
     }
     EXPECT_EQ(widget<QLabel>("passwordLabel")->textFormat(), Qt::PlainText);
     const auto* const button = widget<QPushButton>("changePasswordButton");

@@ -148,21 +148,5 @@ TEST_F(RemoteDesktopPictureTest, IsBlackWithoutPictureAndShowsOnlyTheNewest) {
     expectQuarters(QRect(50, 0, 300, 300), "after clearing");
 }
 
-TEST_F(RemoteDesktopPictureTest, SurvivesTheMoveToAnotherWindow) {
-    show();
-    m_view->updateFrame(quarters(QSize(64, 64), 64, 64));
-    expectQuarters(QRect(50, 0, 300, 300), "before");
-    QWidget window;
-    window.resize(kViewSize);
-    m_view->setParent(&window);
-    m_view->show();
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    m_view->updateFrame(quarters(QSize(64, 64), 64, 64));
-    expectQuarters(QRect(50, 0, 300, 300), "after");
-    m_view.reset();
-    EXPECT_FALSE(m_log.contains("OpenGL error"));
-}
-
 } // namespace
 } // namespace corvane

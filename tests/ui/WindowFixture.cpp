@@ -1,6 +1,5 @@
 #include "WindowFixture.h"
 
-#include <QComboBox>
 #include <QJsonDocument>
 #include <QRegularExpression>
 #include <QSettings>
@@ -8,8 +7,9 @@
 
 namespace corvane::test {
 
-OwnSettings::OwnSettings() {
+bool WindowFixture::useSettingsIn(const QTemporaryDir& folder) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    return folder.isValid();
 }
 
 WindowFixture::WindowFixture() {

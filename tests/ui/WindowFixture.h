@@ -16,12 +16,6 @@
 
 namespace corvane::test {
 
-/// The settings store of one test, empty at first.
-struct OwnSettings {
-    OwnSettings();
-    QTemporaryDir folder;
-};
-
 /// The whole program in front of a server of its own, with a synthetic machine underneath, and
 /// means to look at the window and to use it like a person.
 class WindowFixture : public SessionTest {
@@ -59,9 +53,11 @@ protected:
     QStringList takeBoxes() const;
 
     bool isViewing() const;
+    static bool useSettingsIn(const QTemporaryDir& folder);
     bool is(SessionState state) const { return m_session.state() == state; }
 
-    const OwnSettings m_own;
+    const QTemporaryDir m_home;
+    const bool m_ownSettings = useSettingsIn(m_home);
     SettingsController m_settings;
     ApiClient m_api;
     SignalingClient m_signaling;
