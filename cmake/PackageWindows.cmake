@@ -2,7 +2,8 @@
 #
 # Which DLLs those are follows from the import tables of the program and of its plugins: one that
 # lies in RUNTIME_FOLDERS is shipped, any other must be one of Windows itself, for which
-# SYSTEM_FOLDER has an import library. Every library shipped brings its licence.
+# SYSTEM_FOLDER has an import library, or one of its API sets. Every library shipped brings its
+# licence.
 cmake_minimum_required(VERSION 3.25)
 
 # Qt looks for these by itself, so no import names them.
@@ -36,6 +37,9 @@ endfunction()
 
 function(require_system_library library importer)
     string(TOLOWER "${library}" lower)
+    if(lower MATCHES "^api-ms-win-")
+        return()
+    endif()
     string(REGEX REPLACE "\\.dll$" "" stem "${lower}")
     foreach(name "${stem}" "${lower}")
         if(EXISTS "${SYSTEM_FOLDER}/lib${name}.a")

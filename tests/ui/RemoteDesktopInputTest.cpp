@@ -1,3 +1,4 @@
+#include "NativeKeyCodes.h"
 #include "RemoteDesktopWidget.h"
 
 #include <QMouseEvent>
@@ -46,9 +47,9 @@ protected:
         QCoreApplication::sendEvent(&m_view, &event);
     }
 
-    bool key(QEvent::Type type, quint32 keycode, quint32 keysym, bool repeat = false) {
-        QKeyEvent event(type, Qt::Key_unknown, Qt::NoModifier, keycode, keysym, 0, QString(),
-                        repeat);
+    bool key(QEvent::Type type, test::NativeKeyCode code, bool repeat = false) {
+        QKeyEvent event(type, Qt::Key_unknown, Qt::NoModifier, code.scanCode, code.virtualKey, 0,
+                        QString(), repeat);
         QCoreApplication::sendEvent(&m_view, &event);
         return event.isAccepted();
     }
@@ -133,16 +134,13 @@ TEST_F(RemoteDesktopInputTest, SendsVerticalWheelOnly) {
 }
 
 TEST_F(RemoteDesktopInputTest, SendsKeysOnceWhileTheyRepeat) {
-    constexpr quint32 kKeycodeA = 38;
-    constexpr quint32 kKeycodeRight = 114;
-    constexpr quint32 kKeysymRight = 0xff53;
-    EXPECT_TRUE(key(QEvent::KeyPress, kKeycodeA, 'a'));
+    EXPECT_TRUE(key(QEvent::KeyPress, test::kNativeA));
     for (int i = 0; i < 3; ++i) {
-        EXPECT_FALSE(key(QEvent::KeyRelease, kKeycodeA, 'a', true));
-        EXPECT_FALSE(key(QEvent::KeyPress, kKeycodeA, 'a', true));
+        EXPECT_FALSE(key(QEvent::KeyRelease, test::kNativeA, true));
+        EXPECT_FALSE(key(QEvent::KeyPress, test::kNativeA, true));
     }
-    EXPECT_TRUE(key(QEvent::KeyRelease, kKeycodeA, 'a'));
-    key(QEvent::KeyPress, kKeycodeRight, kKeysymRight);
+    EXPECT_TRUE(key(QEvent::KeyRelease, test::kNativeA));
+    key(QEvent::KeyPress, test::kNativeRight);
     ASSERT_EQ(m_sent.size(), 3U);
     for (const int i : {0, 1}) {
         const InputEvent& event = m_sent[static_cast<size_t>(i)];
@@ -173,7 +171,7 @@ TEST_F(RemoteDesktopInputTest, ReleasesWhatIsHeld) {
     EXPECT_EQ(m_sent[2].x, m_sent[1].x);
 
     for (const bool byFocus : {true, false}) {
-        key(QEvent::KeyPress, 38, 'a');
+        key(QEvent::KeyPress, test::kNativeA);
         mouse(QEvent::MouseButtonPress, QPointF(200, 150), Qt::RightButton);
         m_sent.clear();
         if (byFocus) {
@@ -195,8 +193,8 @@ TEST_F(RemoteDesktopInputTest, SendsNothingWhileNotViewing) {
         mouse(type, QPointF(200, 150), Qt::LeftButton);
     }
     wheel(QPoint(0, 120));
-    key(QEvent::KeyPress, 38, 'a');
-    key(QEvent::KeyRelease, 38, 'a');
+    key(QEvent::KeyPress, test::kNativeA);
+    key(QEvent::KeyRelease, test::kNativeA);
     m_view.clearFocus();
     EXPECT_TRUE(m_sent.empty());
 }

@@ -15,7 +15,7 @@ struct ScratchSettings::Place {
 };
 
 ScratchSettings::ScratchSettings() : m_place(std::make_unique<Place>()) {
-    RegCreateKeyExW(HKEY_CURRENT_USER, m_place->path.c_str(), 0, nullptr, REG_OPTION_VOLATILE,
+    RegCreateKeyExW(HKEY_CURRENT_USER, m_place->path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
                     KEY_ALL_ACCESS, nullptr, &m_place->key, nullptr);
     RegOverridePredefKey(HKEY_CURRENT_USER, m_place->key);
 }
