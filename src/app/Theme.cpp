@@ -68,6 +68,10 @@ QPushButton:hover { background-color: $border; }
 QPushButton:focus { border-color: $accent; }
 QPushButton:pressed { background-color: $pressed; }
 QPushButton:disabled { background-color: $muted; color: $disabled; border-color: $button; }
+QPushButton::menu-indicator {
+    image: url(:/icons/arrow_down); width: 9px; height: 9px;
+    subcontrol-origin: padding; subcontrol-position: right center; right: 5px;
+}
 QPushButton#primaryButton {
     background-color: $accent; color: $field; border: 1px solid $accent; font-weight: bold;
 }

@@ -69,6 +69,8 @@ void RelayTransport::disconnect() {
         return;
     }
     spdlog::info("RelayTransport: disconnecting from {}:{}", m_host, m_port);
+    // What was sent just before, a key's release say, should still arrive.
+    m_socket.flush();
     m_socket.disconnectFromHost();
     if (m_socket.state() != QAbstractSocket::UnconnectedState) {
         m_socket.abort();

@@ -25,6 +25,15 @@ QLabel* createCaption(const QString& text, QWidget* parent) {
     return caption;
 }
 
+QLabel* createValueLabel(const QString& objectName, const QString& styleSheet, QWidget* parent) {
+    auto* const label = new QLabel(parent);
+    label->setObjectName(objectName);
+    label->setStyleSheet(styleSheet);
+    label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return label;
+}
+
 QPushButton* createIconButton(const QString& objectName, const QString& icon,
                               const QString& toolTip, int side, QWidget* parent) {
     auto* const button = new QPushButton(QIcon(QStringLiteral(":/icons/") + icon), {}, parent);
@@ -33,10 +42,12 @@ QPushButton* createIconButton(const QString& objectName, const QString& icon,
     button->setAccessibleName(toolTip);
     button->setFixedSize(side, side);
     button->setIconSize(QSize(side - 10, side - 10));
-    button->setStyleSheet(QStringLiteral(
-        "QPushButton { background: transparent; border: none; border-radius: 4px; padding: 0; }"
-        "QPushButton:hover { background-color: #2a3a5e; }"
-        "QPushButton:pressed { background-color: #3a4a6e; }"));
+    button->setStyleSheet(
+        QStringLiteral("QPushButton { background: transparent; border: 1px solid transparent; "
+                       "border-radius: 4px; padding: 0; }"
+                       "QPushButton:hover { background-color: #2a3a5e; }"
+                       "QPushButton:focus { border-color: #4da6ff; }"
+                       "QPushButton:pressed { background-color: #3a4a6e; }"));
     return button;
 }
 

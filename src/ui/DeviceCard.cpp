@@ -35,17 +35,19 @@ DeviceCard::DeviceCard(QWidget* parent) : QFrame(parent) {
     layout->addLayout(createPasswordRow());
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("statusLabel"));
+    m_status->setIndent(0); // a padded label would stand to the right of the others
     layout->addWidget(m_status);
     setStatus(tr("Connecting..."), QLatin1String(colors::kStatusConnecting));
 }
 
 QLayout* DeviceCard::createIdRow() {
     auto* const row = new QHBoxLayout;
-    m_id = new QLabel(tr("Connecting..."), this);
-    m_id->setObjectName(QStringLiteral("clientIdLabel"));
-    m_id->setStyleSheet(QStringLiteral("color: %1; font-size: 26px; font-weight: bold; "
-                                       "letter-spacing: 3px;")
-                            .arg(QLatin1String(colors::kIdText)));
+    m_id = createValueLabel(QStringLiteral("clientIdLabel"),
+                            QStringLiteral("color: %1; font-size: 26px; font-weight: bold; "
+                                           "letter-spacing: 3px;")
+                                .arg(QLatin1String(colors::kIdText)),
+                            this);
+    m_id->setText(tr("Connecting..."));
     auto* const copy =
         createIconButton(QStringLiteral("copyIdButton"), QStringLiteral("content_copy"),
                          tr("Copy ID"), kButtonSide, this);
@@ -58,11 +60,12 @@ QLayout* DeviceCard::createIdRow() {
 
 QLayout* DeviceCard::createPasswordRow() {
     auto* const row = new QHBoxLayout;
-    m_password = new QLabel(noPassword(), this);
-    m_password->setObjectName(QStringLiteral("passwordLabel"));
-    m_password->setStyleSheet(QStringLiteral("color: %1; font-size: 20px; font-weight: bold; "
-                                             "font-family: monospace; letter-spacing: 4px;")
-                                  .arg(QLatin1String(colors::kAccent)));
+    m_password = createValueLabel(QStringLiteral("passwordLabel"),
+                                  QStringLiteral("color: %1; font-size: 20px; font-weight: bold; "
+                                                 "font-family: monospace; letter-spacing: 4px;")
+                                      .arg(QLatin1String(colors::kAccent)),
+                                  this);
+    m_password->setText(noPassword());
     auto* const copy =
         createIconButton(QStringLiteral("copyPasswordButton"), QStringLiteral("content_copy"),
                          tr("Copy Password"), kButtonSide, this);

@@ -61,11 +61,12 @@ QLayout* HomePage::createHeader() {
 
 QLayout* HomePage::createPairingRow() {
     auto* const row = new QHBoxLayout;
-    m_pairingCode = new QLabel(this);
-    m_pairingCode->setObjectName(QStringLiteral("pairingCodeLabel"));
-    m_pairingCode->setStyleSheet(QStringLiteral("color: %1; font-size: 18px; font-weight: bold; "
-                                                "font-family: monospace;")
-                                     .arg(QLatin1String(colors::kPairingCode)));
+    m_pairingCode =
+        createValueLabel(QStringLiteral("pairingCodeLabel"),
+                         QStringLiteral("color: %1; font-size: 18px; font-weight: bold; "
+                                        "font-family: monospace;")
+                             .arg(QLatin1String(colors::kPairingCode)),
+                         this);
     auto* const copy =
         createIconButton(QStringLiteral("copyPairingCodeButton"), QStringLiteral("content_copy"),
                          tr("Copy Pairing Code"), kCopyButtonSide, this);

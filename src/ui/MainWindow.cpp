@@ -157,8 +157,14 @@ void MainWindow::onConnectClicked() {
 
 void MainWindow::onDisconnectClicked() {
     if (m_session->state() != SessionState::Idle) {
-        m_session->endSession(QStringLiteral("user_disconnect"));
+        endSession(QStringLiteral("user_disconnect"));
     }
+}
+
+void MainWindow::endSession(const QString& reason) {
+    // While the partner still listens: whatever the user holds down must not stay down over there.
+    m_viewer->view()->setViewingMode(false);
+    m_session->endSession(reason);
 }
 
 void MainWindow::onSessionHandshakeRequest(const QString& sessionId, const QString& masterClientId,
@@ -248,7 +254,7 @@ void MainWindow::onRequestError(const QString& endpoint, int statusCode, const Q
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (isActive(m_session->state())) {
-        m_session->endSession(QStringLiteral("user_closed_window"));
+        endSession(QStringLiteral("user_closed_window"));
         returnHome();
         event->ignore();
         return;
@@ -282,9 +288,6 @@ void MainWindow::returnHome() {
     view->setViewingMode(false);
     view->clearPicture();
     setWindowTitle(productTitle());
-    if (m_pages->currentWidget() == m_home) {
-        return;
-    }
     if (isFullScreen()) {
         showNormal();
     }

@@ -60,6 +60,7 @@ private:
     void setStatus(const QString& text, const char* color);
     bool isRegistered() const;
     void restoreConnectButton();
+    void endSession(const QString& reason);
     void enterViewer();
     void returnHome();
     void changePassword();

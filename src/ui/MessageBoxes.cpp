@@ -2,6 +2,18 @@
 
 namespace corvane {
 
+namespace {
+
+/// As much as leaves the box's buttons on the screen.
+QString boundedText(const QString& text) {
+    constexpr qsizetype kLongestText = 1000;
+    constexpr qsizetype kMostLines = 20;
+    return text.first(qMin(text.size(), kLongestText))
+        .section(QLatin1Char('\n'), 0, kMostLines - 1);
+}
+
+} // namespace
+
 MessageBoxes::MessageBoxes(QWidget* window) : QObject(window), m_window(window) {}
 
 void MessageBoxes::warn(const QString& title, const QString& text) {
@@ -16,19 +28,22 @@ void MessageBoxes::ask(const QString& title, const QString& text,
     QMessageBox* const box = create(QMessageBox::Question, title, text);
     box->setObjectName(QStringLiteral("questionBox"));
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    connect(box, &QMessageBox::finished, this,
-            [answered = std::move(answered)](int result) { answered(result == QMessageBox::Yes); });
+    // A question may come up under the fingers of someone who is typing.
+    box->setDefaultButton(QMessageBox::No);
+    connect(
+        box, &QMessageBox::finished, this,
+        [answered = std::move(answered)](int result) { answered(result == QMessageBox::Yes); },
+        Qt::SingleShotConnection);
     box->open();
 }
 
 QMessageBox* MessageBoxes::create(QMessageBox::Icon icon, const QString& title,
                                   const QString& text) {
-    constexpr qsizetype kLongestText = 1000;
     if (QMessageBox* const previous = m_open.value(title)) {
         previous->reject();
     }
-    auto* const box = new QMessageBox(icon, title, text.first(qMin(text.size(), kLongestText)),
-                                      QMessageBox::NoButton, m_window);
+    auto* const box =
+        new QMessageBox(icon, title, boundedText(text), QMessageBox::NoButton, m_window);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     m_open.insert(title, box);

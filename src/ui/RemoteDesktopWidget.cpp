@@ -47,8 +47,10 @@ RemoteDesktopWidget::RemoteDesktopWidget(QWidget* parent) : QOpenGLWidget(parent
 }
 
 RemoteDesktopWidget::~RemoteDesktopWidget() {
-    // The context itself goes with the base class, when this class is no more.
-    disconnect(m_contextLoss);
+    // The base class ends the context, when there is no renderer left to release.
+    if (context() != nullptr) {
+        disconnect(context(), nullptr, this, nullptr);
+    }
     releaseRenderer();
     spdlog::debug("RemoteDesktopWidget destroyed");
 }
@@ -101,8 +103,8 @@ void RemoteDesktopWidget::updateFrame(std::shared_ptr<DecodedFrame> frame) {
 
 void RemoteDesktopWidget::initializeGL() {
     // The context, and all that lives in it, is replaced when the widget moves to another window.
-    m_contextLoss = connect(context(), &QOpenGLContext::aboutToBeDestroyed, this,
-                            &RemoteDesktopWidget::releaseRenderer);
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this,
+            &RemoteDesktopWidget::releaseRenderer);
     m_renderer = std::make_unique<Nv12Renderer>();
     if (m_renderer->initialize()) {
         spdlog::info("RemoteDesktopWidget GL initialisation complete");

@@ -76,7 +76,6 @@ private:
     void releaseHeldInput();
 
     std::unique_ptr<Nv12Renderer> m_renderer;
-    QMetaObject::Connection m_contextLoss;
     std::mutex m_pendingMutex;
     std::shared_ptr<DecodedFrame> m_pendingFrame;
     ScaleMode m_scaleMode = ScaleMode::Fit;

@@ -80,6 +80,7 @@ QPushButton* ViewerPage::createButton(QWidget* bar, const QString& objectName, c
 void ViewerPage::addShortcut(const QString& keys, std::function<void()> action) {
     auto* const shortcut = new QShortcut(QKeySequence(keys), this);
     shortcut->setContext(Qt::WindowShortcut);
+    shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this, std::move(action));
 }
 

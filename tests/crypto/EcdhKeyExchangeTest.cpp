@@ -1,6 +1,7 @@
 #include "EcdhKeyExchange.h"
 #include "KeyDerivation.h"
 #include "LogCapture.h"
+#include "MatchesPattern.h"
 #include "OpensslErrors.h"
 
 #include <QByteArray>
@@ -25,7 +26,7 @@ TEST(EcdhKeyExchange, TheTokenIsOneLineOfBase64WithAP256PublicKey) {
     const LogCapture log;
     const EcdhKeyExchange exchange;
     const std::string token = exchange.publicKeyBase64();
-    EXPECT_THAT(token, testing::MatchesRegex("[A-Za-z0-9+/]+=*"));
+    EXPECT_THAT(token, test::MatchesPattern("[A-Za-z0-9+/]+=*"));
     EXPECT_EQ(token.size(), 124U);
     const auto der = QByteArray::fromBase64(QByteArray::fromStdString(token));
     EXPECT_EQ(der.size(), 91);
@@ -122,7 +123,7 @@ TEST(OpensslErrors, DrainTheQueueIntoOneText) {
     ERR_raise(ERR_LIB_EVP, EVP_R_INVALID_KEY_LENGTH);
     ERR_raise(ERR_LIB_EVP, EVP_R_INVALID_IV_LENGTH);
     EXPECT_THAT(opensslErrors(),
-                testing::MatchesRegex("error:.*:invalid key length; error:.*:invalid iv length"));
+                test::MatchesPattern("error:.*:invalid key length; error:.*:invalid iv length"));
     EXPECT_EQ(opensslErrors(), "unknown error");
 }
 

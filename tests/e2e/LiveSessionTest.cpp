@@ -26,6 +26,16 @@ protected:
             kPatience);
     }
 
+    std::vector<QRect> boxes() {
+        std::vector<QRect> found;
+        for (const char* title : {"Connection Error", "Session Error"}) {
+            if (const auto box = m_live.viewerDisplay().findWindow(QLatin1String(title))) {
+                found.push_back(*box);
+            }
+        }
+        return found;
+    }
+
     LiveSession m_live{{.viewerDisplay = {}, .stillDesktop = true}};
 };
 
@@ -56,18 +66,12 @@ TEST_F(LiveSessionTest, OnePersonSeesAndDrivesAnothersDesktop) {
 
 TEST_F(LiveSessionTest, AWrongPasswordIsToldAndTheNextTryConnects) {
     ASSERT_TRUE(m_live.enterPartner(QStringLiteral("Wrong0000")));
-    EXPECT_TRUE(isShown(QStringLiteral("Connection Error")));
-    EXPECT_TRUE(isShown(QStringLiteral("Session Error")));
-    // Both boxes close with Return; the newest has the keyboard.
-    for (const char* title : {"Connection Error", "Session Error"}) {
-        const auto box = m_live.viewerDisplay().findWindow(QLatin1String(title));
-        if (box) {
-            m_live.viewerDisplay().click(box->topLeft() + QPoint(4, 4));
-            m_live.viewerDisplay().pressKey(kKeyReturn);
-            EXPECT_TRUE(
-                waitFor([&] { return !m_live.viewerDisplay().findWindow(QLatin1String(title)); },
-                        kPatience));
-        }
+    ASSERT_TRUE(isShown(QStringLiteral("Connection Error")));
+    ASSERT_TRUE(isShown(QStringLiteral("Session Error")));
+    for (auto shown = boxes(); !shown.empty(); shown = boxes()) {
+        // OK sits in the lower right corner of whichever box is on top there.
+        m_live.viewerDisplay().click(shown.front().bottomRight() - QPoint(40, 24));
+        ASSERT_TRUE(waitFor([&] { return boxes().size() < shown.size(); }, kPatience));
     }
     // The password field still has the keyboard.
     m_live.viewerDisplay().pressKey('a', {kKeyControl});

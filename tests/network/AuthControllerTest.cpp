@@ -2,14 +2,14 @@
 #include "ApiClient.h"
 #include "DevServerTest.h"
 #include "MachineFingerprint.h"
+#include "MatchesPattern.h"
+#include "ScratchSettings.h"
 #include "SettingsController.h"
 #include "SignalingClient.h"
 
 #include <QJsonDocument>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QSysInfo>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -34,10 +34,7 @@ struct ProgramRun {
 
 class AuthControllerTest : public test::DevServerTest {
 protected:
-    AuthControllerTest() {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home.path());
-        newRun();
-    }
+    AuthControllerTest() { newRun(); }
 
     void newRun() {
         m_run.reset();
@@ -74,7 +71,7 @@ protected:
         return paths;
     }
 
-    QTemporaryDir m_home;
+    const test::ScratchSettings m_place;
     AuthIntervals m_intervals{.retry = std::chrono::milliseconds(1)};
     std::unique_ptr<ProgramRun> m_run;
 };
@@ -164,7 +161,7 @@ TEST_F(AuthControllerTest, RegistrationIsRetriedUntilItSucceeds) {
 TEST_F(AuthControllerTest, TheStoredPasswordIsUsedOnlyIfItMeetsThePolicy) {
     settings().setSessionPassword(u"abcdefg1"_s);
     newRun();
-    EXPECT_THAT(auth().sessionPassword().toStdString(), testing::MatchesRegex("[a-z0-9]{6}"));
+    EXPECT_THAT(auth().sessionPassword().toStdString(), test::MatchesPattern("[a-z0-9]{6}"));
     EXPECT_EQ(settings().sessionPassword(), u"abcdefg1"_s) << "the generated one is not stored";
     settings().setSessionPassword(u"Abcdefg1"_s);
     newRun();
@@ -192,7 +189,7 @@ TEST_F(AuthControllerTest, ThePairingCodeChangesByItself) {
     QSignalSpy changed(&auth(), &AuthController::pairingCodeChanged);
     ASSERT_TRUE(changed.wait());
     const QString code = changed.constLast().at(0).toString();
-    EXPECT_THAT(code.toStdString(), testing::MatchesRegex("[1-9][0-9]{5}"));
+    EXPECT_THAT(code.toStdString(), test::MatchesPattern("[1-9][0-9]{5}"));
     EXPECT_TRUE(serverHasCode(code));
 }
 

@@ -1,9 +1,12 @@
-#include "DevServerTest.h"
+#include "LogCapture.h"
 #include "MachineFingerprint.h"
 #include "MachineIdentity.h"
+#include "MatchesPattern.h"
 #include "PairingCodeGenerator.h"
 #include "PasswordPolicy.h"
 #include "SessionPasswordGenerator.h"
+
+#include <gmock/gmock.h>
 
 #include <set>
 
@@ -35,7 +38,7 @@ TEST(SessionPassword, IsSixLowercaseLettersAndDigits) {
     std::set<char> seen;
     for (int i = 0; i < 300; ++i) {
         const std::string password = generateSessionPassword().toStdString();
-        ASSERT_THAT(password, testing::MatchesRegex("[a-z0-9]{6}"));
+        ASSERT_THAT(password, test::MatchesPattern("[a-z0-9]{6}"));
         seen.insert(password.begin(), password.end());
     }
     EXPECT_EQ(seen.size(), 36U) << "1800 draws miss a character once in 10^20 runs";
@@ -55,7 +58,7 @@ TEST(PairingCode, IsDrawnWithoutBias) {
     EXPECT_EQ(drawn({0x80000000, 0x80000001}), Draw("550000", 2));
     for (int i = 0; i < 1000; ++i) {
         ASSERT_THAT(PairingCodeGenerator::next().toStdString(),
-                    testing::MatchesRegex("[1-9][0-9]{5}"));
+                    test::MatchesPattern("[1-9][0-9]{5}"));
     }
 }
 

@@ -1,7 +1,7 @@
 #include "SettingsController.h"
+#include "ScratchSettings.h"
 
 #include <QSettings>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -13,14 +13,13 @@ namespace {
 class SettingsControllerTest : public testing::Test {
 protected:
     SettingsControllerTest() {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home.path());
         m_settings = std::make_unique<SettingsController>();
         m_raw =
             std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
                                         QStringLiteral("Corvane"), QStringLiteral("CorvaneClient"));
     }
 
-    QTemporaryDir m_home;
+    const test::ScratchSettings m_place;
     std::unique_ptr<SettingsController> m_settings;
     std::unique_ptr<QSettings> m_raw;
 };

@@ -1,4 +1,4 @@
-#include "XvfbServer.h"
+#include "TestDisplay.h"
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -11,13 +11,11 @@ int main(int argc, char** argv) {
     if (GTEST_FLAG_GET(list_tests)) {
         return RUN_ALL_TESTS();
     }
-    const corvane::test::XvfbServer display;
-    if (!display.isRunning()) {
-        std::fputs("Xvfb did not start\n", stderr);
+    const corvane::test::TestDisplay display;
+    if (!display.isReady()) {
+        std::fputs("no display\n", stderr);
         return 1;
     }
-    display.use();
-    qputenv("QT_QPA_PLATFORM", "xcb");
     QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdint>
 #include <sys/eventfd.h>
@@ -12,12 +13,24 @@ namespace corvane {
 
 namespace {
 
+/// Tells the event loop of a signal, which may arrive on any thread.
 int requestDescriptor = -1;
 
-// A handler, not a blocked signal: threads that exist already would not share the mask.
 void onRequest(int) {
+    const int error = errno;
     const uint64_t one = 1;
     [[maybe_unused]] const auto written = write(requestDescriptor, &one, sizeof(one));
+    errno = error;
+}
+
+/// A program started with a signal ignored (nohup) keeps ignoring it.
+void handleUnlessIgnored(int request) {
+    struct sigaction action {};
+    if (sigaction(request, nullptr, &action) == 0 && action.sa_handler != SIG_IGN) {
+        action.sa_handler = onRequest;
+        action.sa_flags = SA_RESTART;
+        sigaction(request, &action, nullptr);
+    }
 }
 
 } // namespace
@@ -29,18 +42,13 @@ void quitOnSystemRequest(QCoreApplication& application) {
     }
     auto* const notifier =
         new QSocketNotifier(requestDescriptor, QSocketNotifier::Read, &application);
-    QObject::connect(notifier, &QSocketNotifier::activated, &application, [] {
-        uint64_t requests = 0;
-        if (read(requestDescriptor, &requests, sizeof(requests)) == sizeof(requests)) {
-            // Unlike `quit`, asks no window: the main one stays open to end a session.
-            QCoreApplication::exit();
-        }
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, [notifier] {
+        notifier->setEnabled(false);
+        // A polite quit would ask the window, which keeps itself open during a session.
+        QCoreApplication::exit();
     });
-    struct sigaction action = {};
-    action.sa_handler = onRequest;
-    action.sa_flags = SA_RESTART;
     for (const int request : {SIGTERM, SIGINT, SIGHUP}) {
-        sigaction(request, &action, nullptr);
+        handleUnlessIgnored(request);
     }
 }
 

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Runs a program of the windows-mingw build under Wine.
+# Usage: scripts/run-in-wine.sh <folder of the Windows libraries> <program> [arguments]
+#
+# Keeps a Wine prefix of its own unless WINEPREFIX names one; windows appear on DISPLAY.
+set -euo pipefail
+
+libraries=$1
+shift
+
+export WINEPREFIX=${WINEPREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/corvane/wine}
+export WINEDEBUG=${WINEDEBUG:--all}
+mkdir -p "$(dirname "$WINEPREFIX")"
+
+as_windows_path() {
+    local path
+    path=$(realpath "$1")
+    printf 'Z:%s' "${path//\//\\}"
+}
+
+WINEPATH=$(as_windows_path "$libraries/bin")
+for library in libstdc++-6.dll libwinpthread-1.dll; do
+    folder=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$library")")
+    WINEPATH+=";$(as_windows_path "$folder")"
+done
+export WINEPATH
+QT_PLUGIN_PATH=$(as_windows_path "$libraries/plugins")
+export QT_PLUGIN_PATH
+
+# Programs end their lines the Windows way.
+wine "$@" | tr -d '\r'

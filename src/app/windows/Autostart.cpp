@@ -1,0 +1,17 @@
+#include "Autostart.h"
+
+#include "LogonTask.h"
+
+#include <QCoreApplication>
+
+namespace corvane {
+
+bool installAutostart() {
+    return LogonTask().create(QCoreApplication::applicationFilePath());
+}
+
+bool uninstallAutostart() {
+    return LogonTask().remove();
+}
+
+} // namespace corvane

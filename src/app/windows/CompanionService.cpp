@@ -1,0 +1,20 @@
+#include "CompanionService.h"
+
+#include <windows.h>
+
+namespace corvane {
+
+bool isCompanionServicePresent() {
+    // Any process can own a pipe of that name: it learns nothing of this one's identity.
+    constexpr DWORD kFlags = SECURITY_SQOS_PRESENT | SECURITY_ANONYMOUS;
+    constexpr DWORD kNoSharing = 0;
+    const HANDLE pipe = CreateFileW(L"\\\\.\\pipe\\CorvaneService", GENERIC_READ | GENERIC_WRITE,
+                                    kNoSharing, nullptr, OPEN_EXISTING, kFlags, nullptr);
+    if (pipe == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    CloseHandle(pipe);
+    return true;
+}
+
+} // namespace corvane

@@ -1,0 +1,136 @@
+#include "WindowFixture.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputDialog>
+
+namespace corvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::eventually;
+
+class MainWindowTest : public test::WindowFixture {};
+
+TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
+    EXPECT_EQ(label("clientIdLabel"), u"Connecting..."_s);
+    EXPECT_EQ(label("passwordLabel"), u"------"_s);
+    EXPECT_EQ(status(), u"Connecting...|#ffa726"_s);
+    EXPECT_EQ(m_window.windowTitle(), u"Corvane - Remote Access"_s);
+    EXPECT_EQ(m_window.minimumSize(), QSize(420, 600));
+    const auto areEnabled = [this](bool enabled) {
+        return widget<QPushButton>("primaryButton")->isEnabled() == enabled &&
+               widget<QPushButton>("disconnectButton")->isEnabled() == enabled;
+    };
+    EXPECT_TRUE(areEnabled(false));
+
+    QStringList history;
+    QObject::connect(&m_auth, &AuthController::authenticated, [&] { history << status(); });
+    start();
+    const QString id = m_api.clientId();
+    EXPECT_EQ(history, QStringList(u"Ready|#007700"_s));
+    EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
+    EXPECT_TRUE(areEnabled(true));
+    const QString shownId = id.first(3) + u' ' + id.sliced(3, 3) + u' ' + id.last(3);
+    const struct {
+        const char *label, *button;
+        QString shown, copied;
+    } values[] = {
+        {"clientIdLabel", "copyIdButton", shownId, id},
+        {"passwordLabel", "copyPasswordButton", u"Password1"_s, u"Password1"_s},
+        {"pairingCodeLabel", "copyPairingCodeButton", m_auth.pairingCode(), m_auth.pairingCode()}};
+    for (const auto& value : values) {
+        EXPECT_EQ(label(value.label), value.shown);
+        click(value.button);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), value.copied);
+    }
+
+    m_server.dropSignaling(id);
+    EXPECT_TRUE(eventually([this] { return status() == u"Reconnecting...|#cc7700"; }));
+    Q_EMIT m_auth.authenticationFailed(u"gone"_s);
+    EXPECT_EQ(status(), u"Server unavailable — retrying...|#cc7700"_s);
+    Q_EMIT m_auth.loggedOut();
+    EXPECT_EQ(status(), u"Disconnected|#cc0000"_s);
+    EXPECT_EQ(label("clientIdLabel"), u"Not connected"_s);
+    EXPECT_EQ(label("passwordLabel"), u"------"_s);
+    EXPECT_TRUE(areEnabled(false));
+}
+
+TEST_F(MainWindowTest, RefusesIncompletePartners) {
+    start();
+    const struct {
+        QString partner, password, text;
+    } cases[] = {
+        {u"  "_s, u"x"_s, u"Please enter a partner Client ID."_s},
+        {u"12345678"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
+        {u"123 456 7890"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
+        {u"12345678a"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
+        {u"123 456 789"_s, u"  "_s, u"Please enter the partner's password."_s},
+    };
+    for (const auto& c : cases) {
+        connectTo(c.partner, c.password);
+        EXPECT_EQ(takeBoxes(), QStringList(u"Error|"_s + c.text));
+    }
+    EXPECT_TRUE(is(SessionState::Idle));
+    EXPECT_TRUE(m_settings.recentPartners().isEmpty());
+}
+
+TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
+    start();
+    const QString offline = m_server.registerDevice().clientId;
+    const auto online = createDevice();
+    const QString unreachable = u"The partner is not available or offline."_s;
+    const struct {
+        QString partner;
+        devserver::Reply reply;
+        QString detail, text;
+    } cases[] = {
+        {u"999999999"_s, {}, u"Target client is not available"_s, unreachable},
+        {offline, {}, u"Target client is offline"_s, unreachable},
+        {online->id, {}, u"Invalid session password"_s, u"Invalid session password."_s},
+        {online->id,
+         {.status = 403, .body = R"({"detail": "<b>odd</b> password\n"})"},
+         u"<b>odd</b> password\n"_s,
+         u"Invalid session password."_s},
+        {online->id,
+         {.status = 500, .body = R"({"detail": "<img src='x'>"})"},
+         u"<img src='x'>"_s,
+         u"Failed to connect. Please try again."_s},
+    };
+    for (const auto& c : cases) {
+        m_server.misbehaviour().clear();
+        if (c.reply.status) {
+            m_server.misbehaviour().setReply(u"/sessions/create"_s, c.reply);
+        }
+        connectTo(c.partner, u"Wrong0000"_s);
+        EXPECT_FALSE(widget<QPushButton>("primaryButton")->isEnabled());
+        ASSERT_TRUE(eventually([this] { return boxes().size() == 2; }));
+        auto shown = takeBoxes();
+        shown.sort();
+        EXPECT_EQ(shown,
+                  (QStringList{u"Connection Error|"_s + c.text, u"Session Error|"_s + c.detail}));
+        EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
+        EXPECT_TRUE(widget<QPushButton>("primaryButton")->isEnabled());
+    }
+    EXPECT_TRUE(m_log.contains("API error on /sessions/create: 403 (Invalid session password)"));
+}
+
+TEST_F(MainWindowTest, ShowsAnAcceptablePasswordLiterally) {
+    start();
+    const QString accepted = u"<b>Aa1</b>"_s + QString(200, u'W');
+    for (const QString& typed : {u"Ab1"_s, accepted}) {
+        click("changePasswordButton");
+        auto* const dialog = m_window.findChild<QInputDialog*>();
+        dialog->setTextValue(typed);
+        QTest::keyClick(dialog, Qt::Key_Return);
+        EXPECT_TRUE(eventually([&] { return m_window.findChild<QInputDialog*>() == nullptr; }));
+        EXPECT_EQ(takeBoxes().size(), typed == accepted ? 0 : 1);
+        EXPECT_EQ(label("passwordLabel"), typed == accepted ? accepted : u"Password1"_s);
+    }
+    EXPECT_EQ(widget<QLabel>("passwordLabel")->textFormat(), Qt::PlainText);
+    const auto* const button = widget<QPushButton>("changePasswordButton");
+    EXPECT_LE(button->mapTo(&m_window, QPoint(button->width(), 0)).x(), m_window.width());
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,147 @@
+#include "RemoteDesktopWidget.h"
+#include "WindowFixture.h"
+
+#include <QScreen>
+
+namespace corvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::eventually;
+
+class SessionWindowTest : public test::WindowFixture {
+protected:
+    QJsonObject request(const QString& session, const QString& purpose = {}) const {
+        return {{u"type"_s, u"SESSION_HANDSHAKE_REQUEST"_s},
+                {u"session_id"_s, session},
+                {u"master_client_id"_s, u"123456789"_s},
+                {u"purpose"_s, purpose}};
+    }
+
+    void expectHome() const {
+        EXPECT_FALSE(isViewing());
+        EXPECT_EQ(m_window.windowTitle(), u"Corvane - Remote Access"_s);
+        EXPECT_EQ(m_window.minimumSize(), QSize(420, 0));
+        EXPECT_EQ(m_window.width(), 420);
+        EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
+        EXPECT_TRUE(widget<QPushButton>("primaryButton")->isEnabled());
+    }
+};
+
+TEST_F(SessionWindowTest, FollowsAViewersSession) {
+    start();
+    QStringList history;
+    QObject::connect(&m_session, &SessionManager::stateChanged, [&] { history << status(); });
+    const auto partner = viewNewDevice();
+    ASSERT_NE(partner, nullptr);
+    EXPECT_EQ(m_window.windowTitle(), u"Corvane - Connected to "_s + partner->id.first(3) + u' ' +
+                                          partner->id.sliced(3, 3) + u' ' + partner->id.last(3));
+    EXPECT_EQ(m_window.minimumSize(), QSize(800, 600));
+    EXPECT_EQ(m_window.size(), QSize(960, 600)); // of a screen of 1280x720
+    EXPECT_EQ(m_settings.recentPartners(), QStringList(partner->id));
+
+    auto* const view = widget<RemoteDesktopWidget>("remoteDesktop");
+    EXPECT_EQ(m_window.focusWidget(), view);
+    QTest::mouseClick(view, Qt::LeftButton, {}, view->rect().center());
+    QTest::keyPress(view, Qt::Key_Control);
+    EXPECT_TRUE(eventually([&] { return partner->machine->injected.size() == 3; }));
+    bool released = false; // while it could still be sent
+    QObject::connect(view, &RemoteDesktopWidget::inputEvent, [&](const InputEvent& event) {
+        released = event.type == InputEventType::KeyRelease && is(SessionState::Connected);
+    });
+
+    click("viewerDisconnectButton");
+    EXPECT_EQ(history,
+              (QStringList{u"Initiating session...|#0077cc"_s, u"Exchanging keys...|#0077cc"_s,
+                           u"Establishing transport...|#0077cc"_s, u"Connected|#007700"_s,
+                           u"Disconnecting...|#cc7700"_s, u"Online (Ready)|#007700"_s}));
+    expectHome();
+    EXPECT_TRUE(eventually([&] { return partner->is(SessionState::Idle); }));
+    EXPECT_TRUE(released);
+    EXPECT_TRUE(eventually([this] { return closeReasons() == QStringList(u"user_disconnect"_s); }));
+    EXPECT_TRUE(boxes().isEmpty());
+}
+
+TEST_F(SessionWindowTest, EndsTheSessionInsteadOfClosing) {
+    start();
+    // A server that no longer knows the session is nobody's concern.
+    m_server.misbehaviour().setReply(u"/close"_s, {.status = 500});
+    ASSERT_NE(viewNewDevice(), nullptr);
+    EXPECT_FALSE(m_window.close());
+    EXPECT_TRUE(m_window.isVisible());
+    EXPECT_TRUE(is(SessionState::Idle));
+    expectHome();
+    EXPECT_TRUE(eventually([this] { return m_log.contains("API error on"); }));
+    EXPECT_TRUE(boxes().isEmpty());
+    EXPECT_EQ(closeReasons(), QStringList(u"user_closed_window"_s));
+    EXPECT_TRUE(m_window.close());
+    EXPECT_FALSE(m_window.isVisible());
+}
+
+TEST_F(SessionWindowTest, AsksBeforeASessionWithoutPassword) {
+    start();
+    const struct {
+        QString purpose;
+        QString purposeText;
+        QMessageBox::StandardButton answer; ///< none: the Escape key
+    } cases[] = {
+        {u"help <b>now</b> %1"_s, u"help <b>now</b> %1"_s, QMessageBox::NoButton},
+        {u""_s, u"remote access"_s, QMessageBox::No},
+        {u""_s, u"remote access"_s, QMessageBox::Yes},
+    };
+    for (const auto& c : cases) {
+        m_window.hide();
+        push(request(u"s1"_s, c.purpose));
+        ASSERT_TRUE(eventually([this] { return boxes().size() == 1; }));
+        EXPECT_TRUE(m_window.isVisible());
+        QMessageBox* const box = boxes().first();
+        EXPECT_EQ(box->windowTitle(), u"Incoming Connection"_s);
+        EXPECT_EQ(box->text(), u"Client 123 456 789 wants to connect.\nPurpose: "_s +
+                                   c.purposeText + u"\n\nAccept?"_s);
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        m_log.clear();
+        EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
+        if (c.answer == QMessageBox::NoButton) {
+            QTest::keyClick(box, Qt::Key_Escape);
+        } else {
+            QTest::mouseClick(box->button(c.answer), Qt::LeftButton);
+        }
+        const bool yes = c.answer == QMessageBox::Yes;
+        EXPECT_TRUE(boxes().isEmpty());
+        EXPECT_EQ(is(SessionState::Handshaking), yes);
+        EXPECT_EQ(m_log.count("info|Accepted session s1 from 123456789"), yes ? 1 : 0);
+        EXPECT_EQ(m_log.count("info|Rejected session s1 from 123456789"), yes ? 0 : 1);
+    }
+    EXPECT_EQ(m_session.role(), SessionRole::Target);
+    EXPECT_TRUE(closeReasons().isEmpty());
+}
+
+TEST_F(SessionWindowTest, KeepsAFloodOfRequestsToOneQuestionOnTheScreen) {
+    start();
+    for (int i = 0; i < 200; ++i) {
+        push(request(QString::number(i), QString(100, u'\n')));
+    }
+    ASSERT_TRUE(eventually([this] { return m_log.contains("Rejected session 198"); }));
+    EXPECT_TRUE(eventually([this] { return m_window.findChildren<QMessageBox*>().size() == 1; }));
+    ASSERT_EQ(boxes().size(), 1);
+    EXPECT_LT(boxes().first()->height(), m_window.screen()->size().height());
+}
+
+TEST_F(SessionWindowTest, SharesTheScreenWithWhoeverKnowsThePassword) {
+    start();
+    const auto viewer = createDevice();
+    ASSERT_TRUE(eventually([this] { // the server knows the password
+        return m_server.signalingMessages(m_api.clientId()).size() >= 2;
+    }));
+    viewer->session->initiateSession(m_api.clientId(), u"Password1"_s);
+    ASSERT_TRUE(eventually([&] { return viewer->picture != nullptr; }));
+    EXPECT_EQ(status(), u"Connected|#007700"_s);
+    EXPECT_FALSE(isViewing());
+    EXPECT_TRUE(boxes().isEmpty());
+    EXPECT_TRUE(m_log.contains(" (password verified)"));
+    click("disconnectButton");
+    expectHome();
+}
+
+} // namespace
+} // namespace corvane

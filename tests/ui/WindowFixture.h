@@ -1,0 +1,70 @@
+#pragma once
+
+#include "AuthController.h"
+#include "MainWindow.h"
+#include "SessionTest.h"
+#include "SettingsController.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace corvane::test {
+
+/// The whole program in front of a server of its own, with a synthetic machine underneath, and
+/// means to look at the window and to use it like a person.
+class WindowFixture : public SessionTest {
+protected:
+    WindowFixture();
+
+    /// Shows the window and waits until the device is online.
+    void start();
+
+    /// Types the partner's ID and the password and clicks Connect.
+    void connectTo(const QString& partner, const QString& password);
+
+    /// `connectTo` a new device; null when the picture does not come up.
+    std::unique_ptr<Device> viewNewDevice();
+
+    /// A push from the server.
+    void push(const QJsonObject& message);
+
+    template <typename Widget>
+    Widget* widget(const char* objectName) const {
+        return m_window.findChild<Widget*>(QLatin1String(objectName));
+    }
+    QString label(const char* objectName) const { return widget<QLabel>(objectName)->text(); }
+    void click(const char* objectName) const {
+        QTest::mouseClick(widget<QPushButton>(objectName), Qt::LeftButton);
+    }
+
+    /// "text|colour" of the status line, without its dot.
+    QString status() const;
+
+    /// The message boxes on the screen.
+    QList<QMessageBox*> boxes() const;
+
+    /// "title|text" of the boxes on the screen, closing them.
+    QStringList takeBoxes() const;
+
+    bool isViewing() const;
+    static bool useSettingsIn(const QTemporaryDir& folder);
+    bool is(SessionState state) const { return m_session.state() == state; }
+
+    const QTemporaryDir m_home;
+    const bool m_ownSettings = useSettingsIn(m_home);
+    SettingsController m_settings;
+    ApiClient m_api;
+    SignalingClient m_signaling;
+    AuthController m_auth{&m_api, &m_signaling, &m_settings};
+    std::shared_ptr<Machine> m_machine = std::make_shared<Machine>();
+    SessionManager m_session{&m_api, &m_signaling, createTestPlatform(m_machine)};
+    MainWindow m_window{&m_auth, &m_api, &m_signaling, &m_session, &m_settings};
+};
+
+} // namespace corvane::test
