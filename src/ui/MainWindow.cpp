@@ -291,10 +291,12 @@ void MainWindow::returnHome() {
     if (isFullScreen()) {
         showNormal();
     }
-    m_pages->setCurrentWidget(m_home);
+    if (m_pages->currentWidget() != m_home) {
+        m_pages->setCurrentWidget(m_home);
+        m_connect->focusPartnerField();
+    }
     setMinimumSize(kHomeMinimum.width(), 0);
     resize(kHomeMinimum.width(), m_home->sizeHint().height());
-    m_connect->focusPartnerField();
 }
 
 void MainWindow::changePassword() {
