@@ -27,5 +27,7 @@ export WINEPATH
 QT_PLUGIN_PATH=$(as_windows_path "$libraries/plugins")
 export QT_PLUGIN_PATH
 
-# Programs end their lines the Windows way.
-wine "$@" | tr -d '\r'
+# Not a pipe: what Wine starts in the background with the first program would keep it open.
+output=$(mktemp)
+trap 'tr -d "\r" <"$output"; rm -f "$output"' EXIT
+wine "$@" </dev/null >"$output" 2>&1
