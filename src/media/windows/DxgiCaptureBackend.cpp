@@ -74,6 +74,15 @@ FrameRect frameRect(const RECT& rect) {
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
+/// Where a pointer at `position` can show on `monitor`, in the monitor's pixels; may be empty.
+FrameRect pointerArea(const POINT& position, const MonitorInfo& monitor) {
+    const LONG left = position.x - monitor.x;
+    const LONG top = position.y - monitor.y;
+    return {std::clamp<LONG>(left, 0, monitor.width), std::clamp<LONG>(top, 0, monitor.height),
+            std::clamp<LONG>(left + kLargestPointer, 0, monitor.width),
+            std::clamp<LONG>(top + kLargestPointer, 0, monitor.height)};
+}
+
 } // namespace
 
 DxgiCaptureBackend::DxgiCaptureBackend(DxgiFunctions dxgi, GdiFunctions gdi)
@@ -366,14 +375,9 @@ bool DxgiCaptureBackend::appendMoveRects(UINT capacity, std::vector<FrameRect>& 
 void DxgiCaptureBackend::addPointer(CapturedFrame& frame) {
     const auto before = std::exchange(m_pointerDrawn, std::nullopt);
     if (const auto cursor = shownCursor(m_gdi)) {
-        drawCursor(m_gdi, *cursor, frame, m_monitor.x, m_monitor.y);
-        const LONG left = cursor->position.x - m_monitor.x;
-        const LONG top = cursor->position.y - m_monitor.y;
-        const FrameRect area = {std::clamp<LONG>(left, 0, frame.width),
-                                std::clamp<LONG>(top, 0, frame.height),
-                                std::clamp<LONG>(left + kLargestPointer, 0, frame.width),
-                                std::clamp<LONG>(top + kLargestPointer, 0, frame.height)};
+        const FrameRect area = pointerArea(cursor->position, m_monitor);
         if (area.left < area.right && area.top < area.bottom) {
+            drawCursor(m_gdi, *cursor, frame, m_monitor.x, m_monitor.y);
             m_pointerDrawn = area;
         }
     }
