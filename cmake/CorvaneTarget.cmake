@@ -1,7 +1,11 @@
 # Warnings, sanitizers and include path that every target of ours shares.
 add_library(corvane_options INTERFACE)
-target_compile_options(corvane_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+if(MSVC)
+    target_compile_options(corvane_options INTERFACE /W4 /permissive- /utf-8)
+else()
+    target_compile_options(corvane_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+endif()
 target_compile_definitions(corvane_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
 if(CORVANE_PLATFORM STREQUAL "windows")
