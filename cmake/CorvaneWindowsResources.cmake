@@ -7,9 +7,11 @@ function(corvane_add_windows_resources target)
     enable_language(RC)
     set(resource_script "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
     configure_file("${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.rc.in" "${resource_script}" @ONLY)
+    set(icon "${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.ico")
+    set(manifest "${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.manifest")
     set_source_files_properties("${resource_script}" PROPERTIES
         INCLUDE_DIRECTORIES "${CORVANE_WINDOWS_RESOURCES}"
-        OBJECT_DEPENDS "${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.ico;${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.manifest"
+        OBJECT_DEPENDS "${icon};${manifest}"
     )
     target_sources(${target} PRIVATE "${resource_script}")
     if(MSVC)
