@@ -14,11 +14,12 @@ namespace {
 
 constexpr GLuint kPositionAttribute = 0;
 constexpr GLuint kTexCoordAttribute = 1;
-constexpr int kVertexCount = 6;
-constexpr GLsizei kVertexStride = 4 * sizeof(float);
+constexpr size_t kVertexCount = 6;
+constexpr size_t kFloatsPerVertex = 4;
+constexpr GLsizei kVertexStride = kFloatsPerVertex * sizeof(float);
 
 /// Two triangles over the whole viewport: x, y, u, v. The picture's first row is at the top.
-constexpr std::array<float, 4 * kVertexCount> kVertices{
+constexpr std::array<float, kFloatsPerVertex * kVertexCount> kVertices{
     -1.0F, 1.0F, 0.0F, 0.0F, -1.0F, -1.0F, 0.0F, 1.0F, 1.0F, -1.0F, 1.0F, 1.0F,
     -1.0F, 1.0F, 0.0F, 0.0F, 1.0F,  -1.0F, 1.0F, 1.0F, 1.0F, 1.0F,  1.0F, 0.0F};
 
