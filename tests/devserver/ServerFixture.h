@@ -3,39 +3,46 @@
 #include "DevServer.h"
 
 #include <QNetworkAccessManager>
-#include <QTcpSocket>
+#include <QTest>
 #include <QWebSocket>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 
 namespace corvane::devserver {
+
+/// Runs the event loop until `holds` does; false when that takes 20 seconds.
+template <typename Condition>
+bool waitUntil(Condition holds) {
+    return QTest::qWaitFor(holds, 20'000);
+}
 
 /// What came back from a request; status 0 when nothing did.
 struct HttpResult {
     int status = 0;
     QByteArray body;
 
-    QJsonObject json() const { return jsonObject(body); }
-    QString detail() const { return json()[QStringLiteral("detail")].toString(); }
+    QString field(const char* name) const {
+        return jsonObject(body)[QLatin1String(name)].toString();
+    }
 };
 
-/// A device's signaling socket and what was pushed to it.
+/// A device's signaling socket and the messages pushed to it.
 struct Partner {
     Device device;
     std::unique_ptr<QWebSocket> socket = std::make_unique<QWebSocket>();
-    QList<QJsonObject> pushed = {};
+    QStringList pushed = {};
 
-    void send(const QJsonObject& message);
+    void send(const QString& message) { socket->sendTextMessage(message); }
+    bool isClosed() const { return socket->state() == QAbstractSocket::UnconnectedState; }
 };
 
-/// A server on free ports, with blocking helpers for its three sides.
+/// A server on free ports, with blocking helpers.
 class ServerFixture : public ::testing::Test {
 protected:
     void SetUp() override;
 
-    HttpResult call(const QByteArray& method, const QString& path, const QJsonObject& body = {},
+    HttpResult call(const QByteArray& method, const QString& path, const QByteArray& body = "{}",
                     const QString& token = {});
 
     /// Opens the signaling socket of `device` and authenticates; the first push is the verdict.
@@ -45,18 +52,10 @@ protected:
     std::unique_ptr<Partner> onlineDevice();
 
     HttpResult createSession(const Partner& master, const QString& targetId,
-                             const QString& password);
-
-    /// A connection to the relay that has sent the join frame of `sessionId`.
-    std::unique_ptr<QTcpSocket> joinRelay(const QString& sessionId);
+                             const QString& password = QStringLiteral("Password1"));
 
     DevServer m_server;
     QNetworkAccessManager m_network;
 };
-
-/// Runs the event loop until `holds` does; false when that takes 20 seconds.
-bool waitUntil(const std::function<bool()>& holds);
-
-QByteArray relayFrame(char channel, const QByteArray& payload);
 
 } // namespace corvane::devserver
