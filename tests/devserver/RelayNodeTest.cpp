@@ -4,8 +4,6 @@
 #include <QTcpSocket>
 #include <QtEndian>
 
-using namespace Qt::StringLiterals;
-
 namespace corvane::devserver {
 namespace {
 
