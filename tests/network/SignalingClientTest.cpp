@@ -54,17 +54,13 @@ protected:
 const std::string kReconnecting = "info|Reconnecting in 1000 ms (attempt 1/10)";
 
 TEST_F(SignalingClientTest, TheUrlFollowsTheServers) {
-    const struct {
-        const char *server, *socket;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"https://localhost:8443/any/path", "wss://localhost:8443/ws/clients/123456789"},
-        {"http://localhost:1", "ws://localhost:1/ws/clients/123456789"},
         {"other://localhost", "ws://localhost/ws/clients/123456789"},
     };
-    for (const auto& expected : cases) {
-        m_client.connectToServer(QUrl(QLatin1String(expected.server)), u"123456789"_s, u"tok"_s);
-        EXPECT_EQ(
-            m_log.count(std::string("info|Connecting to signaling server: ") + expected.socket), 1);
+    for (const auto& [server, socket] : cases) {
+        m_client.connectToServer(QUrl(QLatin1String(server)), u"123456789"_s, u"tok"_s);
+        EXPECT_TRUE(m_log.contains(std::string("Connecting to signaling server: ") + socket));
         m_client.disconnectFromServer();
     }
 }
@@ -169,10 +165,10 @@ TEST_F(SignalingClientTest, ServersThatCannotBeReachedAreTriedAgain) {
     m_client.connectToServer(noUpgrade.url(), u"1"_s, u"tok"_s);
     EXPECT_TRUE(waitForLog(kReconnecting));
 
+    m_client.disconnectFromServer();
+    m_log.clear();
     const test::CannedServer silent;
     SignalingClient impatient(nullptr, std::chrono::milliseconds(50));
-    m_log.clear();
-    m_client.disconnectFromServer();
     impatient.connectToServer(silent.url(), u"1"_s, u"tok"_s);
     EXPECT_TRUE(waitForLog(kReconnecting));
 }

@@ -117,8 +117,7 @@ TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
 TEST_F(RelayTransportTest, RefusedHeaderIsReportedAtOnceAndTheLinkGoesOn) {
     const struct {
         QByteArray bytes;
-        const char* error;
-        const char* line;
+        const char *error, *line;
     } cases[] = {
         {frameBytes(2, "x") + frameBytes(0, "lost"), "Invalid channel type in frame header",
          "error|RelayTransport: invalid channel type 2, resetting buffer"},

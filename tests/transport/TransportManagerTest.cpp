@@ -51,8 +51,7 @@ protected:
 
 TEST_F(TransportManagerTest, OnlyNatTypesZeroToThreeTryThePeerFirst) {
     const struct {
-        int local;
-        int remote;
+        int local, remote;
         bool triesPeer;
     } cases[] = {{0, 0, true},  {3, 3, true},   {4, 0, false},
                  {0, 4, false}, {-1, 0, false}, {0, 255, false}};
@@ -135,13 +134,8 @@ TEST_F(TransportManagerTest, FailuresNameTheirReason) {
 TEST_F(TransportManagerTest, OwnerMayCleanUpOrDestroyFromInsideTheFailure) {
     for (const bool destroy : {false, true}) {
         create([] { return nullptr; });
-        QObject::connect(manager.get(), &TransportManager::connectionFailed, manager.get(), [&] {
-            if (destroy) {
-                manager.reset();
-            } else {
-                manager->cleanup();
-            }
-        });
+        QObject::connect(manager.get(), &TransportManager::connectionFailed, manager.get(),
+                         [&] { destroy ? manager.reset() : manager->cleanup(); });
         const QPointer<TransportManager> alive(manager.get());
         manager->establishConnection(kSession, 0, 0, relayAt(1), true);
         ASSERT_TRUE(waitFor(*failed));
