@@ -161,16 +161,7 @@ TEST_F(ApiClientTest, OnlyAProperAnswerWithStatus200IsSuccess) {
     EXPECT_EQ(m_log.count("warning|Auto-register failed: Auto-registration failed"), 2);
 }
 
-TEST_F(ApiClientTest, OverlappingAnswersFindTheirRequests) {
-    m_server.misbehaviour().setReply(u"slow/complete"_s, {.delayMs = 100, .status = 500});
-    m_server.misbehaviour().setReply(u"fast/complete"_s, {.body = "{}"});
-    m_api.completeSession(u"slow"_s, kNone, kNone);
-    m_api.completeSession(u"fast"_s, kNone, kNone);
-    EXPECT_EQ(m_signals.next(), "sessionUpdated|{}");
-    EXPECT_EQ(m_signals.next(), "requestError|/sessions/.../complete|500|Session complete failed");
-}
-
-TEST_F(ApiClientTest, ConnectionsThatFailAreStatusZero) {
+TEST_F(ApiClientTest, ConnectionsThatFailAreStatusZeroAndRedirectsAreNotFollowed) {
     const QUrl deaf = test::deafUrl();
     m_api.setServerUrl(deaf);
     kComplete(m_api);
@@ -193,9 +184,7 @@ TEST_F(ApiClientTest, ConnectionsThatFailAreStatusZero) {
     impatient.setServerUrl(silent.url());
     kComplete(impatient);
     EXPECT_EQ(signalsOfImpatient.next(), kCompleteUnanswered);
-}
 
-TEST_F(ApiClientTest, RedirectsAreNotFollowed) {
     const test::CannedServer redirecting(
         "HTTP/1.1 307 Elsewhere\r\nContent-Length: 0\r\nLocation: " + m_server.url().toEncoded() +
         "/sessions/create\r\n\r\n");

@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 #include <QSysInfo>
 
+#include <algorithm>
 #include <memory>
 
 namespace corvane {

@@ -38,7 +38,7 @@ protected:
         return QTest::qWaitFor([&] { return spy.count() == count; }, patienceMs);
     }
 
-    QByteArray payload(int index) const { return received[index][1].toByteArray(); }
+    QByteArray delivered(int index) const { return received[index][1].toByteArray(); }
 
     test::LogCapture log;
     test::ScriptedRelay relay;
@@ -95,7 +95,7 @@ TEST_F(RelayTransportTest, DeliversSplitAndBundledFramesInOrder) {
     ASSERT_TRUE(waitFor(received, 3));
     EXPECT_EQ(received[0][0].value<ChannelType>(), ChannelType::Video);
     EXPECT_EQ(received[1][0].value<ChannelType>(), ChannelType::Control);
-    EXPECT_EQ(payload(0) + '|' + payload(1) + '|' + payload(2), "a|bc|split");
+    EXPECT_EQ(delivered(0) + '|' + delivered(1) + '|' + delivered(2), "a|bc|split");
 }
 
 TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
@@ -107,7 +107,7 @@ TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
 
     relay.write(frame);
     ASSERT_TRUE(waitFor(received, 1, 20'000));
-    EXPECT_TRUE(payload(0) == largest);
+    EXPECT_TRUE(delivered(0) == largest);
 
     EXPECT_FALSE(send(ChannelType::Video, largest + 'x'));
     EXPECT_EQ(log.count("error|RelayTransport::send: payload too large (16777217 > 16777216)"), 1);
@@ -134,7 +134,7 @@ TEST_F(RelayTransportTest, RefusedHeaderIsReportedAtOnceAndTheLinkGoesOn) {
         EXPECT_EQ(log.count(item.line), 1);
         relay.write(frameBytes(0, "next"));
         ASSERT_TRUE(waitFor(received, 1));
-        EXPECT_EQ(payload(0), "next");
+        EXPECT_EQ(delivered(0), "next");
     }
     EXPECT_TRUE(transport.isConnected());
 }
@@ -160,7 +160,7 @@ TEST_F(RelayTransportTest, DroppedLinkIsNoErrorAndJoinsAgain) {
     }
     relay.write(frameBytes(0, "fresh"));
     ASSERT_TRUE(waitFor(received, 1));
-    EXPECT_EQ(payload(0), "fresh");
+    EXPECT_EQ(delivered(0), "fresh");
     EXPECT_EQ(errors.count(), 0);
     EXPECT_EQ(disconnected.count(), 5);
 }
