@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QByteArray>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QUrl>
 
 namespace corvane::test {
@@ -10,17 +10,31 @@ namespace corvane::test {
 /// answer it stays silent and keeps the connection open. For answers that no proper server gives.
 class CannedServer {
 public:
-    explicit CannedServer(const QByteArray& answer = {});
+    explicit CannedServer(const QByteArray& answer = {}) {
+        m_server.listen(QHostAddress::LocalHost);
+        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this, answer] {
+            QTcpSocket* socket = m_server.nextPendingConnection();
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket, answer] {
+                socket->readAll();
+                if (!answer.isEmpty()) {
+                    socket->write(answer);
+                    socket->disconnectFromHost();
+                }
+            });
+        });
+    }
 
-    QUrl url() const;
-    int connections() const { return m_connections; }
+    QUrl url() const {
+        return QUrl(QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort()));
+    }
 
 private:
     QTcpServer m_server;
-    int m_connections = 0;
 };
 
 /// A base URL at which nobody listens.
-QUrl deafUrl();
+inline QUrl deafUrl() {
+    return CannedServer().url();
+}
 
 } // namespace corvane::test

@@ -16,8 +16,6 @@ public:
     explicit SignalLines(const Sender& sender, Signals... signalsToNote) {
         (watch(sender, signalsToNote), ...);
     }
-    SignalLines(const SignalLines&) = delete;
-    SignalLines& operator=(const SignalLines&) = delete;
 
     /// Waits for a line and forgets it and those before it; false when it does not come.
     bool waitFor(const QString& line) {

@@ -54,17 +54,13 @@ protected:
 const std::string kReconnecting = "info|Reconnecting in 1000 ms (attempt 1/10)";
 
 TEST_F(SignalingClientTest, TheUrlFollowsTheServers) {
-    const struct {
-        const char *server, *socket;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"https://localhost:8443/any/path", "wss://localhost:8443/ws/clients/123456789"},
-        {"http://localhost:1", "ws://localhost:1/ws/clients/123456789"},
         {"other://localhost", "ws://localhost/ws/clients/123456789"},
     };
-    for (const auto& expected : cases) {
-        m_client.connectToServer(QUrl(QLatin1String(expected.server)), u"123456789"_s, u"tok"_s);
-        EXPECT_EQ(
-            m_log.count(std::string("info|Connecting to signaling server: ") + expected.socket), 1);
+    for (const auto& [server, socket] : cases) {
+        m_client.connectToServer(QUrl(QLatin1String(server)), u"123456789"_s, u"tok"_s);
+        EXPECT_TRUE(m_log.contains(std::string("Connecting to signaling server: ") + socket));
         m_client.disconnectFromServer();
     }
 }
@@ -90,42 +86,36 @@ TEST_F(SignalingClientTest, ConnectedMeansAuthenticated) {
     m_client.sendMessage({{"type", "SET_PASSWORD"}, {"password", "pw"}});
     ASSERT_TRUE(received.wait());
     EXPECT_EQ(received.takeFirst().at(0), uR"({"password":"pw","type":"SET_PASSWORD"})"_s);
-    EXPECT_EQ(m_log.count("info|Signaling WebSocket connected, sending auth"), 1);
-    EXPECT_EQ(m_log.count("info|Signaling auth confirmed"), 1);
     EXPECT_EQ(m_log.count(R"(debug|Signaling message: {"type":"AUTH_OK"})"), 1);
 }
 
 TEST_F(SignalingClientTest, EveryMessageTypeBecomesItsSignal) {
     ASSERT_TRUE(goOnline());
     const struct {
-        const char *message, *signal;
+        const char *type, *fields, *signal;
     } cases[] = {
-        {R"({"type":"SESSION_HANDSHAKE_REQUEST","session_id":"s","master_client_id":"m","purpose":"p"})",
+        {"SESSION_HANDSHAKE_REQUEST", R"("master_client_id":"m","purpose":"p")",
          "sessionHandshakeRequest|s|m|p"},
-        {R"({"type":"SESSION_AUTO_ACCEPT","session_id":"s","master_client_id":"m","master_ecdh_public_key":"k"})",
+        {"SESSION_AUTO_ACCEPT", R"("master_client_id":"m","master_ecdh_public_key":"k")",
          "sessionAutoAccept|s|m|k"},
-        {R"({"type":"SESSION_HANDSHAKE_ACK","session_id":"s","state":"st","target_ecdh_public_key":"k"})",
+        {"SESSION_HANDSHAKE_ACK", R"("state":"st","target_ecdh_public_key":"k")",
          "sessionHandshakeAck|s|st|k"},
-        {R"({"type":"ICE_OFFER","session_id":"s","from_client_id":"f","sdp":"v=0"})",
-         "iceOffer|s|f|v=0"},
-        {R"({"type":"ICE_ANSWER","session_id":"s","from_client_id":"f","sdp":"v=0"})",
-         "iceAnswer|s|f|v=0"},
-        {R"({"type":"ICE_CANDIDATE","session_id":"s","from_client_id":"f","candidate":"c","mid":"0"})",
+        {"ICE_OFFER", R"("from_client_id":"f","sdp":"v=0")", "iceOffer|s|f|v=0"},
+        {"ICE_ANSWER", R"("from_client_id":"f","sdp":"v=0")", "iceAnswer|s|f|v=0"},
+        {"ICE_CANDIDATE", R"("from_client_id":"f","candidate":"c","mid":"0")",
          "iceCandidate|s|f|c|0"},
-        {R"({"type":"ICE_CANDIDATE","session_id":"s","from_client_id":5,"candidate":["c"]})",
-         "iceCandidate|s|||"},
-        {R"({"type":"AUTH_OK"})", "connected"},
+        {"ICE_CANDIDATE", R"("from_client_id":5,"candidate":["c"])", "iceCandidate|s|||"},
     };
     for (const auto& expected : cases) {
-        m_server.pushText(m_device.clientId, QLatin1String(expected.message));
-        EXPECT_TRUE(m_signals.waitFor(QLatin1String(expected.signal))) << expected.signal;
-        EXPECT_EQ(m_messages.back(), jsonText(parseJson(expected.message)));
+        const QString message = uR"({"session_id":"s","type":"%1",%2})"_s.arg(
+            QLatin1String(expected.type), QLatin1String(expected.fields));
+        m_server.pushText(m_device.clientId, message);
+        EXPECT_EQ(m_signals.next(), expected.signal);
+        EXPECT_EQ(m_messages.back(), jsonText(parseJson(message.toStdString())));
     }
-    EXPECT_EQ(m_log.count("info|Session auto-accepted: s from m"), 1);
-    EXPECT_EQ(m_log.count("info|Session handshake ACK: s state=st"), 1);
 }
 
-TEST_F(SignalingClientTest, OddMessagesAreSkipped) {
+TEST_F(SignalingClientTest, OddMessagesAreSkippedAndOversizedOnesEndTheConnection) {
     ASSERT_TRUE(goOnline());
     m_messages.clear();
     const std::vector<std::string> odd{R"({"session_id":"s"})", R"({"type":"ice_offer"})",
@@ -134,35 +124,33 @@ TEST_F(SignalingClientTest, OddMessagesAreSkipped) {
         m_server.pushText(m_device.clientId, QString::fromStdString(text));
     }
     m_server.pushText(m_device.clientId, u"{broken"_s);
-    m_server.pushText(m_device.clientId, QString(100'000, QLatin1Char('[')));
+    m_server.pushText(m_device.clientId, QString(100'000, u'['));
     m_server.pushText(m_device.clientId, uR"({"type":"AUTH_OK"})"_s);
     EXPECT_EQ(m_signals.next(), "connected");
     EXPECT_EQ(std::vector(m_messages.begin(), m_messages.end() - 1), odd);
     EXPECT_TRUE(m_log.contains("warning|Failed to parse signaling message: [json.exception"));
+
+    m_messages.clear();
+    m_server.pushText(m_device.clientId, QString(1024 * 1024 + 1, u'1'));
+    EXPECT_TRUE(waitForLog(kReconnecting));
+    EXPECT_TRUE(m_messages.empty());
 }
 
-TEST_F(SignalingClientTest, ARejectedTokenStopsReconnecting) {
+TEST_F(SignalingClientTest, ADropIsMendedAfterASecondButNotARejectedToken) {
     m_server.misbehaviour().setRejectAuth(true);
     connectClient();
     EXPECT_TRUE(m_signals.waitFor(u"connectionError|Authentication rejected by server"_s));
-    EXPECT_TRUE(eventually([&] { return !m_client.isConnected(); }));
     EXPECT_TRUE(waitForLog("info|Signaling WebSocket disconnected"));
+    EXPECT_FALSE(m_client.isConnected());
     EXPECT_EQ(m_log.count("error|Signaling auth rejected by server — not reconnecting"), 1);
     EXPECT_FALSE(m_log.contains("Reconnecting"));
 
     m_server.misbehaviour().setRejectAuth(false);
-    EXPECT_TRUE(goOnline());
-    m_server.dropSignaling(m_device.clientId);
-    EXPECT_TRUE(waitForLog(kReconnecting));
-}
-
-TEST_F(SignalingClientTest, ADropIsMendedAfterASecond) {
     ASSERT_TRUE(goOnline());
     m_server.dropSignaling(m_device.clientId);
     EXPECT_TRUE(m_signals.waitFor(u"disconnected"_s));
     EXPECT_EQ(m_log.count(kReconnecting), 1);
     EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
-    EXPECT_TRUE(isOnline());
     EXPECT_EQ(m_log.count("info|Attempting reconnect 1/10"), 1);
 }
 
@@ -177,19 +165,12 @@ TEST_F(SignalingClientTest, ServersThatCannotBeReachedAreTriedAgain) {
     m_client.connectToServer(noUpgrade.url(), u"1"_s, u"tok"_s);
     EXPECT_TRUE(waitForLog(kReconnecting));
 
+    m_client.disconnectFromServer();
+    m_log.clear();
     const test::CannedServer silent;
     SignalingClient impatient(nullptr, std::chrono::milliseconds(50));
-    m_log.clear();
-    m_client.disconnectFromServer();
     impatient.connectToServer(silent.url(), u"1"_s, u"tok"_s);
     EXPECT_TRUE(waitForLog(kReconnecting));
-}
-
-TEST_F(SignalingClientTest, AnOversizedMessageEndsTheConnection) {
-    ASSERT_TRUE(goOnline());
-    m_server.pushText(m_device.clientId, QString(1024 * 1024 + 1, QLatin1Char('1')));
-    EXPECT_TRUE(waitForLog(kReconnecting));
-    EXPECT_EQ(m_messages.size(), 1U);
 }
 
 TEST_F(SignalingClientTest, DisconnectingIsForGood) {
@@ -211,22 +192,18 @@ TEST_F(SignalingClientTest, ConnectingAgainReplacesTheConnection) {
     const auto other = m_server.registerDevice();
     m_client.connectToServer(m_server.url(), other.clientId, other.token);
     EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
-    EXPECT_TRUE(eventually([&] { return !isOnline(); }));
-    EXPECT_TRUE(m_server.isOnline(other.clientId));
-    EXPECT_FALSE(m_log.contains("Reconnecting"));
-}
+    EXPECT_TRUE(eventually([&] { return !isOnline() && m_server.isOnline(other.clientId); }));
 
-TEST_F(SignalingClientTest, AHandlerMayDisconnectAndConnectAgain) {
-    ASSERT_TRUE(goOnline());
     QObject::connect(&m_client, &SignalingClient::messageReceived, [this](const auto& message) {
         if (message == "leave") {
             m_client.disconnectFromServer();
         }
     });
     QObject::connect(&m_client, &SignalingClient::disconnected, [this] { connectClient(); });
-    m_server.pushText(m_device.clientId, u"\"leave\""_s);
+    m_server.pushText(other.clientId, u"\"leave\""_s);
     EXPECT_TRUE(m_signals.waitFor(u"disconnected"_s));
-    EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
+    EXPECT_TRUE(m_signals.waitFor(u"connected"_s)) << "handlers may disconnect and connect";
+    EXPECT_TRUE(isOnline());
     EXPECT_FALSE(m_log.contains("Reconnecting"));
 }
 

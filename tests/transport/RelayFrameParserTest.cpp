@@ -30,13 +30,6 @@ Result feed(RelayFrameParser& parser, const QByteArray& piece, Frames& frames) {
     return result;
 }
 
-TEST(RelayFrame, IsChannelThenBigEndianLengthThenPayload) {
-    const QByteArray payload(0x0102, 'x');
-    EXPECT_EQ(relayFrame(ChannelType::Video, span(payload).data(), 0x0102),
-              QByteArray::fromHex("0100000102") + payload);
-    EXPECT_EQ(relayFrame(ChannelType::Control, nullptr, 0), QByteArray::fromHex("0000000000"));
-}
-
 TEST(RelayFrameParser, EverySplitOfAStreamYieldsTheSameFrames) {
     const Frames expected{{ChannelType::Video, "first payload"},
                           {ChannelType::Control, QByteArray()},
@@ -76,17 +69,6 @@ TEST(RelayFrameParser, RefusedHeaderDropsThePieceAndTheNextOneStartsAfresh) {
         EXPECT_TRUE(frames.empty());
         EXPECT_EQ(feed(parser, frameBytes(1, "kept"), frames), Result::FrameReady);
         EXPECT_EQ(frames, (Frames{{ChannelType::Video, "kept"}}));
-    }
-}
-
-TEST(RelayFrameParser, ResetForgetsAFrameBegun) {
-    for (const qsizetype begun : {3, 5, 8}) {
-        RelayFrameParser parser;
-        Frames frames;
-        feed(parser, frameBytes(1, "abandoned").left(begun), frames);
-        parser.reset();
-        feed(parser, frameBytes(0, "whole"), frames);
-        EXPECT_EQ(frames, (Frames{{ChannelType::Control, "whole"}}));
     }
 }
 

@@ -12,6 +12,7 @@ using namespace std::chrono_literals;
 using test::frameBytes;
 
 constexpr const char* kJoin = R"({"session_id":"s-1","type":"relay_join"})";
+constexpr const char* kFirstAttempt = "info|RelayTransport: reconnecting in 10 ms (attempt 1/3)";
 constexpr size_t kMaxPayload = 16'777'216;
 
 class RelayTransportTest : public ::testing::Test {
@@ -25,7 +26,7 @@ protected:
         ASSERT_TRUE(connectToRelay());
         ASSERT_TRUE(relay.accept());
         ASSERT_EQ(relay.read(QByteArray(kJoin).size() + 5), frameBytes(0, kJoin));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return connected.count() == 1; }));
+        ASSERT_TRUE(waitFor(connected, 1));
     }
 
     bool send(ChannelType channel, const QByteArray& payload) {
@@ -33,13 +34,11 @@ protected:
                               static_cast<size_t>(payload.size()));
     }
 
-    int reconnectsScheduled() const {
-        int count = 0;
-        for (const std::string& line : log.lines()) {
-            count += line.find("reconnecting in") != std::string::npos ? 1 : 0;
-        }
-        return count;
+    bool waitFor(const QSignalSpy& spy, int count, int patienceMs = 5000) {
+        return QTest::qWaitFor([&] { return spy.count() == count; }, patienceMs);
     }
+
+    QByteArray delivered(int index) const { return received[index][1].toByteArray(); }
 
     test::LogCapture log;
     test::ScriptedRelay relay;
@@ -74,41 +73,29 @@ TEST_F(RelayTransportTest, ARelayThatStopsReadingCostsBoundedMemory) {
     EXPECT_TRUE(send(ChannelType::Video, payload));
 }
 
-TEST_F(RelayTransportTest, WithoutASessionIdConnectsUnjoined) {
+TEST_F(RelayTransportTest, ConnectsOnceAndUnjoinedWithoutASessionId) {
     transport.setSessionId(QString());
     ASSERT_TRUE(connectToRelay());
+    EXPECT_FALSE(connectToRelay()) << "while the first is under way";
     ASSERT_TRUE(relay.accept());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return connected.count() == 1; }));
+    ASSERT_TRUE(waitFor(connected, 1));
+    EXPECT_FALSE(connectToRelay()) << "while connected";
+    EXPECT_TRUE(log.contains("RelayTransport::connect called while socket is in state "));
     EXPECT_EQ(log.count("warning|RelayTransport: no session ID set, skipping relay_join"), 1);
     send(ChannelType::Control, "x");
     EXPECT_EQ(relay.read(6), frameBytes(0, "x"));
 }
 
-TEST_F(RelayTransportTest, SecondConnectIsRefusedWhileTheFirstIsUnderWay) {
-    ASSERT_TRUE(connectToRelay());
-    EXPECT_FALSE(connectToRelay());
-    EXPECT_TRUE(log.contains("RelayTransport::connect called while socket is in state "));
-    ASSERT_TRUE(relay.accept());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return transport.isConnected(); }));
-    EXPECT_FALSE(connectToRelay());
-}
-
 TEST_F(RelayTransportTest, DeliversSplitAndBundledFramesInOrder) {
     establish();
-    const QByteArray stream = frameBytes(1, "a") + frameBytes(0, QByteArray()) +
-                              frameBytes(0, "bc") + frameBytes(1, "split");
+    const QByteArray stream = frameBytes(1, "a") + frameBytes(0, "bc") + frameBytes(1, "split");
     relay.write(stream.chopped(2));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 3; }));
+    ASSERT_TRUE(waitFor(received, 2));
     relay.write(stream.right(2));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 4; }));
-    const std::pair<ChannelType, QByteArray> expected[] = {{ChannelType::Video, "a"},
-                                                           {ChannelType::Control, ""},
-                                                           {ChannelType::Control, "bc"},
-                                                           {ChannelType::Video, "split"}};
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(received[i][0].value<ChannelType>(), expected[i].first);
-        EXPECT_EQ(received[i][1].toByteArray(), expected[i].second);
-    }
+    ASSERT_TRUE(waitFor(received, 3));
+    EXPECT_EQ(received[0][0].value<ChannelType>(), ChannelType::Video);
+    EXPECT_EQ(received[1][0].value<ChannelType>(), ChannelType::Control);
+    EXPECT_EQ(delivered(0) + '|' + delivered(1) + '|' + delivered(2), "a|bc|split");
 }
 
 TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
@@ -119,8 +106,8 @@ TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
     EXPECT_TRUE(frame == frameBytes(1, largest));
 
     relay.write(frame);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 1; }, 20'000));
-    EXPECT_TRUE(received[0][1].toByteArray() == largest);
+    ASSERT_TRUE(waitFor(received, 1, 20'000));
+    EXPECT_TRUE(delivered(0) == largest);
 
     EXPECT_FALSE(send(ChannelType::Video, largest + 'x'));
     EXPECT_EQ(log.count("error|RelayTransport::send: payload too large (16777217 > 16777216)"), 1);
@@ -130,8 +117,7 @@ TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
 TEST_F(RelayTransportTest, RefusedHeaderIsReportedAtOnceAndTheLinkGoesOn) {
     const struct {
         QByteArray bytes;
-        const char* error;
-        const char* line;
+        const char *error, *line;
     } cases[] = {
         {frameBytes(2, "x") + frameBytes(0, "lost"), "Invalid channel type in frame header",
          "error|RelayTransport: invalid channel type 2, resetting buffer"},
@@ -143,12 +129,12 @@ TEST_F(RelayTransportTest, RefusedHeaderIsReportedAtOnceAndTheLinkGoesOn) {
         errors.clear();
         received.clear();
         relay.write(item.bytes);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return errors.count() == 1; }));
+        ASSERT_TRUE(waitFor(errors, 1));
         EXPECT_EQ(errors[0][0].toString(), QLatin1String(item.error));
         EXPECT_EQ(log.count(item.line), 1);
         relay.write(frameBytes(0, "next"));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 1; }));
-        EXPECT_EQ(received[0][1].toByteArray(), "next");
+        ASSERT_TRUE(waitFor(received, 1));
+        EXPECT_EQ(delivered(0), "next");
     }
     EXPECT_TRUE(transport.isConnected());
 }
@@ -158,7 +144,7 @@ TEST_F(RelayTransportTest, HandlerThatEndsTheConnectionSeesNoFurtherFrame) {
     QObject::connect(&transport, &ITransport::dataReceived, &transport,
                      [this] { transport.disconnect(); });
     relay.write(frameBytes(0, "last") + frameBytes(0, "never") + frameBytes(9, "never"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return disconnected.count() == 1; }));
+    ASSERT_TRUE(waitFor(disconnected, 1));
     EXPECT_EQ(received.count(), 1);
     EXPECT_EQ(errors.count(), 0);
 }
@@ -170,11 +156,11 @@ TEST_F(RelayTransportTest, DroppedLinkIsNoErrorAndJoinsAgain) {
         relay.drop();
         ASSERT_TRUE(relay.accept());
         EXPECT_EQ(relay.read(45), frameBytes(0, kJoin)) << "round " << round;
-        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 10 ms (attempt 1/3)"), round);
+        EXPECT_EQ(log.count(kFirstAttempt), round);
     }
     relay.write(frameBytes(0, "fresh"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return received.count() == 1; }));
-    EXPECT_EQ(received[0][1].toByteArray(), "fresh");
+    ASSERT_TRUE(waitFor(received, 1));
+    EXPECT_EQ(delivered(0), "fresh");
     EXPECT_EQ(errors.count(), 0);
     EXPECT_EQ(disconnected.count(), 5);
 }
@@ -184,35 +170,29 @@ TEST_F(RelayTransportTest, GivesUpAfterThreeFailedAttemptsUntilAskedAgain) {
     relay.refuse();
     for (int round = 1; round <= 2; ++round) {
         ASSERT_TRUE(transport.connect("127.0.0.1", port));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return errors.count() == 4 * round; }));
-        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 10 ms (attempt 1/3)"), round);
-        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 20 ms (attempt 2/3)"), round);
-        EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 40 ms (attempt 3/3)"), round);
-        EXPECT_EQ(reconnectsScheduled(), 3 * round);
+        ASSERT_TRUE(waitFor(errors, 4 * round));
+        for (const char* attempt :
+             {"10 ms (attempt 1/3)", "20 ms (attempt 2/3)", "40 ms (attempt 3/3)"}) {
+            EXPECT_EQ(log.count(std::string("info|RelayTransport: reconnecting in ") + attempt),
+                      round);
+        }
     }
     EXPECT_EQ(errors[0][0].toString(), QStringLiteral("Connection refused"));
     EXPECT_EQ(log.count("error|RelayTransport: socket error (0): Connection refused"), 8);
     EXPECT_EQ(disconnected.count(), 0);
 }
 
-TEST_F(RelayTransportTest, SuccessRestoresTheThreeAttempts) {
+TEST_F(RelayTransportTest, SuccessRestoresTheThreeAttemptsAndDisconnectEndsThem) {
     establish();
     const uint16_t port = relay.port();
     relay.refuse();
     relay.drop();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return errors.count() == 2; }));
+    ASSERT_TRUE(waitFor(errors, 2));
     relay.listenAgain(port);
     ASSERT_TRUE(relay.accept());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return connected.count() == 2; }));
+    ASSERT_TRUE(waitFor(connected, 2));
     relay.drop();
-    ASSERT_TRUE(relay.accept());
-    EXPECT_EQ(log.count("info|RelayTransport: reconnecting in 10 ms (attempt 1/3)"), 2);
-}
-
-TEST_F(RelayTransportTest, DisconnectCancelsAPendingReconnect) {
-    establish();
-    relay.drop();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return reconnectsScheduled() == 1; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return log.count(kFirstAttempt) == 2; }));
     transport.disconnect();
     EXPECT_FALSE(QTest::qWaitFor([this] { return relay.hasVisitor(); }, 60));
 }
@@ -222,8 +202,8 @@ TEST_F(RelayTransportTest, DisconnectFromInsideTheReportOfADropIsFinal) {
     QObject::connect(&transport, &ITransport::disconnected, &transport,
                      [this] { transport.disconnect(); });
     relay.drop();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return disconnected.count() == 1; }));
-    EXPECT_EQ(reconnectsScheduled(), 0);
+    ASSERT_TRUE(waitFor(disconnected, 1));
+    EXPECT_FALSE(log.contains("reconnecting in"));
 }
 
 } // namespace

@@ -40,11 +40,6 @@ protected:
         return QTest::qWaitFor([&] { return spy.count() > 0; });
     }
 
-    /// The reason of the one failure, empty when there is none.
-    QString failure() const {
-        return failed->count() == 1 ? (*failed)[0][0].toString() : QString();
-    }
-
     test::LogCapture log;
     test::ScriptedRelay relay;
     QStringList peerCalls;
@@ -56,8 +51,7 @@ protected:
 
 TEST_F(TransportManagerTest, OnlyNatTypesZeroToThreeTryThePeerFirst) {
     const struct {
-        int local;
-        int remote;
+        int local, remote;
         bool triesPeer;
     } cases[] = {{0, 0, true},  {3, 3, true},   {4, 0, false},
                  {0, 4, false}, {-1, 0, false}, {0, 255, false}};
@@ -119,41 +113,29 @@ TEST_F(TransportManagerTest, TimeoutFallsBackToTheRelay) {
     EXPECT_TRUE(manager->activeTransport()->isConnected());
 }
 
-TEST_F(TransportManagerTest, TimeoutWithoutRelayCandidatesFails) {
-    create(scriptedPeer(), 20ms);
-    manager->establishConnection(kSession, 0, 0, {}, true);
-    ASSERT_TRUE(waitFor(*failed));
-    EXPECT_EQ(failure(), u"No relay candidates available"_qs);
-}
-
 TEST_F(TransportManagerTest, WithoutAPeerTransportTheRelayIsTriedAtOnce) {
     create([] { return nullptr; });
     manager->establishConnection(kSession, 0, 0, relayAt(relay.port()), true);
     EXPECT_EQ(log.count("info|TransportManager: P2P is not built in, going directly to relay"), 1);
-    EXPECT_EQ(log.count("info|TransportManager: connecting to relay node 'node' at 127.0.0.1:" +
-                        std::to_string(relay.port())),
-              1);
     EXPECT_TRUE(waitFor(*established));
 }
 
-TEST_F(TransportManagerTest, RelayErrorIsReportedWithItsText) {
-    create(scriptedPeer());
-    relay.refuse();
+TEST_F(TransportManagerTest, FailuresNameTheirReason) {
+    create(scriptedPeer(), 20ms);
+    manager->establishConnection(kSession, 0, 0, {}, true);
+    ASSERT_TRUE(waitFor(*failed));
+    EXPECT_EQ((*failed)[0][0], u"No relay candidates available"_qs);
+    failed->clear();
     manager->establishConnection(kSession, 4, 4, relayAt(1), true);
     ASSERT_TRUE(waitFor(*failed));
-    EXPECT_EQ(failure(), u"All connection methods failed. Last error: Connection refused"_qs);
+    EXPECT_EQ((*failed)[0][0], u"All connection methods failed. Last error: Connection refused"_qs);
 }
 
 TEST_F(TransportManagerTest, OwnerMayCleanUpOrDestroyFromInsideTheFailure) {
     for (const bool destroy : {false, true}) {
         create([] { return nullptr; });
-        QObject::connect(manager.get(), &TransportManager::connectionFailed, manager.get(), [&] {
-            if (destroy) {
-                manager.reset();
-            } else {
-                manager->cleanup();
-            }
-        });
+        QObject::connect(manager.get(), &TransportManager::connectionFailed, manager.get(),
+                         [&] { destroy ? manager.reset() : manager->cleanup(); });
         const QPointer<TransportManager> alive(manager.get());
         manager->establishConnection(kSession, 0, 0, relayAt(1), true);
         ASSERT_TRUE(waitFor(*failed));
@@ -182,7 +164,6 @@ TEST_F(TransportManagerTest, StartingOverGivesUpTheFormerAttempt) {
     manager->establishConnection(kSession, 0, 0, {}, true);
     const QPointer<ScriptedPeerTransport> former = peer;
     manager->establishConnection(kSession, 0, 0, {}, true);
-    ASSERT_NE(former, peer);
     Q_EMIT former->connected();
     EXPECT_EQ(established->count(), 0);
     Q_EMIT peer->connected();
