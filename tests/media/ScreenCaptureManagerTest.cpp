@@ -19,51 +19,39 @@ Frame newFrame() {
 }
 
 /// Does what its script says; the script runs on the capture thread.
-struct Script {
-    std::function<Frame()> capture = newFrame;
-    std::function<bool()> initialize = [] {
+class ScriptedBackend : public IScreenCaptureBackend {
+public:
+    bool initialize(int monitorIndex) override {
+        monitor = static_cast<uint32_t>(monitorIndex);
+        return initialized = onInitialize();
+    }
+    void shutdown() override {
+        ++shutdowns;
+        initialized = false;
+    }
+    Frame captureFrame() override { return onCapture(); }
+    std::vector<MonitorInfo> monitors() override { return {currentMonitor()}; }
+    MonitorInfo currentMonitor() const override { return {.index = monitor, .name = {}}; }
+    bool isInitialized() const override { return initialized; }
+
+    std::function<Frame()> onCapture = newFrame;
+    std::function<bool()> onInitialize = [] {
         return true;
     };
     std::atomic<bool> initialized{true};
-    std::atomic<int> monitor{0};
+    std::atomic<uint32_t> monitor{0};
     std::atomic<int> shutdowns{0};
-};
-
-class ScriptedBackend : public IScreenCaptureBackend {
-public:
-    explicit ScriptedBackend(Script& script) : m_script(script) {}
-
-    bool initialize(int monitorIndex) override {
-        m_script.monitor = monitorIndex;
-        m_script.initialized = m_script.initialize();
-        return m_script.initialized;
-    }
-    void shutdown() override {
-        ++m_script.shutdowns;
-        m_script.initialized = false;
-    }
-    Frame captureFrame() override { return m_script.capture(); }
-    std::vector<MonitorInfo> monitors() override { return {currentMonitor()}; }
-    MonitorInfo currentMonitor() const override {
-        return {.index = static_cast<uint32_t>(m_script.monitor), .name = {}};
-    }
-    bool isInitialized() const override { return m_script.initialized; }
-
-private:
-    Script& m_script;
 };
 
 class ScreenCaptureManagerTest : public ::testing::Test {
 protected:
     static constexpr int kFast = 120;
 
-    void create(ScreenCaptureManager::Timings timings = {}) {
-        use(std::make_unique<ScriptedBackend>(script), timings);
-    }
+    void create(ScreenCaptureManager::Timings timings = {}) { use(std::move(backend), timings); }
 
-    void use(std::unique_ptr<IScreenCaptureBackend> backend,
+    void use(std::unique_ptr<IScreenCaptureBackend> used,
              ScreenCaptureManager::Timings timings = {}) {
-        manager = std::make_unique<ScreenCaptureManager>(std::move(backend), timings);
+        manager = std::make_unique<ScreenCaptureManager>(std::move(used), timings);
         QObject::connect(manager.get(), &ScreenCaptureManager::captureError, &context,
                          [this](const QString& message) { errors.append(message); });
     }
@@ -91,7 +79,8 @@ protected:
     }
 
     test::LogCapture log;
-    Script script;
+    std::unique_ptr<ScriptedBackend> backend = std::make_unique<ScriptedBackend>();
+    ScriptedBackend& script = *backend;
     QObject context;
     QStringList errors;
     std::unique_ptr<ScreenCaptureManager> manager;
@@ -158,7 +147,7 @@ TEST_F(ScreenCaptureManagerTest, LimitsTheRateStopsAtOnceAndRunsAgain) {
 TEST_F(ScreenCaptureManagerTest, TheLastMonitorSwitchWins) {
     std::promise<void> entered;
     std::promise<void> switched;
-    script.capture = [&, first = true]() mutable -> Frame {
+    script.onCapture = [&, first = true]() mutable -> Frame {
         if (std::exchange(first, false)) {
             entered.set_value();
             switched.get_future().wait();
@@ -184,10 +173,10 @@ TEST_F(ScreenCaptureManagerTest, TheLastMonitorSwitchWins) {
 
 TEST_F(ScreenCaptureManagerTest, RecoveryBacksOffAndStartsOverAfterAFrame) {
     // The switch fails, recovery needs seven attempts, and a later loss begins anew.
-    script.initialize = [attempts = 0]() mutable {
+    script.onInitialize = [attempts = 0]() mutable {
         return ++attempts > 7;
     };
-    script.capture = [this, captures = 0]() mutable -> Frame {
+    script.onCapture = [this, captures = 0]() mutable -> Frame {
         if (!script.initialized) {
             return nullptr;
         }
@@ -215,7 +204,7 @@ TEST_F(ScreenCaptureManagerTest, RecoveryBacksOffAndStartsOverAfterAFrame) {
 }
 
 TEST_F(ScreenCaptureManagerTest, StopsAtOnceDuringARecoveryPause) {
-    script.capture = [this]() -> Frame {
+    script.onCapture = [this]() -> Frame {
         script.initialized = false;
         return nullptr;
     };
@@ -226,7 +215,7 @@ TEST_F(ScreenCaptureManagerTest, StopsAtOnceDuringARecoveryPause) {
 }
 
 TEST_F(ScreenCaptureManagerTest, AnExceptionCostsOneRound) {
-    script.capture = [first = true]() mutable -> Frame {
+    script.onCapture = [first = true]() mutable -> Frame {
         if (std::exchange(first, false)) {
             throw std::runtime_error("device on fire");
         }
@@ -243,7 +232,7 @@ TEST_F(ScreenCaptureManagerTest, AnExceptionCostsOneRound) {
 
 TEST_F(ScreenCaptureManagerTest, AKeyFrameRequestMarksTheNextFrameHoweverLate) {
     std::atomic<bool> still{true};
-    script.capture = [&still]() -> Frame {
+    script.onCapture = [&still]() -> Frame {
         if (still) {
             return nullptr;
         }
@@ -269,7 +258,7 @@ TEST_F(ScreenCaptureManagerTest, AKeyFrameRequestMarksTheNextFrameHoweverLate) {
 
 TEST_F(ScreenCaptureManagerTest, TerminatesAThreadThatHangs) {
     std::promise<void> entered;
-    script.capture = [&entered]() -> Frame {
+    script.onCapture = [&entered]() -> Frame {
         entered.set_value();
         std::this_thread::sleep_for(10s);
         return nullptr;
