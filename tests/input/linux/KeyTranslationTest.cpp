@@ -54,31 +54,19 @@ TEST(KeyTranslation, EveryKeySurvivesTheWayThroughTheWire) {
     }
 }
 
-TEST(KeyTranslation, KnownKeysOnTheWire) {
+TEST(KeyTranslation, KnownKeysOnTheWireWithLettersAndDigitsOfTheLayout) {
     const struct {
-        uint32_t keysym;
-        uint32_t xKeycode;
-        uint32_t virtualKey;
-        uint32_t scanCode;
+        uint32_t keysym, xKeycode, virtualKey, scanCode;
     } cases[] = {
-        {0, KEY_LEFT + 8, 0x25, 0xE04B},
-        {0, KEY_KP4 + 8, 0x64, 0x4B},
-        {0, KEY_NUMLOCK + 8, 0x90, 0x45},
-        {0, KEY_SYSRQ + 8, 0x2C, 0xE037},
-        {0, KEY_RIGHTCTRL + 8, 0xA3, 0xE01D},
-        {0, KEY_LEFTCTRL + 8, 0xA2, 0x1D},
-        {0, KEY_PAUSE + 8, 0x13, 0},
-        {0, KEY_102ND + 8, 0xE2, 0x56},
-        {0, KEY_KPENTER + 8, 0x0D, 0xE01C},
-        {0, KEY_A + 8, 0x41, 0x1E},
-        {0, KEY_LEFTMETA + 8, 0x5B, 0xE05B},
-        {0, KEY_F12 + 8, 0x7B, 0x58},
-        // Letters and digits follow the layout.
-        {'a', KEY_Q + 8, 'A', 0x10},
-        {'A', KEY_Q + 8, 'A', 0x10},
-        {'&', KEY_1 + 8, '1', 0x02},
-        {'z', 3, 'Z', 0},
-        {0xFF1B, 0xFFFFFFFF, 0, 0},
+        {0, KEY_LEFT + 8, 0x25, 0xE04B},      {0, KEY_KP4 + 8, 0x64, 0x4B},
+        {0, KEY_NUMLOCK + 8, 0x90, 0x45},     {0, KEY_SYSRQ + 8, 0x2C, 0xE037},
+        {0, KEY_RIGHTCTRL + 8, 0xA3, 0xE01D}, {0, KEY_LEFTCTRL + 8, 0xA2, 0x1D},
+        {0, KEY_PAUSE + 8, 0x13, 0},          {0, KEY_102ND + 8, 0xE2, 0x56},
+        {0, KEY_KPENTER + 8, 0x0D, 0xE01C},   {0, KEY_A + 8, 0x41, 0x1E},
+        {0, KEY_LEFTMETA + 8, 0x5B, 0xE05B},  {0, KEY_F12 + 8, 0x7B, 0x58},
+        {'a', KEY_Q + 8, 'A', 0x10},          {'A', KEY_Q + 8, 'A', 0x10},
+        {'&', KEY_1 + 8, '1', 0x02},          {'z', 3, 'Z', 0},
+        {0, KEY_DELETE + 8, 0x2E, 0xE053},    {0xFF1B, 0xFFFFFFFF, 0, 0},
     };
     for (const auto& item : cases) {
         const NativeKey wire = wireKeyFromNative(item.keysym, item.xKeycode);
