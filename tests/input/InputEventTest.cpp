@@ -6,44 +6,22 @@
 #include <limits>
 #include <stdexcept>
 #include <string>
-#include <vector>
+#include <tuple>
 
 namespace corvane {
 namespace {
 
-InputEvent mouseEvent(InputEventType type, double x, double y, MouseButton button, int16_t wheel) {
-    InputEvent event;
-    event.type = type;
-    event.timestampMs = 0x0102030405060708;
-    event.x = x;
-    event.y = y;
-    event.button = button;
-    event.wheelDelta = wheel;
-    return event;
+using enum InputEventType;
+
+QByteArray hexOf(const InputEvent& event) {
+    const ByteVector bytes = event.serialize();
+    const auto size = static_cast<qsizetype>(bytes.size());
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), size).toHex(' ');
 }
 
-InputEvent keyEvent(InputEventType type, uint32_t keyCode, uint32_t scanCode, bool extended) {
-    InputEvent event;
-    event.type = type;
-    event.timestampMs = 1;
-    event.keyCode = keyCode;
-    event.scanCode = scanCode;
-    event.extended = extended;
-    return event;
-}
-
-QByteArray hex(const ByteVector& bytes) {
-    return QByteArray(reinterpret_cast<const char*>(bytes.data()),
-                      static_cast<qsizetype>(bytes.size()))
-        .toHex();
-}
-
-ByteVector record(uint8_t type, size_t size) {
-    ByteVector bytes(size, 0);
-    if (size > 0) {
-        bytes[0] = type;
-    }
-    return bytes;
+auto fieldsOf(const InputEvent& e) {
+    return std::tuple(e.type, e.timestampMs, e.x, e.y, e.button, e.wheelDelta, e.keyCode,
+                      e.scanCode, e.extended);
 }
 
 template <typename Action>
@@ -57,55 +35,40 @@ std::string failureOf(Action action) {
 }
 
 TEST(InputEvent, BytesOnTheWire) {
-    EXPECT_EQ(hex(mouseEvent(InputEventType::MouseWheel, 0.5, -0.25, MouseButton::Forward, -120)
-                      .serialize()),
-              "04"
-              "0807060504030201"
-              "000000000000e03f"
-              "000000000000d0bf"
-              "05"
-              "88ff");
-    EXPECT_EQ(hex(keyEvent(InputEventType::KeyRelease, 0xA3, 0xE01D, true).serialize()),
-              "06"
-              "0100000000000000"
-              "a3000000"
-              "1de00000"
-              "01");
+    EXPECT_EQ(
+        hexOf({.type = MouseWheel,
+               .timestampMs = 0x0102030405060708,
+               .x = 0.5,
+               .y = -0.25,
+               .button = MouseButton::Forward,
+               .wheelDelta = -120}),
+        "04 08 07 06 05 04 03 02 01 00 00 00 00 00 00 e0 3f 00 00 00 00 00 00 d0 bf 05 88 ff");
+    EXPECT_EQ(hexOf({.type = KeyRelease,
+                     .timestampMs = 1,
+                     .keyCode = 0xA3,
+                     .scanCode = 0xE01D,
+                     .extended = true}),
+              "06 01 00 00 00 00 00 00 00 a3 00 00 00 1d e0 00 00 01");
 }
 
 TEST(InputEvent, RoundTripKeepsEveryFieldOfItsGroupAndDefaultsTheOther) {
     const InputEvent events[] = {
-        mouseEvent(InputEventType::MouseMove, 1.5, -0.25, MouseButton::Left, 0),
-        mouseEvent(InputEventType::MouseButtonPress, 0.0, 1.0, static_cast<MouseButton>(7), 0),
-        mouseEvent(InputEventType::MouseButtonRelease, 1e300, 0.0, MouseButton::Back, 0),
-        mouseEvent(InputEventType::MouseWheel, 0.0, 0.0, MouseButton::Left,
-                   std::numeric_limits<int16_t>::min()),
-        keyEvent(InputEventType::KeyPress, 0xFFFFFFFF, 0x0100001E, false),
-        keyEvent(InputEventType::KeyRelease, 0, 0, true),
+        {.type = MouseMove, .timestampMs = 7, .x = 1.5, .y = -0.25},
+        {.type = MouseButtonPress, .y = 1.0, .button = static_cast<MouseButton>(7)},
+        {.type = MouseButtonRelease, .x = 1e300, .button = MouseButton::Back},
+        {.type = MouseWheel, .wheelDelta = std::numeric_limits<int16_t>::min()},
+        {.type = KeyPress, .timestampMs = 8, .keyCode = 0xFFFFFFFF, .scanCode = 0x0100001E},
+        {.type = KeyRelease, .extended = true},
     };
     for (const InputEvent& event : events) {
         ByteVector bytes = event.serialize();
-        bytes.push_back(0xEE); // ignored
-        const InputEvent read = InputEvent::deserialize(bytes.data(), bytes.size());
-        EXPECT_EQ(read.type, event.type);
-        EXPECT_EQ(read.timestampMs, event.timestampMs);
-        EXPECT_EQ(read.x, event.x);
-        EXPECT_EQ(read.y, event.y);
-        EXPECT_EQ(read.button, event.button);
-        EXPECT_EQ(read.wheelDelta, event.wheelDelta);
-        EXPECT_EQ(read.keyCode, event.keyCode);
-        EXPECT_EQ(read.scanCode, event.scanCode);
-        EXPECT_EQ(read.extended, event.extended);
+        bytes.back() = event.extended ? 2 : bytes.back(); // any but 0 is true
+        bytes.push_back(0xEE);                            // ignored
+        EXPECT_EQ(fieldsOf(InputEvent::deserialize(bytes.data(), bytes.size())), fieldsOf(event));
     }
 }
 
-TEST(InputEvent, AnyNonZeroExtendedByteIsTrue) {
-    ByteVector bytes = record(5, 18);
-    bytes[17] = 0x02;
-    EXPECT_TRUE(InputEvent::deserialize(bytes.data(), bytes.size()).extended);
-}
-
-TEST(InputEvent, DeserializeNamesTheFirstThingWrong) {
+TEST(InputEvent, RefusalsNameTheFirstThingWrong) {
     const struct {
         uint8_t type;
         size_t size;
@@ -117,27 +80,20 @@ TEST(InputEvent, DeserializeNamesTheFirstThingWrong) {
         {0, 28, "InputEvent::deserialize: unknown event type 0"},
         {255, 28, "InputEvent::deserialize: unknown event type 255"},
         {1, 9, "InputEvent::deserialize: buffer too small for mouse event (9 < 28)"},
-        {2, 20, "InputEvent::deserialize: buffer too small for mouse event (20 < 28)"},
         {4, 27, "InputEvent::deserialize: buffer too small for mouse event (27 < 28)"},
-        {5, 9, "InputEvent::deserialize: buffer too small for key event (9 < 18)"},
         {6, 17, "InputEvent::deserialize: buffer too small for key event (17 < 18)"},
         {3, 28, "no failure"},
         {6, 18, "no failure"},
     };
     for (const auto& item : cases) {
         // Exactly as long as it claims, so that a read past the end is one past the allocation.
-        const ByteVector bytes = record(item.type, item.size);
+        const ByteVector bytes(item.size, item.type);
         EXPECT_EQ(failureOf([&] { InputEvent::deserialize(bytes.data(), bytes.size()); }),
                   item.failure);
     }
-    EXPECT_EQ(failureOf([] { InputEvent::deserialize(nullptr, 28); }),
-              "InputEvent::deserialize: buffer too small for header");
-}
-
-TEST(InputEvent, SerializeRefusesUnknownTypes) {
+    EXPECT_EQ(failureOf([] { InputEvent::deserialize(nullptr, 28); }), cases[0].failure);
     for (const int type : {0, 7, 255}) {
-        InputEvent event;
-        event.type = static_cast<InputEventType>(type);
+        const InputEvent event{.type = static_cast<InputEventType>(type)};
         EXPECT_EQ(failureOf([&] { event.serialize(); }),
                   "InputEvent::serialize: unknown event type " + std::to_string(type));
     }

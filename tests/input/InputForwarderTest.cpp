@@ -30,16 +30,13 @@ private:
     Script& m_script;
 };
 
-InputEvent eventAt(double x, InputEventType type = InputEventType::MouseMove) {
-    InputEvent event;
-    event.type = type;
-    event.x = x;
-    return event;
-}
-
 class InputForwarderTest : public ::testing::Test {
 protected:
     using Positions = std::vector<double>;
+
+    void process(double x, InputEventType type = InputEventType::MouseMove) {
+        forwarder->processEvent({.type = type, .x = x});
+    }
 
     bool waitForInjections(size_t count) {
         return QTest::qWaitFor([&] { return script.injected.size() >= count; });
@@ -53,47 +50,37 @@ protected:
 
 TEST_F(InputForwarderTest, OfABurstTheFirstGoesAtOnceAndTheLatestAtTheWindowsEnd) {
     for (int i = 1; i <= 10; ++i) {
-        forwarder->processEvent(eventAt(i));
+        process(i);
     }
     EXPECT_EQ(script.injected, Positions{1});
     ASSERT_TRUE(waitForInjections(2));
     EXPECT_EQ(script.injected, (Positions{1, 10}));
     // The window closed without opening another one.
-    forwarder->processEvent(eventAt(11));
+    process(11);
     EXPECT_EQ(script.injected, (Positions{1, 10, 11}));
 }
 
-TEST_F(InputForwarderTest, OtherEventsOvertakeAWaitingMove) {
-    forwarder->processEvent(eventAt(1));
-    forwarder->processEvent(eventAt(2));
-    forwarder->processEvent(eventAt(3, InputEventType::MouseButtonPress));
-    forwarder->processEvent(eventAt(4, InputEventType::KeyPress));
+TEST_F(InputForwarderTest, OtherEventsOvertakeAWaitingMoveThatDestructionInjects) {
+    process(1);
+    process(2);
+    process(3, InputEventType::MouseButtonPress);
+    process(4, InputEventType::KeyPress);
     EXPECT_EQ(script.injected, (Positions{1, 3, 4}));
-    ASSERT_TRUE(waitForInjections(4));
-    EXPECT_EQ(script.injected, (Positions{1, 3, 4, 2}));
-}
-
-TEST_F(InputForwarderTest, DestructionInjectsTheWaitingMoveFirst) {
-    forwarder->processEvent(eventAt(1));
-    forwarder->processEvent(eventAt(2));
     forwarder.reset();
-    EXPECT_EQ(script.injected, (Positions{1, 2}));
+    EXPECT_EQ(script.injected, (Positions{1, 3, 4, 2}));
     EXPECT_TRUE(script.destroyed);
 }
 
-TEST_F(InputForwarderTest, RefusalsAreLoggedExceptThoseOfMoves) {
+TEST_F(InputForwarderTest, WarnsOfRefusalsButThoseOfMovesAndOfAMissingBackend) {
     script.accept = false;
-    forwarder->processEvent(eventAt(1));
-    forwarder->processEvent(eventAt(2, InputEventType::KeyRelease));
-    EXPECT_EQ(log.lines(),
-              std::vector<std::string>{"warning|InputForwarder: failed to inject event type 6"});
-}
-
-TEST_F(InputForwarderTest, WithoutABackendEventsAreDroppedWithAWarning) {
+    process(1);
+    process(2, InputEventType::KeyRelease);
     InputForwarder bare(nullptr);
-    bare.processEvent(eventAt(1));
+    bare.processEvent({.type = InputEventType::MouseMove});
     bare.flushPendingMouseMove();
-    EXPECT_EQ(log.count("warning|InputForwarder: no backend available"), 1);
+    EXPECT_EQ(log.lines(),
+              (std::vector<std::string>{"warning|InputForwarder: failed to inject event type 6",
+                                        "warning|InputForwarder: no backend available"}));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 namespace corvane {
@@ -26,17 +27,13 @@ int scaled(int64_t sum) {
     return static_cast<int>((rounded - ((rounded % 32768) + 32768) % 32768) / 32768);
 }
 
-uint8_t limited(int value) {
-    return static_cast<uint8_t>(std::clamp(value, 0, 255));
-}
-
 /// Pixel by pixel, sample by sample, over a destination full of `kUntouched`.
 ByteVector expectedNv12(const ByteVector& bgra, int width, int height, int stride, size_t size) {
     ByteVector out(size, kUntouched);
     const int evenWidth = width / 2 * 2;
     const int evenHeight = height / 2 * 2;
     const auto put = [&out](int index, int value) {
-        out.at(static_cast<size_t>(index)) = limited(value);
+        out.at(static_cast<size_t>(index)) = static_cast<uint8_t>(std::clamp(value, 0, 255));
     };
     for (int row = 0; row < evenHeight; ++row) {
         for (int column = 0; column < evenWidth; ++column) {
@@ -61,55 +58,43 @@ ByteVector expectedNv12(const ByteVector& bgra, int width, int height, int strid
 }
 
 TEST(FrameConverterTest, MatchesTheArithmeticOverRandomImages) {
-    struct Shape {
-        int width, height, padding;
-    };
     std::mt19937 random(1);
-    for (const Shape& shape : {Shape{1, 1, 0},
-                               {2, 2, 0},
-                               {3, 2, 0},
-                               {4, 3, 0},
-                               {3, 3, 12},
-                               {1, 6, 0},
-                               {6, 1, 4},
-                               {257, 9, 0},
-                               {640, 48, 64},
-                               {1023, 31, 4}}) {
-        SCOPED_TRACE(::testing::Message() << shape.width << "x" << shape.height);
-        const int stride = shape.width * 4 + shape.padding;
-        ByteVector bgra(static_cast<size_t>(stride) * static_cast<size_t>(shape.height));
+    const struct {
+        int width, height, padding;
+    } shapes[] = {
+        {1, 1, 0}, {2, 2, 0}, {3, 2, 0},   {4, 3, 0},     {3, 3, 12},
+        {1, 6, 0}, {6, 1, 4}, {257, 9, 0}, {640, 48, 64}, {1023, 31, 4},
+    };
+    for (const auto& [width, height, padding] : shapes) {
+        SCOPED_TRACE(::testing::Message() << width << "x" << height);
+        const int stride = width * 4 + padding;
+        ByteVector bgra(static_cast<size_t>(stride) * static_cast<size_t>(height));
         // Extreme samples are what rounding and limiting go wrong on.
         std::generate(bgra.begin(), bgra.end(), [&random] {
             const auto draw = random();
             return static_cast<uint8_t>(draw % 4 == 0 ? (draw & 4 ? 255 : 0) : draw >> 8);
         });
-        constexpr size_t kGuard = 64;
-        const size_t required = allocateNV12(shape.width, shape.height).size();
-        ByteVector converted(required + kGuard, kUntouched);
-        FrameConverter().convert(bgra.data(), shape.width, shape.height, stride, converted.data(),
-                                 required);
-        EXPECT_EQ(converted,
-                  expectedNv12(bgra, shape.width, shape.height, stride, converted.size()));
+        const size_t required = allocateNV12(width, height).size();
+        ByteVector converted(required + 64, kUntouched);
+        FrameConverter().convert(bgra.data(), width, height, stride, converted.data(), required);
+        EXPECT_EQ(converted, expectedNv12(bgra, width, height, stride, converted.size()));
     }
 }
 
 TEST(FrameConverterTest, PureColoursHaveTheirKnownValues) {
-    struct Case {
-        Colour colour;
-        std::array<uint8_t, 3> yCbCr;
-    };
-    for (const Case& c : {Case{{255, 255, 255}, {255, 128, 128}}, Case{{0, 0, 0}, {0, 128, 128}},
-                          Case{{255, 0, 0}, {76, 85, 255}}, Case{{0, 0, 255}, {29, 255, 107}}}) {
+    using Bytes = std::array<uint8_t, 3>;
+    for (const auto& [bgr, yCbCr] : {std::pair<Bytes, Bytes>{{255, 255, 255}, {255, 128, 128}},
+                                     {{0, 0, 0}, {0, 128, 128}},
+                                     {{0, 0, 255}, {76, 85, 255}},
+                                     {{255, 0, 0}, {29, 255, 107}}}) {
         ByteVector bgra;
-        for (int i = 0; i < 4; ++i) {
-            for (const int sample : {c.colour.blue, c.colour.green, c.colour.red, 0}) {
-                bgra.push_back(static_cast<uint8_t>(sample));
-            }
+        for (int pixel = 0; pixel < 4; ++pixel) {
+            bgra.insert(bgra.end(), {bgr[0], bgr[1], bgr[2], 0});
         }
         ByteVector nv12 = allocateNV12(2, 2);
         FrameConverter().convert(bgra.data(), 2, 2, 8, nv12.data(), 0);
-        const uint8_t y = c.yCbCr[0];
-        EXPECT_EQ(nv12, (ByteVector{y, y, y, y, c.yCbCr[1], c.yCbCr[2]}));
+        const auto [y, cb, cr] = yCbCr;
+        EXPECT_EQ(nv12, (ByteVector{y, y, y, y, cb, cr}));
     }
 }
 

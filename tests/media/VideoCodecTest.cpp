@@ -31,11 +31,7 @@ double psnr(const uint8_t* expected, const ByteVector& actual) {
 }
 
 EncoderConfig configFor(int width, int height) {
-    EncoderConfig config;
-    config.width = width;
-    config.height = height;
-    config.cqLevel = 23;
-    return config;
+    return {.width = width, .height = height, .cqLevel = 23, .profile = {}};
 }
 
 class VideoCodecTest : public ::testing::Test {
@@ -69,7 +65,7 @@ TEST_F(VideoCodecTest, SpeedPresetsMapToLibrarySpeeds) {
 }
 
 TEST_F(VideoCodecTest, RoundTripKeepsThePicture) {
-    for (const auto& [width, height] : {std::pair{320, 180}, {64, 64}, {161, 91}}) {
+    for (const auto& [width, height] : {std::pair{320, 180}, {64, 64}}) {
         SCOPED_TRACE(::testing::Message() << width << "x" << height);
         ASSERT_TRUE(encoder.initialize(configFor(width, height)));
         ASSERT_TRUE(decoder.initialize(0, 0));
@@ -78,8 +74,7 @@ TEST_F(VideoCodecTest, RoundTripKeepsThePicture) {
             const auto packet = encode(step);
             ASSERT_TRUE(packet);
             EXPECT_EQ(packet->isKeyframe, step == 0);
-            EXPECT_EQ(packet->pts, step);
-            EXPECT_EQ(packet->dts, step);
+            EXPECT_EQ(std::pair(packet->pts, packet->dts), std::pair(int64_t{step}, int64_t{step}));
             const auto frame = decode(packet->data, packet->timestamp);
             ASSERT_TRUE(frame);
             EXPECT_EQ(frame->timestamp, 1000U + static_cast<uint64_t>(step));
@@ -87,15 +82,9 @@ TEST_F(VideoCodecTest, RoundTripKeepsThePicture) {
             EXPECT_EQ(std::pair(frame->yStride, frame->uvStride), std::pair(width, width));
             ASSERT_EQ(frame->yPlane.size(), lumaSize);
             ASSERT_EQ(frame->uvPlane.size(), static_cast<size_t>(height / 2 * width));
-            if (width % 2 == 0) {
-                const ByteVector sent = sceneNv12(width, height, step);
-                EXPECT_GT(psnr(sent.data(), frame->yPlane), 30);
-                EXPECT_GT(psnr(sent.data() + lumaSize, frame->uvPlane), 32);
-            } else {
-                for (int row = 0; row < height / 2; ++row) {
-                    EXPECT_EQ(frame->uvPlane[static_cast<size_t>(row * width + width - 1)], 0);
-                }
-            }
+            const ByteVector sent = sceneNv12(width, height, step);
+            EXPECT_GT(psnr(sent.data(), frame->yPlane), 30);
+            EXPECT_GT(psnr(sent.data() + lumaSize, frame->uvPlane), 32);
         }
     }
 }
@@ -109,9 +98,11 @@ TEST_F(VideoCodecTest, OddSizesReadNothingBeyondTheBufferAndKeepGreyEdges) {
     ASSERT_TRUE(packet);
     const auto frame = decode(packet->data);
     ASSERT_TRUE(frame);
+    EXPECT_EQ(std::pair(frame->width, frame->height), std::pair(17, 9));
+    ASSERT_EQ(frame->uvPlane.size(), 17U * 4);
     for (size_t i = 0; i < frame->uvPlane.size(); ++i) {
-        const int expected = i % 17 == 16 ? 0 : 128;
-        EXPECT_NEAR(frame->uvPlane[i], expected, expected == 0 ? 0 : 2) << i;
+        const bool beyondPairs = i % 17 == 16;
+        EXPECT_NEAR(frame->uvPlane[i], beyondPairs ? 0 : 128, beyondPairs ? 0 : 2) << i;
     }
 }
 
@@ -193,27 +184,21 @@ TEST_F(VideoCodecTest, DecoderSurvivesHostilePackets) {
         }
         decode(bytes);
     }
+    // A still picture's sequence header for 65536 x 65536 pixels, and a frame of it.
+    log.clear();
+    EXPECT_FALSE(decode({0x0a, 0x0a, 0x18, 0x3f, 0xff, 0xff, 0xff, 0xff, 0xc0, 0x00, 0x02, 0x00,
+                         0x32, 0x04, 0x00, 0x00, 0x00, 0x00}));
+    EXPECT_EQ(log.count("error|AV1Decoder: dav1d_send_data failed (error -34)"), 1);
     // One more for a decoder that still held a picture back, then it must be itself again.
     decode(good);
     EXPECT_TRUE(decode(good));
-}
-
-TEST_F(VideoCodecTest, DecoderRefusesAbsurdPictureSizes) {
-    // A still picture's sequence header for 65536 x 65536 pixels, and a frame of it.
-    const ByteVector packet = {0x0a, 0x0a, 0x18, 0x3f, 0xff, 0xff, 0xff, 0xff, 0xc0,
-                               0x00, 0x02, 0x00, 0x32, 0x04, 0x00, 0x00, 0x00, 0x00};
-    ASSERT_TRUE(decoder.initialize(0, 0));
-    EXPECT_FALSE(decode(packet));
-    EXPECT_EQ(log.count("error|AV1Decoder: dav1d_send_data failed (error -34)"), 1)
-        << ::testing::PrintToString(log.lines());
 }
 
 TEST_F(VideoCodecTest, DecoderRefusesTenBitStreams) {
     constexpr unsigned kSize = 64;
     aom_codec_enc_cfg_t config{};
     ASSERT_EQ(aom_codec_enc_config_default(aom_codec_av1_cx(), &config, 0), AOM_CODEC_OK);
-    config.g_w = kSize;
-    config.g_h = kSize;
+    config.g_w = config.g_h = kSize;
     config.g_bit_depth = AOM_BITS_10;
     config.g_input_bit_depth = 10;
     config.g_lag_in_frames = 0;
@@ -223,11 +208,7 @@ TEST_F(VideoCodecTest, DecoderRefusesTenBitStreams) {
         GTEST_SKIP() << "this libaom has no high bit depth";
     }
     aom_image_t* const image = aom_img_alloc(nullptr, AOM_IMG_FMT_I42016, kSize, kSize, 16);
-    for (const int plane : {AOM_PLANE_Y, AOM_PLANE_U, AOM_PLANE_V}) {
-        const size_t rows = plane == AOM_PLANE_Y ? kSize : kSize / 2;
-        std::fill_n(image->planes[plane], static_cast<size_t>(image->stride[plane]) * rows,
-                    uint8_t{1});
-    }
+    std::fill_n(image->img_data, image->sz, uint8_t{1});
     ASSERT_EQ(aom_codec_encode(&context, image, 0, 1, 0), AOM_CODEC_OK);
     aom_codec_iter_t position = nullptr;
     const aom_codec_cx_pkt_t* const packet = aom_codec_get_cx_data(&context, &position);

@@ -1,3 +1,4 @@
+#include "PartnerId.h"
 #include "WindowFixture.h"
 
 #include <QClipboard>
@@ -31,12 +32,11 @@ TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
     EXPECT_EQ(history, QStringList(u"Ready|#007700"_s));
     EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
     EXPECT_TRUE(areEnabled(true));
-    const QString shownId = id.first(3) + u' ' + id.sliced(3, 3) + u' ' + id.last(3);
     const struct {
         const char *label, *button;
         QString shown, copied;
     } values[] = {
-        {"clientIdLabel", "copyIdButton", shownId, id},
+        {"clientIdLabel", "copyIdButton", formatPartnerId(id), id},
         {"passwordLabel", "copyPasswordButton", u"Password1"_s, u"Password1"_s},
         {"pairingCodeLabel", "copyPairingCodeButton", m_auth.pairingCode(), m_auth.pairingCode()}};
     for (const auto& value : values) {
@@ -58,18 +58,15 @@ TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
 
 TEST_F(MainWindowTest, RefusesIncompletePartners) {
     start();
-    const struct {
-        QString partner, password, text;
-    } cases[] = {
+    const QString refusals[][3] = {
         {u"  "_s, u"x"_s, u"Please enter a partner Client ID."_s},
-        {u"12345678"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
         {u"123 456 7890"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
         {u"12345678a"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
         {u"123 456 789"_s, u"  "_s, u"Please enter the partner's password."_s},
     };
-    for (const auto& c : cases) {
-        connectTo(c.partner, c.password);
-        EXPECT_EQ(takeBoxes(), QStringList(u"Error|"_s + c.text));
+    for (const auto& [partner, password, text] : refusals) {
+        connectTo(partner, password);
+        EXPECT_EQ(takeBoxes(), QStringList(u"Error|"_s + text));
     }
     EXPECT_TRUE(is(SessionState::Idle));
     EXPECT_TRUE(m_settings.recentPartners().isEmpty());
@@ -80,6 +77,10 @@ TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
     const QString offline = m_server.registerDevice().clientId;
     const auto online = createDevice();
     const QString unreachable = u"The partner is not available or offline."_s;
+    const QString oddDetail = u"<b>odd</b> password\n"_s;
+    const devserver::Reply odd{.status = 403, .body = R"({"detail": "<b>odd</b> password\n"})"};
+    const devserver::Reply image{.status = 500, .body = R"({"detail": "<img src='x'>"})"};
+    const QString wrong = u"Invalid session password."_s;
     const struct {
         QString partner;
         devserver::Reply reply;
@@ -87,15 +88,9 @@ TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
     } cases[] = {
         {u"999999999"_s, {}, u"Target client is not available"_s, unreachable},
         {offline, {}, u"Target client is offline"_s, unreachable},
-        {online->id, {}, u"Invalid session password"_s, u"Invalid session password."_s},
-        {online->id,
-         {.status = 403, .body = R"({"detail": "<b>odd</b> password\n"})"},
-         u"<b>odd</b> password\n"_s,
-         u"Invalid session password."_s},
-        {online->id,
-         {.status = 500, .body = R"({"detail": "<img src='x'>"})"},
-         u"<img src='x'>"_s,
-         u"Failed to connect. Please try again."_s},
+        {online->id, {}, u"Invalid session password"_s, wrong},
+        {online->id, odd, oddDetail, wrong},
+        {online->id, image, u"<img src='x'>"_s, u"Failed to connect. Please try again."_s},
     };
     for (const auto& c : cases) {
         m_server.misbehaviour().clear();

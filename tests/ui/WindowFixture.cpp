@@ -2,15 +2,9 @@
 
 #include <QJsonDocument>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QStackedWidget>
 
 namespace corvane::test {
-
-bool WindowFixture::useSettingsIn(const QTemporaryDir& folder) {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
-    return folder.isValid();
-}
 
 WindowFixture::WindowFixture() {
     m_api.setServerUrl(m_server.url());
@@ -25,12 +19,11 @@ void WindowFixture::start() {
 }
 
 void WindowFixture::connectTo(const QString& partner, const QString& password) {
-    auto* const partnerEdit = widget<QLineEdit>("partnerEdit");
-    auto* const passwordEdit = widget<QLineEdit>("partnerPasswordEdit");
-    partnerEdit->clear();
-    passwordEdit->clear();
-    QTest::keyClicks(partnerEdit, partner);
-    QTest::keyClicks(passwordEdit, password);
+    for (const auto& [edit, text] :
+         {std::pair{"partnerEdit", partner}, {"partnerPasswordEdit", password}}) {
+        widget<QLineEdit>(edit)->clear();
+        QTest::keyClicks(widget<QLineEdit>(edit), text);
+    }
     click("primaryButton");
 }
 
@@ -58,13 +51,9 @@ QString WindowFixture::status() const {
 }
 
 QList<QMessageBox*> WindowFixture::boxes() const {
-    QList<QMessageBox*> visible;
-    for (QMessageBox* const box : m_window.findChildren<QMessageBox*>()) {
-        if (box->isVisible()) {
-            visible.append(box);
-        }
-    }
-    return visible;
+    auto boxes = m_window.findChildren<QMessageBox*>();
+    boxes.removeIf([](const QMessageBox* box) { return !box->isVisible(); });
+    return boxes;
 }
 
 QStringList WindowFixture::takeBoxes() const {

@@ -2,6 +2,7 @@
 
 #include "AuthController.h"
 #include "MainWindow.h"
+#include "ScratchSettings.h"
 #include "SessionTest.h"
 #include "SettingsController.h"
 
@@ -9,7 +10,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -53,11 +53,9 @@ protected:
     QStringList takeBoxes() const;
 
     bool isViewing() const;
-    static bool useSettingsIn(const QTemporaryDir& folder);
     bool is(SessionState state) const { return m_session.state() == state; }
 
-    const QTemporaryDir m_home;
-    const bool m_ownSettings = useSettingsIn(m_home);
+    const ScratchSettings m_ownSettings;
     SettingsController m_settings;
     ApiClient m_api;
     SignalingClient m_signaling;

@@ -1,59 +1,87 @@
 #include "XtestInputBackend.h"
 #include "LogCapture.h"
-#include "XInputObserver.h"
+#include "XClient.h"
 #include "XvfbServer.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <optional>
 
 namespace corvane {
 namespace {
 
-constexpr uint8_t kKeycodeA = 38;
-constexpr uint8_t kKeycodeLeftCtrl = 37;
-constexpr uint8_t kKeycodeLeftArrow = 113;
+using enum InputEventType;
 
-InputEvent mouseEvent(InputEventType type, double x, double y, int button = 1, int16_t wheel = 0) {
-    InputEvent event;
-    event.type = type;
-    event.x = x;
-    event.y = y;
-    event.button = static_cast<MouseButton>(button);
-    event.wheelDelta = wheel;
-    return event;
-}
+constexpr QSize kScreen(1001, 501);
 
-InputEvent keyEvent(InputEventType type, uint32_t keyCode, uint32_t scanCode) {
-    InputEvent event;
-    event.type = type;
-    event.keyCode = keyCode;
-    event.scanCode = scanCode;
-    return event;
-}
-
+/// A screen with a program's window all over it that sees what input arrives.
 class XtestInputBackendTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(display->isRunning());
-        display->use();
-        observer = std::make_unique<test::XInputObserver>(display->display());
+        ASSERT_TRUE(server->isRunning());
+        server->use();
+        program.emplace();
+        program->showWindow({QPoint(0, 0), kScreen}, 0,
+                            XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE |
+                                XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE);
+        xcb_set_input_focus(program->handle(), XCB_INPUT_FOCUS_POINTER_ROOT,
+                            XCB_INPUT_FOCUS_POINTER_ROOT, XCB_CURRENT_TIME);
+        program->sync();
         ASSERT_TRUE(backend.initialize());
     }
 
     bool inject(InputEventType type, double x, double y, int button = 1, int16_t wheel = 0) {
-        return backend.injectEvent(mouseEvent(type, x, y, button, wheel));
+        return backend.injectEvent({.type = type,
+                                    .x = x,
+                                    .y = y,
+                                    .button = static_cast<MouseButton>(button),
+                                    .wheelDelta = wheel});
+    }
+
+    bool injectKey(InputEventType type, uint32_t keyCode, uint32_t scanCode) {
+        return backend.injectEvent({.type = type, .keyCode = keyCode, .scanCode = scanCode});
+    }
+
+    QPoint pointer() const {
+        const test::XReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+            program->handle(), xcb_query_pointer(program->handle(), program->root()), nullptr));
+        return reply ? QPoint(reply->root_x, reply->root_y) : QPoint(-1, -1);
+    }
+
+    /// What went down or up since the last call, e.g. "button 1 down, key 38 up".
+    std::string takeEvents() const {
+        program->sync();
+        QStringList events;
+        while (
+            const test::XReply<xcb_generic_event_t> event{xcb_poll_for_event(program->handle())}) {
+            const int type = event->response_type & 0x7F;
+            if (type >= XCB_KEY_PRESS && type <= XCB_BUTTON_RELEASE) {
+                const bool key = type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE;
+                const bool down = type == XCB_KEY_PRESS || type == XCB_BUTTON_PRESS;
+                const auto* input = reinterpret_cast<const xcb_key_press_event_t*>(event.get());
+                events.append(QStringLiteral("%1 %2 %3")
+                                  .arg(QLatin1String(key ? "key" : "button"))
+                                  .arg(input->detail)
+                                  .arg(QLatin1String(down ? "down" : "up")));
+            }
+        }
+        return events.join(QStringLiteral(", ")).toStdString();
+    }
+
+    static std::string downAndUp(const char* what, int number) {
+        const std::string name = what + (" " + std::to_string(number));
+        return name + " down, " + name + " up";
     }
 
     test::LogCapture log;
-    std::unique_ptr<test::XvfbServer> display =
-        std::make_unique<test::XvfbServer>(QSize(1001, 501));
-    std::unique_ptr<test::XInputObserver> observer;
+    std::optional<test::XvfbServer> server{kScreen};
+    std::optional<test::XClient> program;
     XtestInputBackend backend;
 };
 
-TEST_F(XtestInputBackendTest, FractionsSpanTheScreenAndStayInsideIt) {
+TEST_F(XtestInputBackendTest, FractionsSpanThePrimaryMonitorAndStayInsideIt) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
     const struct {
@@ -68,18 +96,13 @@ TEST_F(XtestInputBackendTest, FractionsSpanTheScreenAndStayInsideIt) {
         {-infinity, 0.5, {0, 250}},
     };
     for (const auto& item : cases) {
-        EXPECT_TRUE(inject(InputEventType::MouseMove, item.x, item.y));
-        EXPECT_EQ(observer->pointer(), item.pixel) << item.x << ", " << item.y;
+        EXPECT_TRUE(inject(MouseMove, item.x, item.y));
+        EXPECT_EQ(pointer(), item.pixel) << item.x << ", " << item.y;
     }
-}
-
-TEST_F(XtestInputBackendTest, PositionsFollowThePrimaryMonitor) {
-    EXPECT_TRUE(inject(InputEventType::MouseMove, 0.5, 0.5));
-    EXPECT_EQ(observer->pointer(), QPoint(500, 250));
-    observer->setPrimaryMonitor({200, 100, 401, 201});
+    program->setMonitor("test-monitor", {200, 100, 401, 201}, true);
     EXPECT_TRUE(QTest::qWaitFor([this] {
-        inject(InputEventType::MouseMove, 1.0, 0.5);
-        return observer->pointer() == QPoint(600, 200);
+        inject(MouseMove, 1.0, 0.5);
+        return pointer() == QPoint(600, 200);
     }));
 }
 
@@ -87,13 +110,10 @@ TEST_F(XtestInputBackendTest, ButtonsGoDownAndUpWhereTheEventSays) {
     const int xButtons[] = {1, 3, 2, 8, 9};
     for (int button = 1; button <= 5; ++button) {
         const double x = 0.1 * button;
-        EXPECT_TRUE(inject(InputEventType::MouseButtonPress, x, 0.5, button));
-        EXPECT_TRUE(inject(InputEventType::MouseButtonRelease, x, 1.0, button));
-        EXPECT_EQ(observer->pointer(), QPoint(100 * button, 500));
-        const int xButton = xButtons[button - 1];
-        EXPECT_EQ(observer->takeEvents(),
-                  (QStringList{QStringLiteral("button %1 down").arg(xButton),
-                               QStringLiteral("button %1 up").arg(xButton)}));
+        EXPECT_TRUE(inject(MouseButtonPress, x, 0.5, button));
+        EXPECT_TRUE(inject(MouseButtonRelease, x, 1.0, button));
+        EXPECT_EQ(pointer(), QPoint(100 * button, 500));
+        EXPECT_EQ(takeEvents(), downAndUp("button", xButtons[button - 1]));
     }
 }
 
@@ -107,10 +127,12 @@ TEST_F(XtestInputBackendTest, WheelClicksOncePerNotchAndKeepsTheRest) {
         {50, 4, 1},  {-149, 5, 0}, {-1, 5, 1}, {32767, 4, 273},
     };
     for (const auto& item : cases) {
-        EXPECT_TRUE(inject(InputEventType::MouseWheel, 0.5, 0.5, 1, item.delta));
-        const QStringList events = observer->takeEvents();
-        EXPECT_EQ(events.size(), 2 * item.clicks) << item.delta;
-        EXPECT_EQ(events.count(QStringLiteral("button %1 down").arg(item.button)), item.clicks);
+        EXPECT_TRUE(inject(MouseWheel, 0.5, 0.5, 1, item.delta));
+        std::string expected;
+        for (int click = 0; click < item.clicks; ++click) {
+            expected += (click == 0 ? "" : ", ") + downAndUp("button", item.button);
+        }
+        EXPECT_EQ(takeEvents(), expected) << item.delta;
     }
 }
 
@@ -119,55 +141,48 @@ TEST_F(XtestInputBackendTest, KeysArriveUnderTheirKeycode) {
         uint32_t keyCode;
         uint32_t scanCode;
         int keycode;
-    } cases[] = {{'A', 0x1E, kKeycodeA}, {0x25, 0x14B, kKeycodeLeftArrow}, {0x13, 0, 127}};
+    } cases[] = {{'A', 0x1E, 38}, {0x25, 0x14B, 113}, {0x13, 0, 127}};
     for (const auto& item : cases) {
-        EXPECT_TRUE(
-            backend.injectEvent(keyEvent(InputEventType::KeyPress, item.keyCode, item.scanCode)));
-        EXPECT_TRUE(observer->isKeyDown(static_cast<uint8_t>(item.keycode)));
-        EXPECT_TRUE(
-            backend.injectEvent(keyEvent(InputEventType::KeyRelease, item.keyCode, item.scanCode)));
-        EXPECT_EQ(observer->takeEvents(),
-                  (QStringList{QStringLiteral("key %1 down").arg(item.keycode),
-                               QStringLiteral("key %1 up").arg(item.keycode)}));
+        EXPECT_TRUE(injectKey(KeyPress, item.keyCode, item.scanCode));
+        EXPECT_TRUE(injectKey(KeyRelease, item.keyCode, item.scanCode));
+        EXPECT_EQ(takeEvents(), downAndUp("key", item.keycode));
     }
 }
 
 TEST_F(XtestInputBackendTest, UnusableEventsAreNamedAndSendNothing) {
-    inject(InputEventType::MouseMove, 0.5, 0.5);
-    EXPECT_FALSE(inject(InputEventType::MouseButtonPress, 0.1, 0.1, 7));
-    EXPECT_FALSE(inject(InputEventType::MouseButtonRelease, 0.1, 0.1, 0));
-    EXPECT_FALSE(inject(InputEventType::None, 0.1, 0.1));
+    inject(MouseMove, 0.5, 0.5);
+    EXPECT_FALSE(inject(MouseButtonPress, 0.1, 0.1, 7));
+    EXPECT_FALSE(inject(MouseButtonRelease, 0.1, 0.1, 0));
     EXPECT_FALSE(inject(static_cast<InputEventType>(9), 0.1, 0.1));
-    EXPECT_FALSE(backend.injectEvent(keyEvent(InputEventType::KeyPress, 0xFE, 0x7F)));
-    EXPECT_EQ(observer->pointer(), QPoint(500, 250));
-    EXPECT_EQ(observer->takeEvents(), QStringList());
-    EXPECT_EQ(log.count("warning|XtestInputBackend: unknown mouse button 7"), 1);
-    EXPECT_EQ(log.count("warning|XtestInputBackend: unknown event type 9"), 1);
-    EXPECT_EQ(log.count("warning|XtestInputBackend: unknown key, virtual key 0xFE, scan code 0x7F"),
-              1);
+    EXPECT_FALSE(injectKey(KeyPress, 0xFE, 0x7F));
+    EXPECT_EQ(pointer(), QPoint(500, 250));
+    EXPECT_EQ(takeEvents(), "");
+    for (const char* problem : {"mouse button 7", "mouse button 0", "event type 9",
+                                "key, virtual key 0xFE, scan code 0x7F"}) {
+        const std::string line = std::string("warning|XtestInputBackend: unknown ") + problem;
+        EXPECT_EQ(log.count(line), 1) << line;
+    }
 }
 
 TEST_F(XtestInputBackendTest, ShutdownReleasesWhatIsHeldAndEndsInjection) {
-    backend.injectEvent(keyEvent(InputEventType::KeyPress, 0xA2, 0x1D));
-    inject(InputEventType::MouseButtonPress, 0.5, 0.5, 1);
-    observer->takeEvents();
+    injectKey(KeyPress, 0xA2, 0x1D);
+    inject(MouseButtonPress, 0.5, 0.5);
+    EXPECT_EQ(takeEvents(), "key 37 down, button 1 down");
     backend.shutdown();
-    EXPECT_EQ(observer->takeEvents(),
-              (QStringList{QStringLiteral("button 1 up"),
-                           QStringLiteral("key %1 up").arg(kKeycodeLeftCtrl)}));
-    EXPECT_FALSE(inject(InputEventType::MouseMove, 0.5, 0.5));
+    EXPECT_EQ(takeEvents(), "button 1 up, key 37 up");
+    EXPECT_FALSE(inject(MouseMove, 0.5, 0.5));
     EXPECT_EQ(log.count("warning|XtestInputBackend: injectEvent called before initialization"), 1);
     EXPECT_EQ(log.count("info|XtestInputBackend: shut down"), 1);
     EXPECT_TRUE(backend.initialize());
-    EXPECT_TRUE(inject(InputEventType::MouseMove, 0.25, 0.0));
-    EXPECT_EQ(observer->pointer(), QPoint(250, 0));
+    EXPECT_TRUE(inject(MouseMove, 0.25, 0.0));
+    EXPECT_EQ(pointer(), QPoint(250, 0));
 }
 
 TEST_F(XtestInputBackendTest, LostDisplayIsAWarning) {
-    backend.injectEvent(keyEvent(InputEventType::KeyPress, 0xA2, 0x1D));
-    observer.reset();
-    display.reset();
-    EXPECT_FALSE(inject(InputEventType::MouseMove, 0.5, 0.5));
+    injectKey(KeyPress, 0xA2, 0x1D);
+    program.reset();
+    server.reset();
+    EXPECT_FALSE(inject(MouseMove, 0.5, 0.5));
     EXPECT_TRUE(log.contains("warning|XtestInputBackend: XTEST (mouse move) failed"));
     backend.shutdown();
     EXPECT_FALSE(backend.initialize());
