@@ -8,7 +8,7 @@ packages=(
     build-essential ca-certificates clang-format cmake git ninja-build pkg-config
     # libraries of the program
     libaom-dev libdav1d-dev libfmt-dev libgl-dev libspdlog-dev libssl-dev nlohmann-json3-dev
-    libqt6opengl6-dev qt6-base-dev qt6-websockets-dev
+    libqt6opengl6-dev qt6-base-dev qt6-l10n-tools qt6-websockets-dev
     libxcb-damage0-dev libxcb-randr0-dev libxcb-shm0-dev libxcb-xfixes0-dev libxcb-xtest0-dev
     libxcb1-dev
     # tests, benchmarks, development server

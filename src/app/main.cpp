@@ -10,6 +10,7 @@
 #include "MainWindow.h"
 #include "QuitOnRequest.h"
 #include "SessionManager.h"
+#include "SessionSettings.h"
 #include "SettingsController.h"
 #include "SignalingClient.h"
 #include "SingleInstanceGuard.h"
@@ -40,12 +41,6 @@ void applyLook(QApplication& application, ButtonCursorFilter& cursorFilter) {
     QApplication::setWindowIcon(QIcon(drawApplicationIcon(kIconSide)));
 }
 
-void configureStreaming(SessionManager& session, const SettingsController& settings) {
-    session.setCaptureFrameRate(settings.captureFrameRate());
-    session.setEncoderQuality(settings.encoderQuality(), settings.encoderSpeed().toStdString());
-    session.setMonitorIndex(settings.monitorIndex());
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -72,6 +67,8 @@ int main(int argc, char** argv) {
     }
 
     quitOnSystemRequest(application);
+    // With the window in the tray, the last visible window is no sign of the end.
+    QApplication::setQuitOnLastWindowClosed(false);
     ButtonCursorFilter cursorFilter;
     applyLook(application, cursorFilter);
 
@@ -91,9 +88,12 @@ int main(int argc, char** argv) {
     SignalingClient signaling;
     AuthController auth(&api, &signaling, &settings);
     SessionManager session(&api, &signaling);
-    configureStreaming(session, settings);
+    applySessionSettings(session, settings);
 
     MainWindow window(&auth, &api, &signaling, &session, &settings);
+    QObject::connect(
+        &window, &MainWindow::quitRequested, &application, [] { QApplication::exit(); },
+        Qt::QueuedConnection);
     window.show();
     auth.start();
     return QApplication::exec();

@@ -14,7 +14,7 @@ namespace corvane {
 /// network could see its sender torn down underneath. One box per title: a newer one replaces the
 /// older, so that a misbehaving peer or server cannot pile them up. Texts are shown literally.
 ///
-/// Object names: "warningBox" and "questionBox".
+/// Object names: "warningBox", "informationBox" and "questionBox".
 class MessageBoxes : public QObject {
     Q_OBJECT
 
@@ -22,11 +22,14 @@ public:
     explicit MessageBoxes(QWidget* window);
 
     void warn(const QString& title, const QString& text);
+    void inform(const QString& title, const QString& text);
 
     /// Calls `answered` with true for Yes and false for anything else, a replaced box included.
     void ask(const QString& title, const QString& text, std::function<void(bool yes)> answered);
 
 private:
+    void tell(QMessageBox::Icon icon, const QString& objectName, const QString& title,
+              const QString& text);
     QMessageBox* create(QMessageBox::Icon icon, const QString& title, const QString& text);
 
     QWidget* const m_window;

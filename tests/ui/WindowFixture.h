@@ -62,7 +62,9 @@ protected:
     AuthController m_auth{&m_api, &m_signaling, &m_settings};
     std::shared_ptr<Machine> m_machine = std::make_shared<Machine>();
     SessionManager m_session{&m_api, &m_signaling, createTestPlatform(m_machine)};
-    MainWindow m_window{&m_auth, &m_api, &m_signaling, &m_session, &m_settings};
+    bool m_isTrayThere = false;
+    MainWindow m_window{&m_auth,    &m_api,      &m_signaling,
+                        &m_session, &m_settings, [this] { return m_isTrayThere; }};
 };
 
 } // namespace corvane::test
