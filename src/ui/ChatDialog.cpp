@@ -12,13 +12,12 @@ namespace corvane {
 
 namespace {
 
-constexpr const char* kTranscriptStyle =
-    "body { font-family: sans-serif; font-size: 13px; }"
-    ".bubble { margin: 4px 0; }"
-    ".me    { color: #4da6ff; font-weight: bold; }"
-    ".remote{ color: #66bb6a; font-weight: bold; }"
-    ".time  { color: #666; font-size: 10px; }"
-    ".text  { color: #e0e0e0; }";
+constexpr const char* kTranscriptStyle = "body { font-family: sans-serif; font-size: 13px; }"
+                                         ".bubble { margin: 4px 0; }"
+                                         ".me    { color: #4da6ff; font-weight: bold; }"
+                                         ".remote{ color: #66bb6a; font-weight: bold; }"
+                                         ".time  { color: #666; font-size: 10px; }"
+                                         ".text  { color: #e0e0e0; }";
 
 } // namespace
 

@@ -14,10 +14,11 @@
 #include <QPushButton>
 #include <QSet>
 #include <QSplitter>
+#include <QTreeWidgetItem>
 #include <QVBoxLayout>
 #include <spdlog/spdlog.h>
 
-#include <algorithm>
+#include <chrono>
 
 namespace corvane {
 
@@ -35,10 +36,11 @@ QString oneLine(const QString& text, qsizetype longest) {
     return line.size() < text.size() && text.size() > longest ? line + QStringLiteral("…") : line;
 }
 
+constexpr qsizetype kLongestName = 60; ///< of a file, in characters shown
+
 /// One name per line, few enough that a message box fits on the screen.
 QString nameList(const QStringList& names) {
     constexpr qsizetype kMostNames = 12;
-    constexpr qsizetype kLongestName = 60;
     QStringList lines;
     for (const QString& name : names.first(qMin(names.size(), kMostNames))) {
         lines.append(oneLine(name, kLongestName));
@@ -105,8 +107,7 @@ QWidget* FileManagerDialog::createTransferButtons() {
     layout->setContentsMargins(2, 0, 2, 0);
     layout->addStretch();
     const auto addButton = [&](const QString& icon, const QString& text, const QString& toolTip) {
-        auto* const button =
-            new QPushButton(QIcon(QStringLiteral(":/icons/") + icon), text, pane);
+        auto* const button = new QPushButton(QIcon(QStringLiteral(":/icons/") + icon), text, pane);
         button->setObjectName(icon + QStringLiteral("Button"));
         button->setToolTip(toolTip);
         button->setAutoDefault(false);
@@ -261,16 +262,138 @@ void FileManagerDialog::enqueue(TransferQueue& queue, const QList<FileTransfer>&
         m_progress->setValue(0);
     }
     queue.append(transfers);
+    if (m_downloads.isUnderWay()) {
+        showCurrent(tr("Downloading %1 of %2: %3"), m_downloads);
+    }
     startNext();
 }
 
 void FileManagerDialog::startNext() {
-    if (m_downloads.isUnderWay() || m_uploads.isUnderWay() || !m_service) {
+    const bool isBusy = m_downloads.isUnderWay() || m_uploads.isUnderWay();
+    if (isBusy || !m_service) {
+        return;
+    }
+    if (m_downloads.remaining() > 0) {
+        startDownload();
         return;
     }
     if (m_downloads.isRunning()) {
-        startDownload();
-    } 
+        m_downloads.clear();
+        showResult(tr("All downloads complete."));
+    }
+    if (m_uploads.remaining() > 0) {
+        startUpload();
+    } else if (m_uploads.isRunning()) {
+        m_uploads.clear();
+        showResult(tr("All uploads complete."));
+        requestListing();
+    }
+}
+
+void FileManagerDialog::startNextLater() {
+    QMetaObject::invokeMethod(this, &FileManagerDialog::startNext, Qt::QueuedConnection);
+}
+
+void FileManagerDialog::startDownload() {
+    m_downloads.startNext();
+    const FileTransfer transfer = m_downloads.current();
+    showCurrent(tr("Downloading %1 of %2: %3"), m_downloads);
+    m_unanswered.append(Request::Download);
+    m_service->requestDownload(transfer.remotePath, transfer.localPath);
+}
+
+void FileManagerDialog::startUpload() {
+    m_uploads.startNext();
+    const FileTransfer transfer = m_uploads.current();
+    showCurrent(tr("Uploading %1 of %2: %3"), m_uploads);
+    m_progress->setValue(0);
+    repaint(); // all of it: a message box may just have uncovered it
+    m_sincePainted.start();
+
+    const QPointer<FileManagerDialog> self(this);
+    m_service->uploadFile(transfer.localPath, transfer.remotePath);
+    if (!self) {
+        return;
+    }
+    m_progress->resetFormat();
+    if (m_uploads.isUnderWay()) {
+        dropTransfers();
+    }
+}
+
+void FileManagerDialog::onDownloadComplete(const QString& localPath) {
+    // The partner answers in order: whatever was asked for before has been answered, too.
+    m_unanswered.remove(0, m_unanswered.indexOf(Request::Download) + 1);
+    if (!m_downloads.isUnderWay() || m_downloads.current().localPath != localPath) {
+        return;
+    }
+    m_downloads.finishCurrent();
+    showResult(tr("Downloaded: %1 — %2 remaining")
+                   .arg(oneLine(QFileInfo(localPath).fileName(), kLongestName),
+                        QString::number(m_downloads.remaining())));
+    startNextLater();
+}
+
+void FileManagerDialog::onUploadComplete() {
+    if (m_uploads.isUnderWay()) {
+        m_uploads.finishCurrent();
+        m_progress->setValue(m_progress->maximum());
+        startNextLater();
+    }
+}
+
+void FileManagerDialog::onTransferError(const QString& error) {
+    const bool isListing = !m_unanswered.isEmpty() && m_unanswered.takeFirst() == Request::Listing;
+    if (!isListing || m_uploads.isUnderWay()) {
+        dropTransfers();
+    }
+    constexpr qsizetype kLongestError = 300;
+    showResult(tr("Error: %1").arg(oneLine(error, kLongestError)));
+}
+
+void FileManagerDialog::onServiceGone() {
+    m_unanswered.clear();
+    dropTransfers();
+    showResult(tr("The session has ended."));
+}
+
+void FileManagerDialog::dropTransfers() {
+    m_downloads.clear();
+    m_uploads.clear();
+    m_unanswered.removeAll(Request::Download);
+}
+
+void FileManagerDialog::showCurrent(const QString& text, const TransferQueue& queue) {
+    const QString name = QFileInfo(queue.current().localPath).fileName();
+    showResult(text.arg(QString::number(queue.ordinal()), QString::number(queue.total()),
+                        oneLine(name, kLongestName)));
+}
+
+void FileManagerDialog::showSpeed(int bytesPerSecond, int secondsLeft) {
+    const auto unsignedOf = [](int value) {
+        return static_cast<quint64>(qMax(value, 0));
+    };
+    m_progress->setFormat(tr("%p% — %1/s, %2 left")
+                              .arg(formatByteSize(unsignedOf(bytesPerSecond)),
+                                   formatDuration(unsignedOf(secondsLeft))));
+    if (m_sincePainted.hasExpired(kPaintInterval.count())) {
+        paintProgress();
+    }
+}
+
+void FileManagerDialog::paintProgress() {
+    m_progress->repaint();
+    m_status->repaint();
+    m_sincePainted.start();
+}
+
+void FileManagerDialog::showStatus(const QString& text) {
+    m_status->setText(text);
+}
+
+void FileManagerDialog::showResult(const QString& text) {
+    m_showsResult = true;
+    m_status->setText(text);
 }
 
 } // namespace corvane

@@ -4,6 +4,7 @@
 #include "TransferQueue.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QList>
 #include <QPointer>
 
@@ -67,9 +68,12 @@ private:
     void startDownload();
     void startUpload();
     void showCurrent(const QString& text, const TransferQueue& queue);
-    void showProgress(int percent);
     void showSpeed(int bytesPerSecond, int secondsLeft);
+    /// The event loop does not run during an upload.
+    void paintProgress();
     void showStatus(const QString& text);
+    /// A status that lasts until the user opens a folder.
+    void showResult(const QString& text);
     void dropTransfers();
     void onServiceGone();
 
@@ -77,9 +81,8 @@ private:
     QList<Request> m_unanswered;
     TransferQueue m_downloads;
     TransferQueue m_uploads;
-    /// The status tells how the transfers ended; a listing that was not asked for by the user does
-    /// not wipe that away.
     bool m_showsResult = false;
+    QElapsedTimer m_sincePainted;
 
     RemoteFilePane* m_remote = nullptr;
     LocalFilePane* m_local = nullptr;

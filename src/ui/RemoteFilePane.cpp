@@ -26,8 +26,7 @@ constexpr int kEntryRole = Qt::UserRole + 1;
 /// A row that sorts by its size as a number, folders before files.
 class EntryItem : public QTreeWidgetItem {
 public:
-    explicit EntryItem(const FileEntry& entry)
-        : m_isFolder(entry.isDirectory), m_size(entry.size) {
+    explicit EntryItem(const FileEntry& entry) : m_isFolder(entry.isDirectory), m_size(entry.size) {
         const bool hasSize = !entry.isDirectory && entry.size > 0;
         setText(kNameColumn, entry.name);
         setText(kSizeColumn, hasSize ? formatByteSize(entry.size) : QString());
@@ -162,8 +161,8 @@ void RemoteFilePane::updatePathLabel() {
     // The end of a long path tells more than its beginning.
     m_pathLabel->setText(text.arg(QString()));
     const int width = m_pathLabel->width() - m_pathLabel->sizeHint().width();
-    m_pathLabel->setText(
-        text.arg(m_pathLabel->fontMetrics().elidedText(path, Qt::ElideLeft, width).toHtmlEscaped()));
+    m_pathLabel->setText(text.arg(
+        m_pathLabel->fontMetrics().elidedText(path, Qt::ElideLeft, width).toHtmlEscaped()));
     m_pathLabel->setToolTip(path.toHtmlEscaped());
 }
 
