@@ -79,7 +79,6 @@ private:
     bool send(const ByteVector& message) const;
     void sendError(const QString& text) const;
     QString sendFile(QFile& file, const QString& remotePath);
-    QString sendBlocks(QFile& file, const QString& remotePath);
     void reportProgress(const QString& remotePath, qint64 sent, qint64 size, qint64 startedAt);
 
     const SendFunction m_send;

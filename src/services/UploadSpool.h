@@ -17,8 +17,6 @@ public:
     /// Bytes kept in memory at most.
     static constexpr size_t kMemoryLimit = 64 * 1024 * 1024;
 
-    enum class Taken { Yes, BeyondAnnouncedSize };
-
     /// `announcedSize` is the peer's word; no more than that is taken, and no more than the memory
     /// limit is allocated for it.
     UploadSpool(QString destination, quint64 announcedSize, size_t memoryLimit = kMemoryLimit);
@@ -28,8 +26,8 @@ public:
     quint64 announcedSize() const { return m_announcedSize; }
     quint64 receivedSize() const { return m_receivedSize; }
 
-    /// A chunk that would exceed the announced size is refused whole.
-    Taken append(ByteSpan chunk);
+    /// False for a chunk that would exceed the announced size: none of it is taken.
+    bool append(ByteSpan chunk);
 
     /// Writes what has arrived to the destination. False when that, or keeping it until now,
     /// failed; a file that was there before is then still as it was.
@@ -37,7 +35,6 @@ public:
 
 private:
     bool spill(ByteSpan chunk);
-    bool copyTo(class QIODevice& output);
 
     const QString m_destination;
     const quint64 m_announcedSize;

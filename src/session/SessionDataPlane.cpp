@@ -1,5 +1,6 @@
 #include "SessionDataPlane.h"
 
+#include "LoggableText.h"
 #include "SessionCommand.h"
 
 #include <spdlog/spdlog.h>
@@ -10,6 +11,8 @@
 #include <string_view>
 
 namespace corvane {
+
+constexpr size_t kLoggedCommandSize = 200;
 
 /// Who takes a tag, from which size on (tag byte included), and what handles it.
 struct SessionDataPlane::ControlRoute {
@@ -170,7 +173,7 @@ void SessionDataPlane::onKeyframeRequest(ByteSpan) {
 void SessionDataPlane::onCommand(ByteSpan message) {
     const std::string_view command(reinterpret_cast<const char*>(message.data()) + 1,
                                    message.size() - 1);
-    spdlog::info("Session command received: {}", loggableCommand(command));
+    spdlog::info("Session command received: {}", loggableText(command, kLoggedCommandSize));
     if (command == kDisconnectCommand) {
         Q_EMIT disconnectRequested();
         return;
