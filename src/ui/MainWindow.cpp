@@ -7,6 +7,7 @@
 #include "DeploymentConstants.h"
 #include "DeviceCard.h"
 #include "HomePage.h"
+#include "ISystemIntegration.h"
 #include "MessageBoxes.h"
 #include "PartnerId.h"
 #include "QualityIndicator.h"
@@ -58,9 +59,10 @@ QSize initialViewerSize() {
 } // namespace
 
 MainWindow::MainWindow(AuthController* auth, ApiClient* api, SignalingClient* signaling,
-                       SessionManager* session, SettingsController* settings, Condition isTrayThere)
+                       SessionManager* session, SettingsController* settings,
+                       MainWindowPlatform platform)
     : m_auth(auth), m_api(api), m_signaling(signaling), m_session(session), m_settings(settings),
-      m_isTrayThere(std::move(isTrayThere)) {
+      m_platform(std::move(platform)) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(productTitle());
     setMinimumSize(kHomeMinimum);
@@ -212,7 +214,8 @@ void MainWindow::onDisconnectClicked() {
 }
 
 void MainWindow::onSettingsClicked() {
-    auto* const dialog = new SettingsDialog(m_settings, this);
+    auto* const dialog =
+        new SettingsDialog(m_settings, m_platform.integration, m_platform.monitors(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &SettingsDialog::settingsChanged, this, [this] {
         spdlog::info("Settings updated by user");
@@ -346,8 +349,8 @@ void MainWindow::showUpdateError(const QString& error) {
 
 void MainWindow::launchInstaller(const QString& installerPath) {
     spdlog::info("Launching installer: {}", installerPath.toStdString());
-    if (!QProcess::startDetached(installerPath, {QStringLiteral("/SILENT"),
-                                                 QStringLiteral("/SUPPRESSMSGBOXES")})) {
+    if (!QProcess::startDetached(
+            installerPath, {QStringLiteral("/SILENT"), QStringLiteral("/SUPPRESSMSGBOXES")})) {
         spdlog::error("The installer could not be started");
         showUpdateError(tr("The installer could not be started."));
         return;
@@ -360,7 +363,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         endSession(QStringLiteral("user_closed_window"));
         returnHome();
         event->ignore();
-    } else if (m_settings->minimizeToTray() && m_tray->isVisible() && m_isTrayThere()) {
+    } else if (m_settings->minimizeToTray() && m_tray->isVisible() && m_platform.isTrayThere()) {
         hide();
         notify(tr("Application minimized to system tray."));
         event->ignore();

@@ -2,12 +2,12 @@
 
 #include "ConnectionStats.h"
 #include "DecodedFrame.h"
+#include "MainWindowPlatform.h"
 #include "SessionState.h"
 
 #include <QMainWindow>
 #include <QSystemTrayIcon>
 
-#include <functional>
 #include <memory>
 
 class QStackedWidget;
@@ -36,13 +36,9 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    using Condition = std::function<bool()>;
-
-    /// The five pointers are borrowed and must outlive the window. `isTrayThere` tells whether the
-    /// desktop has a place for the tray icon at this moment.
+    /// The five pointers are borrowed and must outlive the window.
     MainWindow(AuthController* auth, ApiClient* api, SignalingClient* signaling,
-               SessionManager* session, SettingsController* settings,
-               Condition isTrayThere = &QSystemTrayIcon::isSystemTrayAvailable);
+               SessionManager* session, SettingsController* settings, MainWindowPlatform platform);
     ~MainWindow() override;
 
 public Q_SLOTS:
@@ -102,7 +98,7 @@ private:
     SignalingClient* const m_signaling;
     SessionManager* const m_session;
     SettingsController* const m_settings;
-    const Condition m_isTrayThere;
+    const MainWindowPlatform m_platform;
     MessageBoxes* m_boxes = nullptr;
     SystemTrayIcon* m_tray = nullptr;
     ConnectionQualityMonitor* m_quality = nullptr;

@@ -21,8 +21,8 @@ void SessionDialogs::begin() {
 }
 
 void SessionDialogs::end() {
-    for (QDialog* const dialog : {static_cast<QDialog*>(m_chat.data()), m_files.data(),
-                                  m_info.data()}) {
+    for (QDialog* const dialog :
+         {static_cast<QDialog*>(m_chat.data()), m_files.data(), m_info.data()}) {
         if (dialog != nullptr) {
             // A signal of the dialog may be what ended the session.
             dialog->disconnect(this);
@@ -46,6 +46,7 @@ void SessionDialogs::openChat() {
 void SessionDialogs::openFiles() {
     if (!m_files) {
         m_files = new FileManagerDialog(m_session->fileTransferService(), m_window);
+        m_files->setObjectName(QStringLiteral("fileManagerDialog"));
         m_files->setAttribute(Qt::WA_DeleteOnClose);
     }
     present(m_files);
@@ -54,6 +55,7 @@ void SessionDialogs::openFiles() {
 void SessionDialogs::openInfo() {
     if (!m_info) {
         m_info = new ConnectionInfoDialog(m_session, m_quality, m_window);
+        m_info->setObjectName(QStringLiteral("connectionInfoDialog"));
         m_info->setAttribute(Qt::WA_DeleteOnClose);
     }
     present(m_info);
@@ -63,6 +65,7 @@ void SessionDialogs::setUpChat() {
     ChatService* const service = m_session->chatService();
     spdlog::info("setupChatDialog: chatService={}", service != nullptr);
     m_chat = new ChatDialog(m_window);
+    m_chat->setObjectName(QStringLiteral("chatDialog"));
     connect(m_chat, &ChatDialog::messageSent, this, &SessionDialogs::sendChat);
     if (service != nullptr) {
         connect(service, &ChatService::messageReceived, m_chat, // dies with this session's chat
@@ -79,12 +82,12 @@ void SessionDialogs::sendChat(const QString& text) {
         service->sendMessage(text);
     }
     if (m_chat) {
-        m_chat->appendMessage(tr("Me"), text, QDateTime::currentDateTime());
+        m_chat->appendMessage(ChatDialog::ownName(), text, QDateTime::currentDateTime());
     }
 }
 
 void SessionDialogs::receiveChat(const QString& text, const QDateTime& timestamp) {
-    m_chat->appendMessage(tr("Remote"), text, timestamp);
+    m_chat->appendMessage(ChatDialog::partnerName(), text, timestamp);
     if (m_chat->isVisible()) {
         return;
     }

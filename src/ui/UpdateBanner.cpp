@@ -10,11 +10,12 @@ namespace corvane {
 
 UpdateBanner::UpdateBanner(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("updateBanner"));
-    setStyleSheet(QStringLiteral("QFrame#updateBanner { background-color: %1; border: 1px solid %2; "
-                                 "border-radius: 6px; padding: 8px; }"
-                                 "QPushButton#primaryButton { color: %3; }")
-                      .arg(QLatin1String(colors::kBannerBackground), QLatin1String(colors::kAccent),
-                           QLatin1String(colors::kBannerButtonText)));
+    setStyleSheet(
+        QStringLiteral("QFrame#updateBanner { background-color: %1; border: 1px solid %2; "
+                       "border-radius: 6px; padding: 8px; }"
+                       "QPushButton#primaryButton { color: %3; }")
+            .arg(QLatin1String(colors::kBannerBackground), QLatin1String(colors::kAccent),
+                 QLatin1String(colors::kBannerButtonText)));
     m_text = new QLabel(this);
     m_text->setObjectName(QStringLiteral("updateText"));
     m_text->setTextFormat(Qt::PlainText);

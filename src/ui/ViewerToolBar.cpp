@@ -38,9 +38,8 @@ ViewerToolBar::ViewerToolBar(QWidget* parent) : QWidget(parent) {
                           &ViewerToolBar::chatRequested);
     setChatWaiting(false);
 
-    auto* const scale =
-        createButton(QStringLiteral("scaleButton"), QStringLiteral("aspect_ratio"),
-                     tr("Scale Mode  (Ctrl+Shift+Q)"));
+    auto* const scale = createButton(QStringLiteral("scaleButton"), QStringLiteral("aspect_ratio"),
+                                     tr("Scale Mode  (Ctrl+Shift+Q)"));
     scale->setMenu(createScaleMenu(scale));
     addShortcut(QStringLiteral("Ctrl+Shift+Q"), [scale] { scale->showMenu(); });
     auto* const monitor = createButton(QStringLiteral("monitorButton"),
@@ -50,10 +49,10 @@ ViewerToolBar::ViewerToolBar(QWidget* parent) : QWidget(parent) {
         QStringLiteral("fullScreenButton"), QStringLiteral("fullscreen"), tr("Fullscreen  (F11)"),
         QStringLiteral("F11"), &ViewerToolBar::fullScreenRequested);
     m_quality = new QualityIndicator(this);
-    auto* const disconnect = createButton(
-        QStringLiteral("viewerDisconnectButton"), QStringLiteral("link_off"),
-        tr("Disconnect  (Ctrl+Shift+D)"), QStringLiteral("Ctrl+Shift+D"),
-        &ViewerToolBar::disconnectRequested);
+    auto* const disconnect =
+        createButton(QStringLiteral("viewerDisconnectButton"), QStringLiteral("link_off"),
+                     tr("Disconnect  (Ctrl+Shift+D)"), QStringLiteral("Ctrl+Shift+D"),
+                     &ViewerToolBar::disconnectRequested);
 
     m_summary = new QLabel(this);
     m_summary->setObjectName(QStringLiteral("qualitySummaryLabel"));

@@ -13,7 +13,8 @@ std::optional<QByteArray> wakeOnLanPacket(QString macAddress) {
         return std::nullopt;
     }
     constexpr int kRepetitions = 16;
-    return QByteArray(6, '\xff') + QByteArray::fromHex(macAddress.toLatin1()).repeated(kRepetitions);
+    return QByteArray(6, '\xff') +
+           QByteArray::fromHex(macAddress.toLatin1()).repeated(kRepetitions);
 }
 
 bool broadcastWakeOnLan(const QByteArray& packet) {

@@ -23,7 +23,8 @@ protected:
     }
 
     QAction* trayAction(const QString& text) const {
-        for (QAction* const action : m_window.findChild<SystemTrayIcon*>()->contextMenu()->actions()) {
+        for (QAction* const action :
+             m_window.findChild<SystemTrayIcon*>()->contextMenu()->actions()) {
             if (action->text() == text) {
                 return action;
             }
@@ -72,13 +73,11 @@ TEST_F(HomeWindowTest, WakesAPartnerWhoseAddressItAsksForOnce) {
             QTest::keyClick(dialog, Qt::Key_Return);
             stored = c.typed;
             EXPECT_EQ(m_settings.wakeOnLanAddress(u"123456789"_s), stored);
-            EXPECT_TRUE(
-                eventually([&] { return m_window.findChild<QInputDialog*>() == nullptr; }));
+            EXPECT_TRUE(eventually([&] { return m_window.findChild<QInputDialog*>() == nullptr; }));
         }
         const QStringList shown = takeBoxes();
         // A machine without a network refuses the broadcast.
-        EXPECT_TRUE(shown == QStringList(c.box) ||
-                    shown.value(0).endsWith(u"could not be sent."_s))
+        EXPECT_TRUE(shown == QStringList(c.box) || shown.value(0).endsWith(u"could not be sent."_s))
             << shown.join(u'\n').toStdString();
     }
 }

@@ -26,8 +26,8 @@ protected:
     QString transcript() const { return widget<QTextBrowser>("chatTranscript")->toPlainText(); }
 
     void say(const QString& text) const {
-        QTest::keyClicks(widget<QLineEdit>("chatEdit"), text);
-        QTest::keyClick(widget<QLineEdit>("chatEdit"), Qt::Key_Return);
+        QTest::keyClicks(widget<QLineEdit>("chatInput"), text);
+        QTest::keyClick(widget<QLineEdit>("chatInput"), Qt::Key_Return);
     }
 };
 
@@ -59,21 +59,19 @@ TEST_F(SessionDialogsTest, ChatsAsViewerWithoutTakingTheScreen) {
 TEST_F(SessionDialogsTest, PutsTheChatBeforeWhoeverSharesTheScreen) {
     start();
     const auto viewer = createDevice();
-    ASSERT_TRUE(eventually(
-        [this] { return m_server.signalingMessages(m_api.clientId()).size() >= 2; }));
+    ASSERT_TRUE(
+        eventually([this] { return m_server.signalingMessages(m_api.clientId()).size() >= 2; }));
     for (const QString& text : {u"first session"_s, u"second session"_s}) {
         viewer->session->initiateSession(m_api.clientId(), u"Password1"_s);
-        ASSERT_TRUE(eventually([&] {
-            return viewer->is(SessionState::Connected) && is(SessionState::Connected);
-        }));
+        ASSERT_TRUE(eventually(
+            [&] { return viewer->is(SessionState::Connected) && is(SessionState::Connected); }));
         viewer->session->chatService()->sendMessage(text);
         ASSERT_TRUE(eventually([&] { return shown<QDialog>("chatDialog") != nullptr; }));
         EXPECT_TRUE(transcript().contains(text));
         EXPECT_EQ(transcript().count(u"session"_s), 1) << "a new session starts a new transcript";
         viewer->session->endSession(u"test"_s);
-        ASSERT_TRUE(eventually([&] {
-            return is(SessionState::Idle) && widget<QDialog>("chatDialog") == nullptr;
-        }));
+        ASSERT_TRUE(eventually(
+            [&] { return is(SessionState::Idle) && widget<QDialog>("chatDialog") == nullptr; }));
     }
     EXPECT_TRUE(m_log.contains("info|setupChatDialog: chatService=true"));
 }
