@@ -29,6 +29,10 @@ public:
         return true;
     }
 
+    qint64 bytesQueued() const override { return 0; }
+    bool waitUntilQueued(qint64) override { return true; }
+    std::optional<double> roundTripMilliseconds() const override { return 12.5; }
+
     std::vector<Message> sent;
 };
 
@@ -123,7 +127,7 @@ TEST_F(DataPlaneTest, OnlyTheTargetSwitchesMonitors) {
 
 TEST_P(DataPlaneTest, UnknownAndForeignMessagesAreDropped) {
     startAs(GetParam());
-    m_plane->setConnected(true);
+    m_plane->setState(SessionState::Connected);
     for (const char* message : {"\x07", "\xff rubbish", "\x05", "\x04", "\x03"}) {
         receive(ChannelType::Control, bytes(message));
     }
@@ -151,10 +155,10 @@ TEST_F(DataPlaneTest, NothingLeavesBeforeOrAfterTheConnection) {
     event.type = InputEventType::MouseMove;
     m_plane->sendInputEvent(event);
     m_plane->requestMonitorSwitch(1);
-    m_plane->setConnected(true);
+    m_plane->setState(SessionState::Connected);
     m_plane->sendInputEvent(event);
     m_plane->requestMonitorSwitch(1);
-    m_plane->setConnected(false);
+    m_plane->setState(SessionState::Closing);
     m_plane->sendInputEvent(event);
 
     ASSERT_EQ(m_transport.sent.size(), 2U);
