@@ -20,16 +20,21 @@ void MessageBoxes::warn(const QString& title, const QString& text) {
     tell(QMessageBox::Warning, QStringLiteral("warningBox"), title, text);
 }
 
-void MessageBoxes::inform(const QString& title, const QString& text) {
-    tell(QMessageBox::Information, QStringLiteral("informationBox"), title, text);
+void MessageBoxes::inform(const QString& title, const QString& text, std::function<void()> closed) {
+    const QMessageBox* const box =
+        tell(QMessageBox::Information, QStringLiteral("informationBox"), title, text);
+    if (closed) {
+        connect(box, &QMessageBox::finished, this, std::move(closed), Qt::SingleShotConnection);
+    }
 }
 
-void MessageBoxes::tell(QMessageBox::Icon icon, const QString& objectName, const QString& title,
-                        const QString& text) {
+QMessageBox* MessageBoxes::tell(QMessageBox::Icon icon, const QString& objectName,
+                                const QString& title, const QString& text) {
     QMessageBox* const box = create(icon, title, text);
     box->setObjectName(objectName);
     box->setStandardButtons(QMessageBox::Ok);
     box->open();
+    return box;
 }
 
 void MessageBoxes::ask(const QString& title, const QString& text,

@@ -22,14 +22,16 @@ public:
     explicit MessageBoxes(QWidget* window);
 
     void warn(const QString& title, const QString& text);
-    void inform(const QString& title, const QString& text);
+
+    /// Calls `closed`, if there is one, once the box is gone.
+    void inform(const QString& title, const QString& text, std::function<void()> closed = {});
 
     /// Calls `answered` with true for Yes and false for anything else, a replaced box included.
     void ask(const QString& title, const QString& text, std::function<void(bool yes)> answered);
 
 private:
-    void tell(QMessageBox::Icon icon, const QString& objectName, const QString& title,
-              const QString& text);
+    QMessageBox* tell(QMessageBox::Icon icon, const QString& objectName, const QString& title,
+                      const QString& text);
     QMessageBox* create(QMessageBox::Icon icon, const QString& title, const QString& text);
 
     QWidget* const m_window;
