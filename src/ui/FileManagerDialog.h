@@ -1,17 +1,10 @@
 #pragma once
 
 #include "FileEntry.h"
-#include "TransferQueue.h"
 
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QList>
-#include <QPointer>
 
-#include <functional>
-
-class QLabel;
-class QProgressBar;
 class QTreeWidgetItem;
 
 namespace corvane {
@@ -20,17 +13,16 @@ class FileTransferService;
 class LocalFilePane;
 class MessageBoxes;
 class RemoteFilePane;
+class TransferRunner;
+class TransferStatus;
+struct FileTransfer;
+struct TransferPlan;
 
-/// Browses the partner's files beside this machine's own and copies them in both directions, one
-/// file at a time: all waiting downloads first, then the uploads. Files chosen while a batch runs
-/// join it.
+/// Browses the partner's files beside this machine's own and copies them in both directions, by the
+/// rules of `TransferRunner`. Closing hides the dialog and lets a batch go on; the end of the
+/// service ends it.
 ///
-/// An error of a transfer ends both batches: whatever answer comes in late finds nothing left to
-/// start. A folder that cannot be listed leaves them alone. Closing hides the dialog and lets a
-/// batch go on; the end of the service ends it.
-///
-/// Object names: those of its panes, "downloadButton", "uploadButton", "transferProgress" and
-/// "transferStatus".
+/// Object names: those of its parts, "downloadButton" and "uploadButton".
 class FileManagerDialog : public QDialog {
     Q_OBJECT
 
@@ -50,45 +42,25 @@ public Q_SLOTS:
     void onUploadComplete();
 
 private:
-    /// What the partner owes an answer to. It answers in the order of the requests, which tells
-    /// whose error an error is.
-    enum class Request { Listing, Download };
-
     QWidget* createTransferButtons();
-    void connectService();
+    void connectRunner();
+    void connectService(const FileTransferService* service);
     void openRemoteFolder(const QString& path);
-    void requestListing();
-    /// Calls `accepted` when nothing is to be overwritten or the user agrees. `question` has a
+    /// Runs the plan, after the user has agreed where something is overwritten. `question` has a
     /// place for the names.
-    void confirmOverwrite(const QString& question, const QStringList& names,
-                          std::function<void()> accepted);
-    void enqueue(TransferQueue& queue, const QList<FileTransfer>& transfers);
-    void startNext();
-    void startNextLater();
-    void startDownload();
-    void startUpload();
-    void showCurrent(const QString& text, const TransferQueue& queue);
-    void showSpeed(int bytesPerSecond, int secondsLeft);
-    /// The event loop does not run during an upload.
-    void paintProgress();
-    void showStatus(const QString& text);
+    void confirm(const QString& question, const TransferPlan& plan,
+                 void (TransferRunner::*run)(const QList<FileTransfer>&));
     /// A status that lasts until the user opens a folder.
     void showResult(const QString& text);
-    void dropTransfers();
     void onServiceGone();
 
-    const QPointer<FileTransferService> m_service;
-    QList<Request> m_unanswered;
-    TransferQueue m_downloads;
-    TransferQueue m_uploads;
+    TransferRunner* m_runner = nullptr;
+    MessageBoxes* m_boxes = nullptr;
     bool m_showsResult = false;
-    QElapsedTimer m_sincePainted;
 
     RemoteFilePane* m_remote = nullptr;
     LocalFilePane* m_local = nullptr;
-    QProgressBar* m_progress = nullptr;
-    QLabel* m_status = nullptr;
-    MessageBoxes* m_boxes = nullptr;
+    TransferStatus* m_status = nullptr;
 };
 
 } // namespace corvane
