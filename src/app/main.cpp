@@ -5,7 +5,9 @@
 #include "ButtonCursorFilter.h"
 #include "CommandLine.h"
 #include "CompanionService.h"
+#include "CaptureBackendCandidate.h"
 #include "DeploymentConstants.h"
+#include "ISystemIntegration.h"
 #include "Logging.h"
 #include "MainWindow.h"
 #include "QuitOnRequest.h"
@@ -90,7 +92,11 @@ int main(int argc, char** argv) {
     SessionManager session(&api, &signaling);
     applySessionSettings(session, settings);
 
-    MainWindow window(&auth, &api, &signaling, &session, &settings);
+    const auto integration = createSystemIntegration();
+    MainWindow window(
+        &auth, &api, &signaling, &session, &settings,
+        {.integration = integration.get(),
+         .monitors = [] { return capturableMonitors(captureBackendCandidates()); }});
     QObject::connect(
         &window, &MainWindow::quitRequested, &application, [] { QApplication::exit(); },
         Qt::QueuedConnection);

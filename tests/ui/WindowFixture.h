@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AuthController.h"
+#include "ISystemIntegration.h"
 #include "MainWindow.h"
 #include "ScratchSettings.h"
 #include "SessionTest.h"
@@ -63,8 +64,15 @@ protected:
     std::shared_ptr<Machine> m_machine = std::make_shared<Machine>();
     SessionManager m_session{&m_api, &m_signaling, createTestPlatform(m_machine)};
     bool m_isTrayThere = false;
-    MainWindow m_window{&m_auth,    &m_api,      &m_signaling,
-                        &m_session, &m_settings, [this] { return m_isTrayThere; }};
+    std::unique_ptr<ISystemIntegration> m_integration = createSystemIntegration();
+    MainWindow m_window{&m_auth,
+                        &m_api,
+                        &m_signaling,
+                        &m_session,
+                        &m_settings,
+                        {.integration = m_integration.get(),
+                         .monitors = [] { return std::vector<MonitorInfo>(); },
+                         .isTrayThere = [this] { return m_isTrayThere; }}};
 };
 
 } // namespace corvane::test
