@@ -6,6 +6,7 @@
 #include "CommandLine.h"
 #include "CompanionService.h"
 #include "DeploymentConstants.h"
+#include "HeartbeatService.h"
 #include "Logging.h"
 #include "MainWindow.h"
 #include "QuitOnRequest.h"
@@ -15,6 +16,7 @@
 #include "SingleInstanceGuard.h"
 #include "Theme.h"
 #include "Translation.h"
+#include "UpdateService.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -89,11 +91,15 @@ int main(int argc, char** argv) {
     ApiClient api;
     api.setServerUrl(settings.serverBaseUrl());
     SignalingClient signaling;
-    AuthController auth(&api, &signaling, &settings);
+    HeartbeatService heartbeat(&api);
+    AuthController auth(&api, &signaling, &heartbeat, &settings);
     SessionManager session(&api, &signaling);
     configureStreaming(session, settings);
 
     MainWindow window(&auth, &api, &signaling, &session, &settings);
+    UpdateService updates;
+    QObject::connect(&auth, &AuthController::authenticated, &updates,
+                     &UpdateService::checkForUpdates);
     window.show();
     auth.start();
     return QApplication::exec();
