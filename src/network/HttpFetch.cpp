@@ -43,7 +43,6 @@ QByteArray HttpFetch::take() {
 
 void HttpFetch::giveUp(const QString& error) {
     m_error = error;
-    m_body.clear();
     m_reply->abort();
 }
 
@@ -93,7 +92,7 @@ void HttpFetch::giveUpOnSize() {
 }
 
 void HttpFetch::onReplyFinished() {
-    if (m_error.isEmpty()) {
+    if (m_error.isEmpty() && m_reply->isOpen()) {
         onReadable();
     }
     m_reply->deleteLater();
@@ -123,6 +122,9 @@ void HttpFetch::follow(const QUrl& target) {
 }
 
 void HttpFetch::end(const QString& error) {
+    if (!error.isEmpty()) {
+        m_body.clear();
+    }
     deleteLater();
     Q_EMIT finished(error);
 }

@@ -23,7 +23,8 @@ public:
     HttpFetch(QNetworkAccessManager& network, const QUrl& url, qint64 maximumBytes, QObject* parent,
               std::chrono::milliseconds silenceLimit = std::chrono::seconds(30));
 
-    /// What has arrived of the body since the last call. The body of an error page never arrives.
+    /// What has arrived of the body since the last call; nothing of an error page, and nothing more
+    /// after a failure.
     QByteArray take();
 
     /// Whether the end came because there was more than `maximumBytes`.
