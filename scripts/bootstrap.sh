@@ -13,8 +13,8 @@ packages=(
     libxcb1-dev
     # tests, benchmarks, development server
     libbenchmark-dev libgmock-dev libgtest-dev qt6-httpserver-dev
-    # running the program on a virtual display
-    fonts-dejavu-core libgl1-mesa-dri xkb-data xvfb
+    # running the program, for updates and on a virtual display
+    fonts-dejavu-core libgl1-mesa-dri unzip xkb-data xvfb
 )
 
 missing=()

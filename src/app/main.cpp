@@ -3,10 +3,11 @@
 #include "AuthController.h"
 #include "Autostart.h"
 #include "ButtonCursorFilter.h"
+#include "CaptureBackendCandidate.h"
 #include "CommandLine.h"
 #include "CompanionService.h"
-#include "CaptureBackendCandidate.h"
 #include "DeploymentConstants.h"
+#include "HeartbeatService.h"
 #include "ISystemIntegration.h"
 #include "Logging.h"
 #include "MainWindow.h"
@@ -18,6 +19,7 @@
 #include "SingleInstanceGuard.h"
 #include "Theme.h"
 #include "Translation.h"
+#include "UpdateService.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -41,6 +43,20 @@ void applyLook(QApplication& application, ButtonCursorFilter& cursorFilter) {
     QApplication::setPalette(applicationPalette());
     application.setStyleSheet(applicationStyleSheet());
     QApplication::setWindowIcon(QIcon(drawApplicationIcon(kIconSide)));
+}
+
+void connectUpdates(AuthController& auth, MainWindow& window, UpdateService& updates) {
+    QObject::connect(&auth, &AuthController::authenticated, &updates,
+                     &UpdateService::checkForUpdates);
+    QObject::connect(&updates, &UpdateService::updateAvailable, &window,
+                     &MainWindow::showUpdateBanner);
+    QObject::connect(&window, &MainWindow::updateRequested, &updates,
+                     &UpdateService::downloadUpdate);
+    QObject::connect(&updates, &UpdateService::downloadProgress, &window,
+                     &MainWindow::showUpdateProgress);
+    QObject::connect(&updates, &UpdateService::updateError, &window, &MainWindow::showUpdateError);
+    QObject::connect(&updates, &UpdateService::readyToInstall, &window,
+                     &MainWindow::launchInstaller);
 }
 
 } // namespace
@@ -88,7 +104,8 @@ int main(int argc, char** argv) {
     ApiClient api;
     api.setServerUrl(settings.serverBaseUrl());
     SignalingClient signaling;
-    AuthController auth(&api, &signaling, &settings);
+    HeartbeatService heartbeat(&api);
+    AuthController auth(&api, &signaling, &heartbeat, &settings);
     SessionManager session(&api, &signaling);
     applySessionSettings(session, settings);
 
@@ -97,6 +114,8 @@ int main(int argc, char** argv) {
         &auth, &api, &signaling, &session, &settings,
         {.integration = integration.get(),
          .monitors = [] { return capturableMonitors(captureBackendCandidates()); }});
+    UpdateService updates;
+    connectUpdates(auth, window, updates);
     QObject::connect(
         &window, &MainWindow::quitRequested, &application, [] { QApplication::exit(); },
         Qt::QueuedConnection);

@@ -1,6 +1,7 @@
 #include "AuthController.h"
 #include "ApiClient.h"
 #include "DevServerTest.h"
+#include "HeartbeatService.h"
 #include "MachineFingerprint.h"
 #include "MatchesPattern.h"
 #include "ScratchSettings.h"
@@ -23,13 +24,14 @@ using namespace Qt::StringLiterals;
 /// The objects of one program run.
 struct ProgramRun {
     ProgramRun(const QUrl& server, AuthIntervals intervals)
-        : auth(&api, &signaling, &settings, nullptr, intervals) {
+        : auth(&api, &signaling, &heartbeat, &settings, nullptr, intervals) {
         api.setServerUrl(server);
     }
 
     SettingsController settings;
     ApiClient api;
     SignalingClient signaling;
+    HeartbeatService heartbeat{&api, nullptr, {.publicAddressUrl = {}, .natProbe = {u""_s}}};
     AuthController auth;
 };
 
@@ -67,10 +69,12 @@ protected:
     bool serverHasPassword(const QString& password) { return serverHas(u"password"_s, password); }
     bool serverHasCode(const QString& code) { return serverHas(u"code"_s, code); }
 
-    QStringList requestedPaths() const {
+    QStringList authRequests() const {
         QStringList paths;
         for (const auto& request : m_server.requests()) {
-            paths.append(request.path);
+            if (request.path.startsWith(u"/auth/")) {
+                paths.append(request.path);
+            }
         }
         return paths;
     }
@@ -85,6 +89,10 @@ const QString kRegistration = u"/auth/auto-register"_s;
 
 TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
     QSignalSpy authenticated(&auth(), &AuthController::authenticated);
+    QObject::connect(&auth(), &AuthController::authenticated, [this] {
+        EXPECT_EQ(m_log.count("info|Heartbeat service started (interval: 30000 ms)"), 1);
+        EXPECT_EQ(m_log.lines().back(), "info|Heartbeat service started (interval: 30000 ms)");
+    });
     ASSERT_TRUE(authenticates());
     const QString clientId = settings().clientId();
     EXPECT_EQ(authenticated.value(0).value(0), clientId);
@@ -100,7 +108,7 @@ TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
     newRun();
     ASSERT_TRUE(authenticates());
     EXPECT_EQ(settings().clientId(), clientId);
-    EXPECT_EQ(requestedPaths(), (QStringList{kRegistration, kLogin}));
+    EXPECT_EQ(authRequests(), (QStringList{kRegistration, kLogin}));
     EXPECT_TRUE(serverHasPassword(auth().sessionPassword()));
 
     for (const QString& secret : secrets) {
@@ -121,7 +129,7 @@ TEST_F(AuthControllerTest, CredentialErrorsClearAtOnce) {
                               ". Retrying in 20 seconds..."),
                   1);
     }
-    EXPECT_EQ(requestedPaths(), (QStringList{kLogin, kRegistration, kLogin, kRegistration}));
+    EXPECT_EQ(authRequests(), (QStringList{kLogin, kRegistration, kLogin, kRegistration}));
 }
 
 TEST_F(AuthControllerTest, OtherErrorsClearAtTheThirdFailureAndRegistrationIsRetried) {
@@ -134,7 +142,7 @@ TEST_F(AuthControllerTest, OtherErrorsClearAtTheThirdFailureAndRegistrationIsRet
     auth().start();
     ASSERT_TRUE(eventually([&] { return m_server.requests().size() >= 6; }));
     EXPECT_EQ(idsAtFailure.mid(0, 3), (QStringList{u"111111111"_s, u"111111111"_s, QString()}));
-    EXPECT_EQ(requestedPaths().mid(0, 5),
+    EXPECT_EQ(authRequests().mid(0, 5),
               (QStringList{kLogin, kLogin, kLogin, kRegistration, kRegistration}));
     EXPECT_EQ(m_log.count("info|Clearing stored credentials after 3 failures — will auto-register "
                           "on next retry"),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AuthController.h"
+#include "HeartbeatService.h"
 #include "ISystemIntegration.h"
 #include "MainWindow.h"
 #include "ScratchSettings.h"
@@ -60,7 +61,8 @@ protected:
     SettingsController m_settings;
     ApiClient m_api;
     SignalingClient m_signaling;
-    AuthController m_auth{&m_api, &m_signaling, &m_settings};
+    HeartbeatService m_heartbeat{&m_api};
+    AuthController m_auth{&m_api, &m_signaling, &m_heartbeat, &m_settings};
     std::shared_ptr<Machine> m_machine = std::make_shared<Machine>();
     SessionManager m_session{&m_api, &m_signaling, createTestPlatform(m_machine)};
     bool m_isTrayThere = false;
