@@ -543,6 +543,29 @@ Continue?</source>
     </message>
 </context>
 <context>
+    <name>corvane::HttpFetch</name>
+    <message>
+        <source>Not an HTTP or HTTPS address: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server sends more than %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has nothing to download there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server redirects too often.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server redirects to an address that is not safe to follow: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>corvane::LocalFilePane</name>
     <message>
         <source>&lt;b&gt;Local Computer&lt;/b&gt;</source>
@@ -1036,6 +1059,21 @@ even when no user is logged in. Requires administrator privileges.</source>
     </message>
     <message>
         <source>Update Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdateService</name>
+    <message>
+        <source>Cannot write to temp directory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloaded file is too small — update aborted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed to extract installer from zip.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
