@@ -11,7 +11,10 @@ namespace corvane {
 
 TargetStream::TargetStream(StreamingSettings settings, AesGcmCipher& cipher, QObject* parent)
     : QObject(parent), m_settings(std::move(settings)),
-      m_pipeline(m_settings, cipher, std::make_unique<AV1Encoder>()) {}
+      m_pipeline(m_settings, cipher, std::make_unique<AV1Encoder>()) {
+    connect(this, &TargetStream::packetsWaiting, this, &TargetStream::deliverPackets,
+            Qt::QueuedConnection);
+}
 
 TargetStream::~TargetStream() {
     stop();
@@ -41,19 +44,11 @@ bool TargetStream::start(const SessionPlatform& platform) {
 }
 
 void TargetStream::setFlowing(bool flowing) {
-    {
-        const std::lock_guard lock(m_gateMutex);
-        m_flowing = flowing;
-    }
-    m_gateChanged.notify_all();
+    m_packets.setFlowing(flowing);
 }
 
 void TargetStream::stop() {
-    {
-        const std::lock_guard lock(m_gateMutex);
-        m_stopping = true;
-    }
-    m_gateChanged.notify_all();
+    m_packets.close();
     if (m_capture) {
         m_capture->stop();
     }
@@ -94,23 +89,19 @@ TargetStream::openBackend(const SessionPlatform& platform) const {
 }
 
 void TargetStream::onFrame(const CapturedFrame& frame) {
-    if (!waitUntilFlowing()) {
+    if (!m_packets.waitForRoom()) {
         return;
     }
     auto sealed = m_pipeline.process(frame);
-    if (!sealed) {
-        return;
+    if (sealed && m_packets.push(std::move(*sealed))) {
+        Q_EMIT packetsWaiting(QPrivateSignal());
     }
-    // A call queued for this object dies with it, so a packet never leaks into the next session.
-    QMetaObject::invokeMethod(
-        this, [this, packet = std::move(*sealed)] { Q_EMIT packetReady(packet); },
-        Qt::QueuedConnection);
 }
 
-bool TargetStream::waitUntilFlowing() {
-    std::unique_lock lock(m_gateMutex);
-    m_gateChanged.wait(lock, [this] { return m_flowing || m_stopping; });
-    return !m_stopping;
+void TargetStream::deliverPackets() {
+    while (const auto packet = m_packets.pop()) {
+        Q_EMIT packetReady(*packet);
+    }
 }
 
 } // namespace corvane

@@ -123,7 +123,7 @@ TEST_F(ScreenCaptureManagerTest, PacesAndDeliversTheSameFrameTwice) {
     ASSERT_GE(called.size(), 6U);
     EXPECT_TRUE(std::equal(called.begin(), called.begin() + 6, signalled.begin()));
     EXPECT_GE(times[5] - times[0], 5 * 40ms - 10ms);
-    EXPECT_LT(times[5] - times[0], 1s);
+    EXPECT_LT(times[5] - times[0], 3s);
 }
 
 TEST_F(ScreenCaptureManagerTest, LimitsTheRateStopsAtOnceAndRunsAgain) {
