@@ -5,7 +5,7 @@
 #include <cstdio>
 
 /// With an argument, puts it on the clipboard and keeps it there until killed. Without one, writes
-/// the clipboard's text to standard output.
+/// the clipboard's text in UTF-8 to standard output, in hexadecimal digits and with a full stop.
 int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
     }
     QFile output;
     return output.open(stdout, QIODevice::WriteOnly) &&
-                   output.write(QGuiApplication::clipboard()->text().toUtf8()) >= 0
+                   output.write(QGuiApplication::clipboard()->text().toUtf8().toHex() + '.') > 0
                ? 0
                : 1;
 }

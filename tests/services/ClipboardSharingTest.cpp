@@ -40,16 +40,16 @@ public:
         m_process.waitForFinished();
     }
 
-    /// So many characters of its output. It may ask this program for them, so the event loop runs.
-    QString output(qsizetype size) {
-        QByteArray text;
+    /// What it sees. It may have to ask this program, so the event loop runs.
+    QString clipboardText() {
+        QByteArray digits;
         (void)QTest::qWaitFor(
             [&] {
-                text += m_process.readAll();
-                return QString::fromUtf8(text).size() >= size;
+                digits += m_process.readAll();
+                return digits.endsWith('.');
             },
             10'000);
-        return QString::fromUtf8(text);
+        return QString::fromUtf8(QByteArray::fromHex(digits));
     }
 
 private:
@@ -81,7 +81,7 @@ TEST_F(ClipboardSharingTest, TextOfAnotherProgramIsSentAndThePeersReachesItWitho
             return m_log.count("debug|ClipboardSharing: ignoring self-triggered clipboard "
                                "change") == 1;
         }));
-        EXPECT_EQ(Neighbour({}).output(remote.size()), remote);
+        EXPECT_EQ(Neighbour({}).clipboardText(), remote);
     }
     Neighbour next({QStringLiteral("next")});
     ASSERT_TRUE(eventually([&] { return m_sent.count() > 1; }));
