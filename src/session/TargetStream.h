@@ -17,6 +17,7 @@ namespace corvane {
 class AesGcmCipher;
 class IScreenCaptureBackend;
 class InputForwarder;
+class RepeatingScreen;
 class ScreenCaptureManager;
 struct SessionPlatform;
 
@@ -44,6 +45,7 @@ public:
     /// Ends capture and joins its thread.
     void stop();
 
+    /// Has the next picture encoded afresh, and soon even if the screen stands still.
     void requestKeyframe();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);
@@ -58,8 +60,10 @@ private:
     bool waitUntilFlowing();
 
     const StreamingSettings m_settings;
-    FramePipeline m_pipeline; ///< capture thread only, while it runs
+    FramePipeline m_pipeline;                         ///< capture thread only, while it runs
+    std::shared_ptr<const CapturedFrame> m_lastFrame; ///< capture thread only, while it runs
     std::unique_ptr<ScreenCaptureManager> m_capture;
+    RepeatingScreen* m_screen = nullptr; ///< belongs to the capture manager
     std::unique_ptr<InputForwarder> m_input;
 
     std::mutex m_gateMutex;
