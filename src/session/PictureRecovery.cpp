@@ -20,7 +20,7 @@ PictureRecovery::PictureRecovery(Timings timings, QObject* parent)
 void PictureRecovery::start() {
     m_running = true;
     m_whole = false;
-    m_notBefore = Clock::now() + m_timings.firstPicture;
+    m_notBefore = {};
     schedule(m_timings.firstPicture);
 }
 
