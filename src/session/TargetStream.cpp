@@ -2,6 +2,7 @@
 
 #include "AV1Encoder.h"
 #include "InputForwarder.h"
+#include "RepeatingScreen.h"
 #include "ScreenCaptureManager.h"
 #include "SessionPlatform.h"
 
@@ -26,7 +27,10 @@ bool TargetStream::start(const SessionPlatform& platform) {
         spdlog::error("Failed to initialize any screen capture backend");
         return false;
     }
-    m_capture = std::make_unique<ScreenCaptureManager>(std::move(backend));
+    auto screen =
+        std::make_unique<RepeatingScreen>(std::move(backend), [this] { return m_lastFrame; });
+    m_screen = screen.get();
+    m_capture = std::make_unique<ScreenCaptureManager>(std::move(screen));
 
     auto inputBackend = platform.inputBackend();
     inputBackend->initialize();
@@ -34,6 +38,7 @@ bool TargetStream::start(const SessionPlatform& platform) {
 
     m_capture->setFrameCallback([this](const std::shared_ptr<CapturedFrame>& frame) {
         if (frame) {
+            m_lastFrame = frame;
             onFrame(*frame);
         }
     });
@@ -58,6 +63,7 @@ void TargetStream::stop() {
 void TargetStream::requestKeyframe() {
     if (m_capture) {
         m_capture->requestKeyframe();
+        m_screen->requestRepeat();
     }
 }
 

@@ -16,6 +16,7 @@ namespace corvane {
 class AesGcmCipher;
 class IScreenCaptureBackend;
 class InputForwarder;
+class RepeatingScreen;
 class ScreenCaptureManager;
 struct SessionPlatform;
 
@@ -43,6 +44,7 @@ public:
     /// Ends capture and joins its thread. Packets not yet handed over are dropped.
     void stop();
 
+    /// Has the next picture encoded afresh, and soon even if the screen stands still.
     void requestKeyframe();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);
@@ -62,7 +64,9 @@ private:
     const StreamingSettings m_settings;
     FramePipeline m_pipeline; ///< capture thread only, while it runs
     PacketQueue m_packets;
+    std::shared_ptr<const CapturedFrame> m_lastFrame; ///< capture thread only, while it runs
     std::unique_ptr<ScreenCaptureManager> m_capture;
+    RepeatingScreen* m_screen = nullptr; ///< belongs to the capture manager
     std::unique_ptr<InputForwarder> m_input;
 };
 

@@ -44,6 +44,8 @@ TEST_F(SessionDialogsTest, ChatsAsViewerWithoutTakingTheScreen) {
     EXPECT_TRUE(eventually([&] { return button->text() == u"Chat (!)"; }));
     EXPECT_EQ(shown<QDialog>("chatDialog"), nullptr);
 
+    m_window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
     QTest::keyClick(&m_window, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     ASSERT_NE(shown<QDialog>("chatDialog"), nullptr);
     EXPECT_EQ(button->text(), u"Chat"_s);
