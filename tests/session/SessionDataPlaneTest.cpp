@@ -52,6 +52,7 @@ protected:
         QObject::connect(m_plane.get(), &SessionDataPlane::inputEventReceived,
                          [this](const InputEvent&) { ++m_inputEvents; });
         m_plane->setTransport(&m_transport);
+        m_log.clear();
         m_plane->startStreaming(settings, createTestPlatform(m_machine));
         m_started = m_log.lines();
         m_log.clear();
