@@ -30,11 +30,9 @@ using namespace Qt::StringLiterals;
 
 class SettingsDialogTest : public testing::Test {
 protected:
-    /// A dialog that shows what the store and the system hold now.
+    /// A dialog with what the store and the system hold now. Few cases need it on the screen.
     void open() {
         m_dialog = std::make_unique<SettingsDialog>(m_settings.get(), &m_system, m_monitors);
-        m_dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_dialog.get()));
         m_changed = std::make_unique<QSignalSpy>(m_dialog.get(), &SettingsDialog::settingsChanged);
     }
 
@@ -299,6 +297,7 @@ TEST_F(SettingsDialogTest, WaitsForWhatTheSystemSays) {
 TEST_F(SettingsDialogTest, AppliesInOrderAndStaysUntilDone) {
     m_system.m_serviceInstalled = true;
     open();
+    m_dialog->show();
     m_system.m_answersAtOnce = false;
     m_system.m_onApply = [this] {
         EXPECT_EQ(m_settings->displayMode(), 0);
@@ -335,6 +334,7 @@ TEST_F(SettingsDialogTest, AppliesInOrderAndStaysUntilDone) {
 
 TEST_F(SettingsDialogTest, EveryApplyAsksTheSystemAndCancelNothing) {
     open();
+    m_dialog->show();
     click("applyButton");
     click("applyButton");
     EXPECT_EQ(m_system.m_applied.size(), 2U);
@@ -378,6 +378,7 @@ TEST_F(SettingsDialogTest, TheServiceTakesOver) {
     } window;
     window.show();
     open();
+    m_dialog->show();
     change(box("serviceCheck"));
     change(box("minimizeToTrayCheck"));
     QTimer::singleShot(0, m_dialog.get(), [this] {
