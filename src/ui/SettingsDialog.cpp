@@ -16,6 +16,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace corvane {
 
 namespace {
@@ -256,7 +258,7 @@ void SettingsDialog::onIntegrationApplied(bool permitted) {
     if (!serviceTakesOver) {
         Q_EMIT settingsChanged();
     }
-    if (m_closesWhenApplied) {
+    if (std::exchange(m_closesWhenApplied, false)) {
         accept();
     }
 }

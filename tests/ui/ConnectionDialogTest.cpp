@@ -85,12 +85,9 @@ TEST_F(ConnectionDialogTest, HandsOverWhatIsComplete) {
 
 TEST_F(ConnectionDialogTest, HidesPasswordsAndNothingElse) {
     for (const auto* const edit : m_dialog.findChildren<QLineEdit*>()) {
-        const bool secret = edit->objectName().contains(u"Password");
-        EXPECT_EQ(edit->echoMode(), secret ? QLineEdit::Password : QLineEdit::Normal)
+        EXPECT_EQ(edit->echoMode() == QLineEdit::Password, edit->objectName().contains(u"Password"))
             << edit->objectName().toStdString();
     }
-    EXPECT_EQ(m_dialog.windowTitle(), u"Corvane - Connect"_s);
-    EXPECT_EQ(m_dialog.minimumWidth(), 350);
 }
 
 } // namespace
