@@ -16,6 +16,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace corvane {
 
 namespace {
@@ -73,6 +75,7 @@ SettingsDialog::SettingsDialog(SettingsController* settings, ISystemIntegration*
     layout->addWidget(createButtons());
     load();
     loadIntegration();
+    m_tabs->setFocus(); // rather than the only button that is enabled from the start
 }
 
 QWidget* SettingsDialog::createDisplayPage(const std::vector<MonitorInfo>& monitors) {
@@ -84,6 +87,7 @@ QWidget* SettingsDialog::createDisplayPage(const std::vector<MonitorInfo>& monit
     for (const Language& language : kLanguages) {
         m_language->addItem(QString::fromUtf8(language.name), QLatin1String(language.code));
     }
+    m_language->setMaxVisibleItems(m_language->count());
     m_displayMode = newControl<QComboBox>("displayModeCombo",
                                           tr("Quality: 24 fps, sharp image, higher bandwidth.\n"
                                              "Speed: 10 fps, lower bandwidth and CPU usage."));
@@ -254,7 +258,7 @@ void SettingsDialog::onIntegrationApplied(bool permitted) {
     if (!serviceTakesOver) {
         Q_EMIT settingsChanged();
     }
-    if (m_closesWhenApplied) {
+    if (std::exchange(m_closesWhenApplied, false)) {
         accept();
     }
 }

@@ -1,6 +1,7 @@
 #include "SystemTrayIcon.h"
 
 #include "ApplicationIcon.h"
+#include "UiColors.h"
 
 #include <QMenu>
 #include <spdlog/spdlog.h>
@@ -33,6 +34,9 @@ void SystemTrayIcon::createMenu() {
         return action;
     };
     m_menu->setObjectName(QStringLiteral("trayMenu"));
+    // The status is always disabled, and yet to be read.
+    m_menu->setStyleSheet(
+        QStringLiteral("QMenu::item:disabled { color: %1; }").arg(QLatin1String(colors::kCaption)));
     const QAction* const show = add("trayShowAction", tr("Show"));
     m_status = add("trayStatusAction", tr("Status: Disconnected"));
     m_status->setEnabled(false);

@@ -15,10 +15,8 @@ using namespace Qt::StringLiterals;
 
 class ConnectionDialogTest : public testing::Test {
 protected:
-    /// Opens the dialog's page and fills in its fields with the keyboard, each a way from the last.
+    /// Turns to a page of the dialog and types into its fields.
     void fillIn(int page, const QStringList& texts) {
-        m_dialog.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_dialog));
         auto* const tabs = m_dialog.findChild<QTabWidget*>();
         tabs->setCurrentIndex(page);
         const auto edits = tabs->currentWidget()->findChildren<QLineEdit*>();
@@ -75,23 +73,21 @@ TEST_F(ConnectionDialogTest, HandsOverWhatIsComplete) {
         {kRegister, {u"ann"_s, u"1234567 "_s, u""_s}, u"ann|1234567 |"_s},
         {kRegister, {u"ann"_s, u"12345678"_s, u" box "_s}, u"ann|12345678| box "_s},
     };
+    m_dialog.show();
+    bool byMouse = false;
     for (const auto& c : cases) {
-        for (const bool byMouse : {true, false}) {
-            fillIn(c.page, c.typed);
-            EXPECT_EQ(submit(c.page, byMouse), c.outcome) << c.typed.join(u'|').toStdString();
-            EXPECT_TRUE(m_dialog.isVisible());
-        }
+        byMouse = !byMouse;
+        fillIn(c.page, c.typed);
+        EXPECT_EQ(submit(c.page, byMouse), c.outcome) << c.typed.join(u'|').toStdString();
+        EXPECT_TRUE(m_dialog.isVisible());
     }
 }
 
 TEST_F(ConnectionDialogTest, HidesPasswordsAndNothingElse) {
     for (const auto* const edit : m_dialog.findChildren<QLineEdit*>()) {
-        const bool secret = edit->objectName().contains(u"Password");
-        EXPECT_EQ(edit->echoMode(), secret ? QLineEdit::Password : QLineEdit::Normal)
+        EXPECT_EQ(edit->echoMode() == QLineEdit::Password, edit->objectName().contains(u"Password"))
             << edit->objectName().toStdString();
     }
-    EXPECT_EQ(m_dialog.windowTitle(), u"Corvane - Connect"_s);
-    EXPECT_EQ(m_dialog.minimumWidth(), 350);
 }
 
 } // namespace

@@ -54,35 +54,37 @@ struct Elevation {
     QStringList calls;
 
     ElevationFunctions functions() {
-        return {.shellExecute =
-                    [this](SHELLEXECUTEINFOW* info) {
-                        EXPECT_EQ(info->cbSize, sizeof *info);
-                        EXPECT_TRUE(info->fMask & SEE_MASK_NOCLOSEPROCESS);
-                        calls << u"%1|%2|%3|%4"_s
-                                     .arg(QString::fromWCharArray(info->lpVerb),
-                                          QString::fromWCharArray(info->lpFile),
-                                          QString::fromWCharArray(info->lpParameters))
-                                     .arg(info->nShow);
-                        info->hProcess = permits ? process : nullptr;
-                        return permits ? TRUE : FALSE;
-                    },
-                .waitForObject =
-                    [this](HANDLE handle, DWORD milliseconds) {
-                        EXPECT_EQ(handle, process);
-                        calls << u"wait %1"_s.arg(milliseconds);
-                        return waitResult;
-                    },
-                .closeHandle =
-                    [this](HANDLE handle) {
-                        EXPECT_EQ(handle, process);
-                        calls << u"close"_s;
-                        return TRUE;
-                    }};
+        return {
+            .shellExecute =
+                [this](SHELLEXECUTEINFOW* info) {
+                    EXPECT_EQ(info->cbSize, sizeof *info);
+                    EXPECT_TRUE(info->fMask & SEE_MASK_NOCLOSEPROCESS);
+                    const wchar_t* const texts[] = {info->lpVerb, info->lpFile, info->lpParameters};
+                    QString call = QString::number(info->nShow);
+                    for (const wchar_t* const text : texts) {
+                        call += u'|' + QString::fromWCharArray(text);
+                    }
+                    calls << call;
+                    info->hProcess = permits ? process : nullptr;
+                    return permits ? TRUE : FALSE;
+                },
+            .waitForObject =
+                [this](HANDLE handle, DWORD milliseconds) {
+                    EXPECT_EQ(handle, process);
+                    calls << u"wait %1"_s.arg(milliseconds);
+                    return waitResult;
+                },
+            .closeHandle =
+                [this](HANDLE handle) {
+                    EXPECT_EQ(handle, process);
+                    calls << u"close"_s;
+                    return TRUE;
+                }};
     }
 };
 
 TEST(ElevatedCommand, WaitsForThePermittedCommandOnly) {
-    const QString start = u"runas|cmd.exe|/c echo \"a\" & echo %1|0"_s;
+    const QString start = u"0|runas|cmd.exe|/c echo \"a\" & echo %1"_s;
     const struct {
         bool permits;
         HANDLE process;
@@ -104,7 +106,7 @@ TEST(ElevatedCommand, WaitsForThePermittedCommandOnly) {
         Elevation script{
             .permits = c.permits, .process = c.process, .waitResult = c.waitResult, .calls = {}};
         EXPECT_EQ(runElevated(u"echo \"a\" & echo %1"_s, script.functions()), c.permits);
-        EXPECT_EQ(script.calls, c.calls);
+        EXPECT_EQ(script.calls.join(u'\n').toStdString(), c.calls.join(u'\n').toStdString());
     }
 }
 
@@ -125,11 +127,12 @@ TEST(SystemIntegration, AppliesWithOneElevatedCommandOffTheCallersThread) {
     EXPECT_TRUE(answerOf(answer));
     const QString program = QCoreApplication::applicationFilePath().replace(u'/', u'\\');
     ASSERT_EQ(script.calls.size(), 3);
-    EXPECT_EQ(script.calls[0],
-              uR"(runas|cmd.exe|/c schtasks /create /tn "CorvaneClient" /tr "\"%1\"" )"
-              uR"(/sc onlogon /rl highest /f & net stop CorvaneService & )"
-              uR"("%2/CorvaneService.exe" --uninstall|0)"_s.arg(
-                  program, QCoreApplication::applicationDirPath()));
+    const QString expected =
+        uR"(0|runas|cmd.exe|/c schtasks /create /tn "CorvaneClient" /tr "\"%1\"" )"
+        uR"(/sc onlogon /rl highest /f & net stop CorvaneService & )"
+        uR"("%2/CorvaneService.exe" --uninstall)"_s.arg(program,
+                                                        QCoreApplication::applicationDirPath());
+    EXPECT_EQ(script.calls[0].toStdString(), expected.toStdString());
 }
 
 } // namespace
