@@ -13,6 +13,9 @@ QIcon rowIcon(const QString& path) {
     QIcon icon(path);
     for (const qreal scale : {1.0, 2.0}) {
         QPixmap selected = icon.pixmap(kSize, scale);
+        if (selected.isNull()) {
+            continue;
+        }
         QPainter painter(&selected);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         painter.fillRect(QRect(QPoint(), kSize), QGuiApplication::palette().highlightedText());
