@@ -79,6 +79,9 @@ void ChatDialog::onSendClicked() {
 void ChatDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     m_input->setFocus();
+    // What was half typed when the window was hidden would be selected, and so lost to the next
+    // key.
+    QMetaObject::invokeMethod(m_input, &QLineEdit::deselect, Qt::QueuedConnection);
     scrollToEnd();
 }
 

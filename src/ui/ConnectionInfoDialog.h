@@ -39,7 +39,7 @@ private:
 
     const QPointer<const ConnectionQualityMonitor> m_monitor;
     std::array<QLabel*, 7> m_qualityValues{};
-    QTimer m_timer;
+    QTimer m_timer{this};
 };
 
 } // namespace corvane

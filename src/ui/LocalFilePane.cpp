@@ -1,5 +1,9 @@
 #include "LocalFilePane.h"
 
+#include "FileIcons.h"
+#include "RemoteFilePane.h"
+
+#include <QAbstractFileIconProvider>
 #include <QDir>
 #include <QFileSystemModel>
 #include <QHeaderView>
@@ -9,9 +13,33 @@
 
 namespace corvane {
 
-LocalFilePane::LocalFilePane(QWidget* parent) : QWidget(parent) {
+/// The same icons as in the list beside this one. The model asks from a thread of its own.
+class LocalFilePane::IconProvider : public QAbstractFileIconProvider {
+public:
+    QIcon icon(IconType type) const override { return type == File ? m_file : m_folder; }
+    QIcon icon(const QFileInfo& info) const override { return info.isDir() ? m_folder : m_file; }
+
+private:
+    const QIcon m_folder = folderIcon();
+    const QIcon m_file = fileIcon();
+};
+
+/// The base class sets its headings at the top of their fields.
+class LocalFilePane::Model : public QFileSystemModel {
+public:
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+        return role == Qt::TextAlignmentRole
+                   ? QVariant(Qt::AlignLeft | Qt::AlignVCenter)
+                   : QFileSystemModel::headerData(section, orientation, role);
+    }
+};
+
+LocalFilePane::LocalFilePane(QWidget* parent)
+    : QWidget(parent), m_icons(std::make_unique<IconProvider>()) {
     auto* const label = new QLabel(tr("<b>Local Computer</b>"), this);
-    m_model = new QFileSystemModel(this);
+    label->setMinimumHeight(RemoteFilePane::kTitleHeight);
+    m_model = std::make_unique<Model>();
+    m_model->setIconProvider(m_icons.get());
     m_model->setFilter(QDir::AllEntries | QDir::NoDotAndDotDot);
     m_model->setRootPath(QString());
 
@@ -19,7 +47,7 @@ LocalFilePane::LocalFilePane(QWidget* parent) : QWidget(parent) {
     m_tree = new QTreeView(this);
     m_tree->setObjectName(QStringLiteral("localTree"));
     m_tree->setAccessibleName(tr("Local files"));
-    m_tree->setModel(m_model);
+    m_tree->setModel(m_model.get());
     m_tree->setUniformRowHeights(true);
     m_tree->setColumnWidth(kNameColumn, 250);
     m_tree->header()->setStretchLastSection(true);
@@ -28,9 +56,13 @@ LocalFilePane::LocalFilePane(QWidget* parent) : QWidget(parent) {
     m_tree->sortByColumn(kNameColumn, Qt::AscendingOrder);
 
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(6, 0, 0, 0);
     layout->addWidget(label);
     layout->addWidget(m_tree, 1);
+}
+
+LocalFilePane::~LocalFilePane() {
+    m_tree->setModel(nullptr); // dies before the view, which is a child
 }
 
 QString LocalFilePane::targetFolder() const {

@@ -4,7 +4,8 @@
 #include <QList>
 #include <QWidget>
 
-class QFileSystemModel;
+#include <memory>
+
 class QTreeView;
 
 namespace corvane {
@@ -17,6 +18,7 @@ class LocalFilePane : public QWidget {
 
 public:
     explicit LocalFilePane(QWidget* parent = nullptr);
+    ~LocalFilePane() override;
 
     /// Where downloads go: the selected folder, the selected file's folder, or the user's home
     /// folder when nothing is selected.
@@ -26,7 +28,11 @@ public:
     QList<QFileInfo> selectedFiles() const;
 
 private:
-    QFileSystemModel* m_model = nullptr;
+    class IconProvider;
+    class Model;
+
+    const std::unique_ptr<IconProvider> m_icons; ///< used by the model until that is gone
+    std::unique_ptr<Model> m_model;
     QTreeView* m_tree = nullptr;
 };
 

@@ -1,11 +1,11 @@
 #include "RemoteFilePane.h"
 
 #include "CardParts.h"
+#include "FileIcons.h"
 #include "ValueFormats.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -53,10 +53,9 @@ private:
 } // namespace
 
 RemoteFilePane::RemoteFilePane(QWidget* parent) : QWidget(parent) {
-    constexpr int kBackSide = 28;
     auto* const back =
         createIconButton(QStringLiteral("remoteBackButton"), QStringLiteral("arrow_back"),
-                         tr("Go up one directory"), kBackSide, this);
+                         tr("Go up one directory"), kTitleHeight, this);
     back->setAutoDefault(false);
     connect(back, &QPushButton::clicked, this, &RemoteFilePane::backClicked);
     m_pathLabel = new QLabel(this);
@@ -69,7 +68,7 @@ RemoteFilePane::RemoteFilePane(QWidget* parent) : QWidget(parent) {
     row->addWidget(back);
     row->addWidget(m_pathLabel, 1);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(0, 0, 6, 0);
     layout->addLayout(row);
     layout->addWidget(m_tree, 1);
     updatePathLabel();
@@ -111,8 +110,8 @@ void RemoteFilePane::showEntries(const QList<FileEntry>& entries) {
     if (entries.size() > kMostRows) {
         spdlog::warn("RemoteFilePane: showing {} of {} entries", kMostRows, entries.size());
     }
-    const QIcon folder(QStringLiteral(":/icons/folder"));
-    const QIcon file(QStringLiteral(":/icons/file"));
+    const QIcon folder = folderIcon();
+    const QIcon file = fileIcon();
     QList<QTreeWidgetItem*> items;
     for (const FileEntry& entry : entries.first(qMin(entries.size(), kMostRows))) {
         items.append(new EntryItem(entry));

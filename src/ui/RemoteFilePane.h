@@ -23,6 +23,8 @@ public:
     /// Rows that are shown at most, so that no listing can freeze the window.
     static constexpr qsizetype kMostRows = 100'000;
 
+    static constexpr int kTitleHeight = 28; ///< of what stands above the list
+
     explicit RemoteFilePane(QWidget* parent = nullptr);
 
     /// The folder shown, as last given to `openFolder`; empty is the top level.

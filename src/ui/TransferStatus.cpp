@@ -4,6 +4,8 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QStyleOptionProgressBar>
+#include <QStylePainter>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -21,10 +23,36 @@ quint64 nonNegative(int value) {
     return static_cast<quint64>(qMax(value, 0));
 }
 
+/// Writes its text dark on the filled part and light on the rest: one colour cannot be read on
+/// both.
+class TwoToneBar : public QProgressBar {
+public:
+    using QProgressBar::QProgressBar;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QStylePainter painter(this);
+        QStyleOptionProgressBar option;
+        initStyleOption(&option);
+        option.textVisible = false;
+        painter.drawControl(QStyle::CE_ProgressBar, option);
+
+        const int filled = QStyle::sliderPositionFromValue(minimum(), maximum(), value(), width());
+        const QRect left = rect().adjusted(0, 0, filled - width(), 0);
+        const auto write = [&](const QRegion& part, QPalette::ColorRole role) {
+            painter.setClipRegion(part);
+            painter.setPen(palette().color(role));
+            painter.drawText(rect(), Qt::AlignCenter, text());
+        };
+        write(left, QPalette::HighlightedText);
+        write(QRegion(rect()) - left, QPalette::Text);
+    }
+};
+
 } // namespace
 
 TransferStatus::TransferStatus(QWidget* parent) : QWidget(parent) {
-    m_progress = new QProgressBar(this);
+    m_progress = new TwoToneBar(this);
     m_progress->setObjectName(QStringLiteral("transferProgress"));
     m_progress->setAccessibleName(tr("Transfer progress"));
     m_progress->setTextVisible(true);
