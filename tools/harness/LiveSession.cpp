@@ -81,8 +81,8 @@ bool LiveSession::startDisplays() {
                                                                  : m_options.viewerDisplay;
     m_targetDisplay = std::make_unique<XDisplay>(targetName);
     m_viewerDisplay = std::make_unique<XDisplay>(viewerName);
-    m_target = std::make_unique<ClientProcess>(targetName);
-    m_viewer = std::make_unique<ClientProcess>(viewerName);
+    m_target = std::make_unique<ClientProcess>(targetName, m_options.target);
+    m_viewer = std::make_unique<ClientProcess>(viewerName, m_options.viewer);
     return (m_targetDisplay->isConnected() && m_viewerDisplay->isConnected()) ||
            fail(QStringLiteral("no X display"));
 }
@@ -90,19 +90,19 @@ bool LiveSession::startDisplays() {
 bool LiveSession::startDesktop() {
     QObject::connect(&m_desktop, &QProcess::readyReadStandardOutput, &m_desktop,
                      [this] { readDesktop(); });
-    m_desktop.setProcessEnvironment(m_target->environment());
     m_desktop.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     tieToParent(m_desktop);
-    m_desktop.start(QStringLiteral(CORVANE_DEMO_DESKTOP_PATH),
-                    m_options.stillDesktop ? QStringList{QStringLiteral("--still")}
-                                           : QStringList());
+    m_target->host().prepare(m_desktop, Program::DemoDesktop,
+                             m_options.stillDesktop ? QStringList{QStringLiteral("--still")}
+                                                    : QStringList());
+    m_desktop.start();
     return waitFor([this] { return m_field.isValid() && m_echo.isValid(); }, kStartTimeout) ||
            fail(QStringLiteral("the demo desktop did not come up"));
 }
 
 void LiveSession::readDesktop() {
     while (m_desktop.canReadLine()) {
-        const QString line = QString::fromUtf8(m_desktop.readLine()).chopped(1);
+        const QString line = QString::fromUtf8(m_desktop.readLine()).trimmed();
         const QString value = line.section(QLatin1Char(' '), 1);
         if (line.startsWith(u"field: ")) {
             m_field = parseRectangle(value);
@@ -244,8 +244,9 @@ std::optional<QRect> LiveSession::pictureRectangle() {
     }
     const auto match = kResized.match(resizes.last());
     const QSize view(match.captured(1).toInt(), match.captured(2).toInt());
-    // The view fills the window below the tool bar.
-    const QPoint origin = window->bottomLeft() + QPoint(0, 1 - view.height());
+    // The view fills the window below the tool bar, within the border that Wine draws by itself.
+    const int border = (window->width() - view.width()) / 2;
+    const QPoint origin = window->bottomLeft() + QPoint(border, 1 - view.height() - border);
     return fitRectangle(m_targetDisplay->size(), view).translated(origin);
 }
 

@@ -34,6 +34,8 @@ public:
     struct Options {
         QString viewerDisplay; ///< empty: a virtual display of its own
         bool stillDesktop = false;
+        Platform target = Platform::Linux;
+        Platform viewer = Platform::Linux;
     };
 
     explicit LiveSession(Options options);
