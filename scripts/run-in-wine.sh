@@ -27,8 +27,6 @@ for library in libstdc++-6.dll libwinpthread-1.dll; do
     WINEPATH+=";$(as_windows_path "$folder")"
 done
 export WINEPATH
-QT_PLUGIN_PATH=$(as_windows_path "$libraries/plugins")
-export QT_PLUGIN_PATH
 
 # Not a pipe: what Wine starts in the background with the first program would keep it open.
 output=$(mktemp)

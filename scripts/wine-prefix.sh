@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Makes the Wine prefix that Windows programs of this tree run in.
 #
-# scripts/wine-prefix.sh            the base, build/wine, which takes half a minute the first time
-# scripts/wine-prefix.sh <folder>   one of a fresh user, which shares the system files of the base
+# scripts/wine-prefix.sh                   the base, build/wine, which takes half a minute once
+# scripts/wine-prefix.sh <folder>          one of a fresh user, which shares the base's system files
+# scripts/wine-prefix.sh --end <folder>    ends what runs in that one and removes it
 set -euo pipefail
 
 base=$(realpath "$(dirname "$0")/..")/build/wine
@@ -25,6 +26,17 @@ settings='Windows Registry Editor Version 5.00
 "Tahoma"="DejaVu Sans"
 '
 
+stop_server() {
+    local name
+    WINEPREFIX=$1 wineserver --kill || true
+    WINEPREFIX=$1 wineserver --wait || true
+    # Debian's Wine notes the name of the folder of the server's socket here, and leaves both.
+    name=$(cat "$1/wineserver" 2>/dev/null || true)
+    case $name in
+    wine-??????) rm -rf "/tmp/$name" "$1/wineserver" ;;
+    esac
+}
+
 make_base() {
     local fresh=$base.new
     echo "Making a Wine prefix in $base ..." >&2
@@ -37,14 +49,18 @@ make_base() {
         DISPLAY='' wineboot --init
         printf '%s' "$settings" >"$fresh/settings.reg"
         DISPLAY='' wine regedit /S "$fresh/settings.reg"
-        # Writes the registry to its files.
-        wineserver --kill
-        wineserver --wait
+        stop_server "$fresh" # which writes the registry to its files
     } </dev/null >/dev/null 2>&1
     # The user's documents belong to the prefix, not to the home of who runs it.
     find "$fresh/drive_c/users" -type l -exec sh -c 'rm "$1" && mkdir "$1"' - {} \;
     mv "$fresh" "$base"
 }
+
+if [ "${1:-}" = --end ]; then
+    stop_server "$2"
+    rm -rf "$2"
+    exit 0
+fi
 
 mkdir -p "$(dirname "$base")"
 exec {lock}>"$base.lock"

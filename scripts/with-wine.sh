@@ -8,9 +8,8 @@ WINEPREFIX=$(mktemp --directory)
 export WINEPREFIX WINEDEBUG=${WINEDEBUG:--all}
 xvfb=
 tidy() {
-    wineserver --kill && wineserver --wait || true
+    "$here/wine-prefix.sh" --end "$WINEPREFIX"
     [ -z "$xvfb" ] || kill "$xvfb" || true
-    rm -rf "$WINEPREFIX"
 }
 trap tidy EXIT
 
