@@ -90,7 +90,7 @@ public:
 
 private:
     bool startServer();
-    bool startDisplays();
+    bool startUsers();
     bool startDesktop();
     bool startClients();
     bool fail(const QString& error);
@@ -110,6 +110,7 @@ private:
     QRect m_field; ///< the demo desktop's text field, target pixels
     QRect m_echo;  ///< what it shows of the typed text, target pixels
     QString m_typed;
+    bool m_fieldHasFocus = false;
     std::unique_ptr<ClientProcess> m_target;
     std::unique_ptr<ClientProcess> m_viewer;
 };

@@ -22,7 +22,7 @@ QString packageFolder() {
 }
 
 QString windowsPath(const QString& path) {
-    return QStringLiteral("Z:") + QDir::toNativeSeparators(path).replace(u'/', u'\\');
+    return QStringLiteral("Z:") + QString(path).replace(u'/', u'\\');
 }
 
 QString escaped(QString text) {
@@ -48,9 +48,7 @@ WineHost::WineHost(const QString& home, const QString& display)
 }
 
 WineHost::~WineHost() {
-    for (const char* action : {"--kill", "--wait"}) {
-        run(QStringLiteral("wineserver"), {QLatin1String(action)});
-    }
+    run(kPrefixScript, {QStringLiteral("--end"), m_prefix});
 }
 
 QString WineHost::obstacle() {
@@ -65,17 +63,19 @@ QString WineHost::obstacle() {
 void WineHost::prepare(QProcess& process, Program program, const QStringList& arguments) const {
     const QString package = packageFolder();
     auto environment = m_environment;
-    QString path = package + QStringLiteral("/CorvaneClient.exe");
+    QStringList command{package + QStringLiteral("/CorvaneClient.exe")};
     if (program == Program::DemoDesktop) {
         // Is not in the package, but lives on its libraries.
-        path = kBuild + QStringLiteral("/tools/demodesktop/corvane-demo-desktop.exe");
         environment.insert(QStringLiteral("WINEPATH"), windowsPath(package));
-        environment.insert(QStringLiteral("QT_PLUGIN_PATH"),
-                           windowsPath(package + QStringLiteral("/plugins")));
+        command = {kBuild + QStringLiteral("/tools/demodesktop/corvane-demo-desktop.exe"),
+                   QStringLiteral("-platformpluginpath"),
+                   windowsPath(package + QStringLiteral("/plugins/platforms"))};
     }
+    // Programs that start at the same time would race for who starts the server.
+    run(QStringLiteral("wineserver"), {QStringLiteral("--persistent=30")});
     process.setProcessEnvironment(environment);
     process.setProgram(QStringLiteral("wine"));
-    process.setArguments(QStringList{path} + arguments);
+    process.setArguments(command + arguments);
 }
 
 void WineHost::requestEnd(QProcess&) const {
