@@ -1,6 +1,7 @@
 #include "LiveSession.h"
 #include "WineHost.h"
 
+#include <QRegularExpression>
 #include <gtest/gtest.h>
 
 namespace corvane::harness {
@@ -23,6 +24,14 @@ protected:
         ASSERT_TRUE(m_live.start()) << m_live.error().toStdString();
     }
 
+    /// The error lines of the log, but for those about the desktop duplication that Wine lacks.
+    static std::string errors(const ClientProcess& client) {
+        const QStringList lines = client.logLines(QStringLiteral("[error]"));
+        return lines.filter(QRegularExpression(QStringLiteral("^(?!.*DxgiCaptureBackend)")))
+            .join(u'\n')
+            .toStdString();
+    }
+
     LiveSession m_live{{.viewerDisplay = {},
                         .stillDesktop = true,
                         .target = GetParam().target,
@@ -36,13 +45,15 @@ TEST_P(PlatformsTest, SeeAndDriveOneAnother) {
         << m_live.error().toStdString();
     EXPECT_GE(m_live.pictureFidelity(), 28.0);
 
-    m_live.viewerDisplay().pressKey('d', {kKeyControl, kKeyShift});
     for (const ClientProcess* client : {&m_live.viewer(), &m_live.target()}) {
-        EXPECT_TRUE(waitFor(
-            [&] { return LiveSession::stateChanges(*client).endsWith(u"Closing -> Idle"); }, 20s));
-        EXPECT_EQ(client->logLines(QStringLiteral("[error]")).join(u'\n').toStdString(), "");
+        EXPECT_EQ(errors(*client), "");
     }
+    // The system ends the viewer's program and, on the way, the session.
     EXPECT_TRUE(m_live.viewer().stop());
+    EXPECT_EQ(m_live.viewer().logLines(QStringLiteral("(reason: destructor_cleanup)")).size(), 1);
+    EXPECT_TRUE(waitFor(
+        [&] { return LiveSession::stateChanges(m_live.target()).endsWith(u"Closing -> Idle"); },
+        20s));
     EXPECT_TRUE(m_live.target().stop());
 }
 
