@@ -242,7 +242,7 @@ QString LiveSession::stateChanges(const ClientProcess& client) {
 std::optional<QRect> LiveSession::pictureRectangle() {
     static const QRegularExpression kResized(
         QStringLiteral("RemoteDesktopWidget resized to (\\d+)x(\\d+)"));
-    const auto window = m_viewerDisplay->findWindow(QStringLiteral("Corvane - Connected to"));
+    const auto window = m_viewerDisplay->findWindow(QStringLiteral("Corvane - "));
     const QStringList resizes = m_viewer->logLines(QStringLiteral("RemoteDesktopWidget resized"));
     if (!window || resizes.isEmpty()) {
         return std::nullopt;
