@@ -146,7 +146,7 @@
     <name>corvane::ApiClient</name>
     <message>
         <source>Auto-login failed</source>
-        <translation>Échec de la connexion automatique au compte</translation>
+        <translation>Échec de l&apos;authentification automatique</translation>
     </message>
     <message>
         <source>Auto-registration failed</source>
