@@ -283,11 +283,11 @@
     </message>
     <message>
         <source>Please fill in all fields.</source>
-        <translation>Compilare tutti i campi.</translation>
+        <translation>Compila tutti i campi.</translation>
     </message>
     <message>
         <source>Please fill in username and password.</source>
-        <translation>Inserire nome utente e password.</translation>
+        <translation>Inserisci nome utente e password.</translation>
     </message>
     <message>
         <source>Password must be at least 8 characters.</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
-        <translation>Selezionare uno o più file remoti da scaricare.</translation>
+        <translation>Seleziona uno o più file remoti da scaricare.</translation>
     </message>
     <message>
         <source>No files selected (folders are skipped).</source>
@@ -469,7 +469,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
-        <translation>Selezionare uno o più file locali da caricare.</translation>
+        <translation>Seleziona uno o più file locali da caricare.</translation>
     </message>
     <message>
         <source>These files already exist on the remote and will be overwritten:
@@ -590,7 +590,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>Please enter a partner Client ID.</source>
-        <translation>Inserire un ID remoto.</translation>
+        <translation>Inserisci un ID remoto.</translation>
     </message>
     <message>
         <source>Server unavailable — retrying...</source>
@@ -622,7 +622,7 @@ Continuare?</translation>
     </message>
     <message>
         <source>Please enter the partner&apos;s password.</source>
-        <translation>Inserire la password del computer remoto.</translation>
+        <translation>Inserisci la password del computer remoto.</translation>
     </message>
     <message>
         <source>Client %1 wants to connect.
@@ -684,7 +684,7 @@ Accettare?</translation>
     </message>
     <message>
         <source>Failed to connect. Please try again.</source>
-        <translation>Connessione non riuscita. Riprovare.</translation>
+        <translation>Connessione non riuscita. Riprova.</translation>
     </message>
     <message>
         <source>The partner is not available or offline.</source>
@@ -975,7 +975,7 @@ anche se nessun utente ha effettuato l&apos;accesso. Richiede privilegi di ammin
     </message>
     <message>
         <source>Please restart the application to apply the new language.</source>
-        <translation>Riavviare l&apos;applicazione per applicare la nuova lingua.</translation>
+        <translation>Riavvia l&apos;applicazione per applicare la nuova lingua.</translation>
     </message>
     <message>
         <source>Applying...</source>
@@ -1170,7 +1170,7 @@ anche se nessun utente ha effettuato l&apos;accesso. Richiede privilegi di ammin
     </message>
     <message>
         <source>Enter MAC address for this partner (XX:XX:XX:XX:XX:XX):</source>
-        <translation>Inserire l&apos;indirizzo MAC di questo computer remoto (XX:XX:XX:XX:XX:XX):</translation>
+        <translation>Inserisci l&apos;indirizzo MAC di questo computer remoto (XX:XX:XX:XX:XX:XX):</translation>
     </message>
     <message>
         <source>WoL</source>
