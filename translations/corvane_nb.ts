@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation>FPS: %1 | Forsinkelse: %2 ms | Båndbredde: %3 | Tid: %4</translation>
+        <translation>FPS: %1 | Forsinkelse: %2 ms | Båndbr.: %3 | Varighet: %4</translation>
     </message>
 </context>
 <context>

@@ -358,7 +358,7 @@
     </message>
     <message>
         <source>Uptime:</source>
-        <translation>Ansluten i:</translation>
+        <translation>Anslutningstid:</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -427,19 +427,19 @@
     </message>
     <message>
         <source>Download</source>
-        <translation>Hämta</translation>
+        <translation>Ladda ned</translation>
     </message>
     <message>
         <source>Download selected remote file to local</source>
-        <translation>Hämta markerade filer från fjärrdatorn till den här datorn</translation>
+        <translation>Ladda ned markerade fjärrfiler till den här datorn</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation>Skicka</translation>
+        <translation>Ladda upp</translation>
     </message>
     <message>
         <source>Upload selected local file to remote</source>
-        <translation>Skicka markerade lokala filer till fjärrdatorn</translation>
+        <translation>Ladda upp markerade lokala filer till fjärrdatorn</translation>
     </message>
     <message>
         <source>Loading remote directory...</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
-        <translation>Markera en eller flera fjärrfiler att hämta.</translation>
+        <translation>Markera en eller flera fjärrfiler att ladda ned.</translation>
     </message>
     <message>
         <source>No files selected (folders are skipped).</source>
@@ -469,7 +469,7 @@ Vill du fortsätta?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
-        <translation>Markera en eller flera lokala filer att skicka.</translation>
+        <translation>Markera en eller flera lokala filer att ladda upp.</translation>
     </message>
     <message>
         <source>These files already exist on the remote and will be overwritten:
@@ -502,7 +502,7 @@ Vill du fortsätta?</translation>
     </message>
     <message>
         <source>Another upload is still running: %1</source>
-        <translation>En annan överföring pågår fortfarande: %1</translation>
+        <translation>En annan uppladdning pågår fortfarande: %1</translation>
     </message>
     <message>
         <source>Cannot open local file: %1</source>
@@ -510,7 +510,7 @@ Vill du fortsätta?</translation>
     </message>
     <message>
         <source>Remote file download failed</source>
-        <translation>Fjärrfilen kunde inte hämtas</translation>
+        <translation>Fjärrfilen kunde inte laddas ned</translation>
     </message>
     <message>
         <source>Cannot write to local file: %1</source>
@@ -560,7 +560,7 @@ Vill du fortsätta?</translation>
     </message>
     <message>
         <source>The server has nothing to download there.</source>
-        <translation>Servern har inget att hämta där.</translation>
+        <translation>Servern har inget att ladda ned där.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
@@ -1028,23 +1028,23 @@ even when no user is logged in. Requires administrator privileges.</source>
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation>Alla hämtningar är klara.</translation>
+        <translation>Alla nedladdningar är klara.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation>Alla filer har skickats.</translation>
+        <translation>Alla uppladdningar är klara.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation>Skickar %1 av %2: %3</translation>
+        <translation>Laddar upp %1 av %2: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
-        <translation>Hämtad: %1 – %2 återstår</translation>
+        <translation>Nedladdad: %1 – %2 återstår</translation>
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation>Hämtar %1 av %2: %3</translation>
+        <translation>Laddar ned %1 av %2: %3</translation>
     </message>
 </context>
 <context>
@@ -1066,7 +1066,7 @@ even when no user is logged in. Requires administrator privileges.</source>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Hämtar...</translation>
+        <translation>Laddar ned...</translation>
     </message>
     <message>
         <source>Update Now</source>
@@ -1081,7 +1081,7 @@ even when no user is logged in. Requires administrator privileges.</source>
     </message>
     <message>
         <source>Downloaded file is too small — update aborted.</source>
-        <translation>Den hämtade filen är för liten – uppdateringen avbröts.</translation>
+        <translation>Den nedladdade filen är för liten – uppdateringen avbröts.</translation>
     </message>
     <message>
         <source>Failed to extract installer from zip.</source>
