@@ -735,15 +735,15 @@ Přijmout?</translation>
     <name>corvane::QualityIndicator</name>
     <message>
         <source>Poor</source>
-        <translation>Špatná</translation>
+        <translation>Špatné</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation>Dobrá</translation>
+        <translation>Dobré</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation>Průměrná</translation>
+        <translation>Průměrné</translation>
     </message>
     <message>
         <source>%1 (%2 FPS, %3ms)</source>
@@ -797,7 +797,7 @@ Přijmout?</translation>
     <name>corvane::SessionDataPlane</name>
     <message>
         <source>Failed to start screen capture.</source>
-        <translation>Snímání obrazovky se nepodařilo spustit.</translation>
+        <translation>Sdílení obrazovky se nepodařilo spustit.</translation>
     </message>
 </context>
 <context>
@@ -859,7 +859,7 @@ Přijmout?</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Obraz</translation>
+        <translation>Zobrazení</translation>
     </message>
     <message>
         <source>Network</source>
@@ -942,7 +942,7 @@ Rychlost: 10 FPS, menší šířka pásma a zatížení procesoru.</translation>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation>Nainstalovat CorvaneService.exe jako službu systému Windows, která běží od spuštění,
+        <translation>Nainstalovat CorvaneService.exe jako službu systému Windows, která běží od startu počítače,
 i když není přihlášen žádný uživatel. Vyžaduje oprávnění správce.</translation>
     </message>
     <message>
@@ -979,11 +979,11 @@ i když není přihlášen žádný uživatel. Vyžaduje oprávnění správce.<
     </message>
     <message>
         <source>Applying...</source>
-        <translation>Použití změn...</translation>
+        <translation>Provádění změn...</translation>
     </message>
     <message>
         <source>Asking the system...</source>
-        <translation>Dotazování systému...</translation>
+        <translation>Zjišťuje se stav systému...</translation>
     </message>
 </context>
 <context>
@@ -1028,11 +1028,11 @@ i když není přihlášen žádný uživatel. Vyžaduje oprávnění správce.<
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation>Všechna stahování jsou dokončena.</translation>
+        <translation>Všechny soubory byly staženy.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation>Všechna nahrávání jsou dokončena.</translation>
+        <translation>Všechny soubory byly nahrány.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>

@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 Elemente</translation>
+        <translation>Elemente: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
@@ -797,7 +797,7 @@ Annehmen?</translation>
     <name>corvane::SessionDataPlane</name>
     <message>
         <source>Failed to start screen capture.</source>
-        <translation>Die Bildschirmaufnahme konnte nicht gestartet werden.</translation>
+        <translation>Die Bildschirmübertragung konnte nicht gestartet werden.</translation>
     </message>
 </context>
 <context>
@@ -905,7 +905,7 @@ Geschwindigkeit: 10 FPS, geringere Bandbreite und CPU-Last.</translation>
     </message>
     <message>
         <source>Synchronise clipboard content between the local and remote machines.</source>
-        <translation>Inhalt der Zwischenablage zwischen dem lokalen und dem entfernten Computer abgleichen.</translation>
+        <translation>Inhalt der Zwischenablage zwischen dem lokalen und dem entfernten Computer synchronisieren.</translation>
     </message>
     <message>
         <source>Enable clipboard sharing</source>
@@ -942,7 +942,7 @@ Geschwindigkeit: 10 FPS, geringere Bandbreite und CPU-Last.</translation>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation>CorvaneService.exe als Windows-Dienst installieren, der beim Systemstart läuft,
+        <translation>CorvaneService.exe als Windows-Dienst installieren, der ab dem Systemstart läuft,
 auch wenn kein Benutzer angemeldet ist. Erfordert Administratorrechte.</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@ auch wenn kein Benutzer angemeldet ist. Erfordert Administratorrechte.</translat
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation>Hochladen %1 von %2: %3</translation>
+        <translation>Datei %1 von %2 wird hochgeladen: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
@@ -1044,7 +1044,7 @@ auch wenn kein Benutzer angemeldet ist. Erfordert Administratorrechte.</translat
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation>Herunterladen %1 von %2: %3</translation>
+        <translation>Datei %1 von %2 wird heruntergeladen: %3</translation>
     </message>
 </context>
 <context>

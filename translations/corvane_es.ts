@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>Remote</source>
-        <translation>Remoto</translation>
+        <translation>Interlocutor</translation>
     </message>
 </context>
 <context>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Master (Viewer)</source>
-        <translation>Maestro (visualización)</translation>
+        <translation>Maestro (visor)</translation>
     </message>
     <message>
         <source>Target (Sharing)</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation>FPS: %1 | Latencia: %2 ms | A. banda: %3 | Duración: %4</translation>
+        <translation>FPS: %1 | Latencia: %2 ms | Banda: %3 | Duración: %4</translation>
     </message>
 </context>
 <context>
@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 elementos</translation>
+        <translation>Elementos: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
@@ -1151,7 +1151,7 @@ aunque ningún usuario haya iniciado sesión. Requiere permisos de administrador
     </message>
     <message>
         <source>Stretch to Fill</source>
-        <translation>Estirar hasta llenar</translation>
+        <translation>Estirar a toda la ventana</translation>
     </message>
     <message>
         <source>Original Size</source>

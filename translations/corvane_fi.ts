@@ -594,7 +594,7 @@ Jatketaanko?</translation>
     </message>
     <message>
         <source>Server unavailable — retrying...</source>
-        <translation>Palvelin ei ole käytettävissä – yritetään uudelleen...</translation>
+        <translation>Palvelin ei vastaa – yritetään uudelleen...</translation>
     </message>
     <message>
         <source>Ready</source>

@@ -239,7 +239,7 @@
     </message>
     <message>
         <source>Server:</source>
-        <translation>Serveur :</translation>
+        <translation>Serveur&#xa0;:</translation>
     </message>
     <message>
         <source>Login</source>
@@ -251,7 +251,7 @@
     </message>
     <message>
         <source>Username:</source>
-        <translation>Nom d&apos;utilisateur :</translation>
+        <translation>Nom d&apos;utilisateur&#xa0;:</translation>
     </message>
     <message>
         <source>Username</source>
@@ -259,7 +259,7 @@
     </message>
     <message>
         <source>Password:</source>
-        <translation>Mot de passe :</translation>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>Password</source>
@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>Client Name:</source>
-        <translation>Nom de l&apos;appareil :</translation>
+        <translation>Nom de l&apos;appareil&#xa0;:</translation>
     </message>
     <message>
         <source>My PC</source>
@@ -306,15 +306,15 @@
     </message>
     <message>
         <source>Session ID:</source>
-        <translation>ID de session :</translation>
+        <translation>ID de session&#xa0;:</translation>
     </message>
     <message>
         <source>Remote ID:</source>
-        <translation>ID du partenaire :</translation>
+        <translation>ID du partenaire&#xa0;:</translation>
     </message>
     <message>
         <source>Role:</source>
-        <translation>Rôle :</translation>
+        <translation>Rôle&#xa0;:</translation>
     </message>
     <message>
         <source>Master (Viewer)</source>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>Transport:</source>
-        <translation>Transport :</translation>
+        <translation>Transport&#xa0;:</translation>
     </message>
     <message>
         <source>Connection Quality</source>
@@ -334,31 +334,31 @@
     </message>
     <message>
         <source>FPS:</source>
-        <translation>FPS :</translation>
+        <translation>FPS&#xa0;:</translation>
     </message>
     <message>
         <source>Latency:</source>
-        <translation>Latence :</translation>
+        <translation>Latence&#xa0;:</translation>
     </message>
     <message>
         <source>Bandwidth:</source>
-        <translation>Bande passante :</translation>
+        <translation>Débit&#xa0;:</translation>
     </message>
     <message>
         <source>Sent:</source>
-        <translation>Envoyé :</translation>
+        <translation>Envoyé&#xa0;:</translation>
     </message>
     <message>
         <source>Received:</source>
-        <translation>Reçu :</translation>
+        <translation>Reçu&#xa0;:</translation>
     </message>
     <message>
         <source>Dropped Frames:</source>
-        <translation>Images perdues :</translation>
+        <translation>Images perdues&#xa0;:</translation>
     </message>
     <message>
         <source>Uptime:</source>
-        <translation>Durée :</translation>
+        <translation>Durée&#xa0;:</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation>FPS : %1 | Latence : %2 ms | Débit : %3 | Durée : %4</translation>
+        <translation>FPS&#xa0;: %1 | Latence&#xa0;: %2 ms | Débit&#xa0;: %3 | Durée&#xa0;: %4</translation>
     </message>
 </context>
 <context>
@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 éléments</translation>
+        <translation>Éléments&#xa0;: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
@@ -462,10 +462,10 @@
 %1
 
 Continue?</source>
-        <translation>Ces fichiers existent déjà sur cet ordinateur et seront remplacés :
+        <translation>Ces fichiers existent déjà sur cet ordinateur et seront remplacés&#xa0;:
 %1
 
-Continuer ?</translation>
+Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
@@ -476,18 +476,18 @@ Continuer ?</translation>
 %1
 
 Continue?</source>
-        <translation>Ces fichiers existent déjà sur l&apos;ordinateur distant et seront remplacés :
+        <translation>Ces fichiers existent déjà sur l&apos;ordinateur distant et seront remplacés&#xa0;:
 %1
 
-Continuer ?</translation>
+Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Overwrite?</source>
-        <translation>Remplacer ?</translation>
+        <translation>Remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation>Erreur : %1</translation>
+        <translation>Erreur&#xa0;: %1</translation>
     </message>
     <message>
         <source>The session has ended.</source>
@@ -498,15 +498,15 @@ Continuer ?</translation>
     <name>corvane::FileTransferService</name>
     <message>
         <source>The request could not be sent: %1</source>
-        <translation>La demande n&apos;a pas pu être envoyée : %1</translation>
+        <translation>La demande n&apos;a pas pu être envoyée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Another upload is still running: %1</source>
-        <translation>Un autre envoi est encore en cours : %1</translation>
+        <translation>Un autre envoi est encore en cours&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cannot open local file: %1</source>
-        <translation>Impossible d&apos;ouvrir le fichier local : %1</translation>
+        <translation>Impossible d&apos;ouvrir le fichier local&#xa0;: %1</translation>
     </message>
     <message>
         <source>Remote file download failed</source>
@@ -514,15 +514,15 @@ Continuer ?</translation>
     </message>
     <message>
         <source>Cannot write to local file: %1</source>
-        <translation>Impossible d&apos;écrire le fichier local : %1</translation>
+        <translation>Impossible d&apos;écrire le fichier local&#xa0;: %1</translation>
     </message>
     <message>
         <source>The connection was lost while sending: %1</source>
-        <translation>La connexion a été interrompue pendant l&apos;envoi : %1</translation>
+        <translation>La connexion a été interrompue pendant l&apos;envoi&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cannot read local file: %1</source>
-        <translation>Impossible de lire le fichier local : %1</translation>
+        <translation>Impossible de lire le fichier local&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -552,7 +552,7 @@ Continuer ?</translation>
     <name>corvane::HttpFetch</name>
     <message>
         <source>Not an HTTP or HTTPS address: %1</source>
-        <translation>Adresse non HTTP ou HTTPS : %1</translation>
+        <translation>Adresse non HTTP ou HTTPS&#xa0;: %1</translation>
     </message>
     <message>
         <source>The server sends more than %1 bytes.</source>
@@ -568,7 +568,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>The server redirects to an address that is not safe to follow: %1</source>
-        <translation>Le serveur redirige vers une adresse non sécurisée : %1</translation>
+        <translation>Le serveur redirige vers une adresse non sécurisée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -602,7 +602,7 @@ Continuer ?</translation>
     </message>
     <message>
         <source>Ready. Your ID: %1</source>
-        <translation>Prêt. Votre ID : %1</translation>
+        <translation>Prêt. Votre ID&#xa0;: %1</translation>
     </message>
     <message>
         <source>Disconnected</source>
@@ -630,9 +630,9 @@ Purpose: %2
 
 Accept?</source>
         <translation>L&apos;appareil %1 souhaite se connecter.
-Motif : %2
+Motif&#xa0;: %2
 
-Accepter ?</translation>
+Accepter&#xa0;?</translation>
     </message>
     <message>
         <source>remote access</source>
@@ -724,7 +724,7 @@ Accepter ?</translation>
     </message>
     <message>
         <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nouveau mot de passe (min. 8 caractères, majuscule + minuscule + chiffre) :</translation>
+        <translation>Nouveau mot de passe (min. 8 caractères, majuscule + minuscule + chiffre)&#xa0;:</translation>
     </message>
     <message>
         <source>Invalid Password</source>
@@ -751,7 +751,7 @@ Accepter ?</translation>
     </message>
     <message>
         <source>Connection: Good</source>
-        <translation>Connexion : bonne</translation>
+        <translation>Connexion&#xa0;: bonne</translation>
     </message>
 </context>
 <context>
@@ -790,7 +790,7 @@ Accepter ?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation>&lt;b&gt;Distant : &lt;/b&gt;%1</translation>
+        <translation>&lt;b&gt;Distant&#xa0;: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
@@ -804,7 +804,7 @@ Accepter ?</translation>
     <name>corvane::SessionManager</name>
     <message>
         <source>Cannot initiate session: not idle</source>
-        <translation>Impossible de démarrer la session : une autre est en cours</translation>
+        <translation>Impossible de démarrer la session&#xa0;: une autre est en cours</translation>
     </message>
     <message>
         <source>Server returned invalid session data</source>
@@ -820,19 +820,19 @@ Accepter ?</translation>
     </message>
     <message>
         <source>Cannot accept session: not idle</source>
-        <translation>Impossible d&apos;accepter la session : une autre est en cours</translation>
+        <translation>Impossible d&apos;accepter la session&#xa0;: une autre est en cours</translation>
     </message>
     <message>
         <source>Transport failed: %1</source>
-        <translation>Échec du transport : %1</translation>
+        <translation>Échec du transport&#xa0;: %1</translation>
     </message>
     <message>
         <source>Crypto error: %1</source>
-        <translation>Erreur cryptographique : %1</translation>
+        <translation>Erreur cryptographique&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cipher error: %1</source>
-        <translation>Erreur de chiffrement : %1</translation>
+        <translation>Erreur de chiffrement&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -880,8 +880,8 @@ Accepter ?</translation>
     <message>
         <source>Quality: 24 fps, sharp image, higher bandwidth.
 Speed: 10 fps, lower bandwidth and CPU usage.</source>
-        <translation>Qualité : 24 FPS, image nette, plus de bande passante.
-Vitesse : 10 FPS, moins de bande passante et de charge processeur.</translation>
+        <translation>Qualité&#xa0;: 24 FPS, image nette, débit plus élevé.
+Vitesse&#xa0;: 10 FPS, débit et charge du processeur réduits.</translation>
     </message>
     <message>
         <source>Optimize Quality</source>
@@ -897,7 +897,7 @@ Vitesse : 10 FPS, moins de bande passante et de charge processeur.</translation
     </message>
     <message>
         <source>Monitor %1: %2 (%3x%4%5)</source>
-        <translation>Écran %1 : %2 (%3x%4%5)</translation>
+        <translation>Écran %1&#xa0;: %2 (%3x%4%5)</translation>
     </message>
     <message>
         <source>, Primary</source>
@@ -913,15 +913,15 @@ Vitesse : 10 FPS, moins de bande passante et de charge processeur.</translation
     </message>
     <message>
         <source>Language:</source>
-        <translation>Langue :</translation>
+        <translation>Langue&#xa0;:</translation>
     </message>
     <message>
         <source>Display mode:</source>
-        <translation>Mode d&apos;affichage :</translation>
+        <translation>Mode d&apos;affichage&#xa0;:</translation>
     </message>
     <message>
         <source>Capture monitor:</source>
-        <translation>Écran partagé :</translation>
+        <translation>Écran partagé&#xa0;:</translation>
     </message>
     <message>
         <source>Automatically attempt to re-establish the connection after an unexpected disconnect.</source>
@@ -937,7 +937,7 @@ Vitesse : 10 FPS, moins de bande passante et de charge processeur.</translation
     </message>
     <message>
         <source>Max reconnect attempts:</source>
-        <translation>Tentatives de reconnexion max. :</translation>
+        <translation>Tentatives de reconnexion max.&#xa0;:</translation>
     </message>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
@@ -1005,7 +1005,7 @@ même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;ad
     </message>
     <message>
         <source>Status: Disconnected</source>
-        <translation>État : déconnecté</translation>
+        <translation>État&#xa0;: déconnecté</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -1036,15 +1036,15 @@ même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;ad
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation>Envoi %1 sur %2 : %3</translation>
+        <translation>Envoi du fichier %1 sur %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
-        <translation>Téléchargé : %1 — encore %2</translation>
+        <translation>Téléchargé&#xa0;: %1 — encore %2</translation>
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation>Téléchargement %1 sur %2 : %3</translation>
+        <translation>Téléchargement du fichier %1 sur %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -1062,7 +1062,7 @@ même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;ad
     <name>corvane::UpdateBanner</name>
     <message>
         <source>Update available: v%1</source>
-        <translation>Mise à jour disponible : v%1</translation>
+        <translation>Mise à jour disponible&#xa0;: v%1</translation>
     </message>
     <message>
         <source>Downloading...</source>
@@ -1123,7 +1123,7 @@ même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;ad
     </message>
     <message>
         <source>Scale Mode  (Ctrl+Shift+Q)</source>
-        <translation>Mode d&apos;échelle  (Ctrl+Shift+Q)</translation>
+        <translation>Mise à l&apos;échelle  (Ctrl+Shift+Q)</translation>
     </message>
     <message>
         <source>Switch Monitor</source>
@@ -1170,7 +1170,7 @@ même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;ad
     </message>
     <message>
         <source>Enter MAC address for this partner (XX:XX:XX:XX:XX:XX):</source>
-        <translation>Saisissez l&apos;adresse MAC de ce partenaire (XX:XX:XX:XX:XX:XX) :</translation>
+        <translation>Saisissez l&apos;adresse MAC de ce partenaire (XX:XX:XX:XX:XX:XX)&#xa0;:</translation>
     </message>
     <message>
         <source>WoL</source>

@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Mé&amp;gis</translation>
+        <translation>I&amp;smét</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -942,7 +942,7 @@ Sebesség: 10 FPS, kisebb sávszélesség és processzorterhelés.</translation>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation>A CorvaneService.exe telepítése Windows-szolgáltatásként, amely rendszerindításkor fut,
+        <translation>A CorvaneService.exe telepítése Windows-szolgáltatásként, amely a rendszerindítástól fut,
 akkor is, ha nincs bejelentkezett felhasználó. Rendszergazdai jogosultság szükséges.</translation>
     </message>
     <message>
@@ -951,7 +951,7 @@ akkor is, ha nincs bejelentkezett felhasználó. Rendszergazdai jogosultság sz�
     </message>
     <message>
         <source>Keep the application running in the system tray when the window is closed.</source>
-        <translation>Az alkalmazás az értesítési területen fut tovább az ablak bezárásakor.</translation>
+        <translation>Az ablak bezárása után az alkalmazás az értesítési területen fut tovább.</translation>
     </message>
     <message>
         <source>Minimize to tray on close</source>

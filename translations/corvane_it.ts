@@ -197,14 +197,14 @@
     </message>
     <message>
         <source>Remote</source>
-        <translation>Remoto</translation>
+        <translation>Interlocutore</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectCard</name>
     <message>
         <source>CONNECT TO PARTNER</source>
-        <translation>CONNETTI A UN COMPUTER REMOTO</translation>
+        <translation>CONNESSIONE A UN COMPUTER REMOTO</translation>
     </message>
     <message>
         <source>Password</source>
@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 elementi</translation>
+        <translation>Elementi: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>

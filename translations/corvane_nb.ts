@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 elementer</translation>
+        <translation>Elementer: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
@@ -602,7 +602,7 @@ Vil du fortsette?</translation>
     </message>
     <message>
         <source>Ready. Your ID: %1</source>
-        <translation>Klar. Din ID: %1</translation>
+        <translation>Klar. ID-en din: %1</translation>
     </message>
     <message>
         <source>Disconnected</source>

@@ -656,7 +656,7 @@ Zaakceptować?</translation>
     </message>
     <message>
         <source>Establishing transport...</source>
-        <translation>Nawiązywanie transportu...</translation>
+        <translation>Zestawianie transportu...</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -790,7 +790,7 @@ Zaakceptować?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation>&lt;b&gt;Zdalnie: &lt;/b&gt;%1</translation>
+        <translation>&lt;b&gt;Folder zdalny: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
@@ -859,7 +859,7 @@ Zaakceptować?</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Ekran</translation>
+        <translation>Wyświetlanie</translation>
     </message>
     <message>
         <source>Network</source>
@@ -942,7 +942,7 @@ Szybkość: 10 FPS, mniejsze zużycie łącza i procesora.</translation>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation>Zainstaluj CorvaneService.exe jako usługę systemu Windows działającą od uruchomienia,
+        <translation>Zainstaluj CorvaneService.exe jako usługę systemu Windows działającą od startu komputera,
 nawet gdy żaden użytkownik nie jest zalogowany. Wymaga uprawnień administratora.</translation>
     </message>
     <message>

@@ -859,7 +859,7 @@ Prijať?</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Obraz</translation>
+        <translation>Zobrazenie</translation>
     </message>
     <message>
         <source>Network</source>
@@ -942,7 +942,7 @@ Rýchlosť: 10 FPS, menšia šírka pásma a zaťaženie procesora.</translation
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation>Nainštalovať CorvaneService.exe ako službu systému Windows, ktorá beží od spustenia,
+        <translation>Nainštalovať CorvaneService.exe ako službu systému Windows, ktorá beží od štartu počítača,
 aj keď nie je prihlásený žiadny používateľ. Vyžaduje oprávnenia správcu.</translation>
     </message>
     <message>
@@ -979,7 +979,7 @@ aj keď nie je prihlásený žiadny používateľ. Vyžaduje oprávnenia správc
     </message>
     <message>
         <source>Applying...</source>
-        <translation>Použitie zmien...</translation>
+        <translation>Vykonávajú sa zmeny...</translation>
     </message>
     <message>
         <source>Asking the system...</source>
@@ -1028,11 +1028,11 @@ aj keď nie je prihlásený žiadny používateľ. Vyžaduje oprávnenia správc
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation>Všetky sťahovania sú dokončené.</translation>
+        <translation>Všetky súbory boli stiahnuté.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation>Všetky nahrávania sú dokončené.</translation>
+        <translation>Všetky súbory boli nahrané.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>

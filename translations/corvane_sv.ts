@@ -790,7 +790,7 @@ Vill du godkänna?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation>&lt;b&gt;Fjärr: &lt;/b&gt;%1</translation>
+        <translation>&lt;b&gt;Fjärrdator: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
