@@ -5,1177 +5,1188 @@
     <name>PasswordPolicy</name>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort muss mindestens 8 Zeichen lang sein.</translation>
     </message>
     <message>
         <source>Password must contain at least one lowercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort muss mindestens einen Kleinbuchstaben enthalten.</translation>
     </message>
     <message>
         <source>Password must contain at least one uppercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort muss mindestens einen Großbuchstaben enthalten.</translation>
     </message>
     <message>
         <source>Password must contain at least one digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort muss mindestens eine Ziffer enthalten.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerk</translation>
     </message>
     <message>
         <source>%1 File</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-Datei</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungsdatum</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schließen</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nein</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
 </context>
 <context>
     <name>corvane::ApiClient</name>
     <message>
         <source>Auto-login failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatische Anmeldung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Auto-registration failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatische Registrierung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Session creation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung konnte nicht erstellt werden</translation>
     </message>
     <message>
         <source>Handshake ACK failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigung des Handshakes fehlgeschlagen</translation>
     </message>
     <message>
         <source>Session complete failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzungsaufbau konnte nicht abgeschlossen werden</translation>
     </message>
     <message>
         <source>Session close failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung konnte nicht beendet werden</translation>
     </message>
 </context>
 <context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachrichten</translation>
     </message>
     <message>
         <source>Type a message…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachricht eingeben…</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachricht</translation>
     </message>
     <message>
         <source>Send</source>
-        <translation type="unfinished"></translation>
+        <translation>Senden</translation>
     </message>
     <message>
         <source>Me</source>
-        <translation type="unfinished"></translation>
+        <translation>Ich</translation>
     </message>
     <message>
         <source>Remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectCard</name>
     <message>
         <source>CONNECT TO PARTNER</source>
-        <translation type="unfinished"></translation>
+        <translation>MIT PARTNER VERBINDEN</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Favoriten hinzufügen</translation>
     </message>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennen</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
     <message>
         <source>Corvane - Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Verbinden</translation>
     </message>
     <message>
         <source>Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Server:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrieren</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername:</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Password (min 8 chars)</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort (mind. 8 Zeichen)</translation>
     </message>
     <message>
         <source>Client Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerätename:</translation>
     </message>
     <message>
         <source>My PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Mein PC</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Please fill in all fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte füllen Sie alle Felder aus.</translation>
     </message>
     <message>
         <source>Please fill in username and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie Benutzername und Passwort ein.</translation>
     </message>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort muss mindestens 8 Zeichen lang sein.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionInfoDialog</name>
     <message>
         <source>Connection Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungsinformationen</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung</translation>
     </message>
     <message>
         <source>Session ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzungs-ID:</translation>
     </message>
     <message>
         <source>Remote ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID:</translation>
     </message>
     <message>
         <source>Role:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle:</translation>
     </message>
     <message>
         <source>Master (Viewer)</source>
-        <translation type="unfinished"></translation>
+        <translation>Master (Betrachter)</translation>
     </message>
     <message>
         <source>Target (Sharing)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel (Freigabe)</translation>
     </message>
     <message>
         <source>Transport:</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragungsweg:</translation>
     </message>
     <message>
         <source>Connection Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungsqualität</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS:</translation>
     </message>
     <message>
         <source>Latency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Latenz:</translation>
     </message>
     <message>
         <source>Bandwidth:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandbreite:</translation>
     </message>
     <message>
         <source>Sent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesendet:</translation>
     </message>
     <message>
         <source>Received:</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfangen:</translation>
     </message>
     <message>
         <source>Dropped Frames:</source>
-        <translation type="unfinished"></translation>
+        <translation>Verworfene Bilder:</translation>
     </message>
     <message>
         <source>Uptime:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer:</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 Kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kbps</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionQualityMonitor</name>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbps</translation>
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS: %1 | Latenz: %2 ms | Bandbr.: %3 | Dauer: %4</translation>
     </message>
 </context>
 <context>
     <name>corvane::DeviceCard</name>
     <message>
         <source>YOUR ID</source>
-        <translation type="unfinished"></translation>
+        <translation>IHRE ID</translation>
     </message>
     <message>
         <source>PASSWORD</source>
-        <translation type="unfinished"></translation>
+        <translation>PASSWORT</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden...</translation>
     </message>
     <message>
         <source>Copy ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID kopieren</translation>
     </message>
     <message>
         <source>Copy Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort kopieren</translation>
     </message>
     <message>
         <source>Change Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort ändern</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verbunden</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileManagerDialog</name>
     <message>
         <source>File Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateimanager</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Download selected remote file to local</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte Dateien vom entfernten auf den lokalen Computer herunterladen</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochladen</translation>
     </message>
     <message>
         <source>Upload selected local file to remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte lokale Dateien auf den entfernten Computer hochladen</translation>
     </message>
     <message>
         <source>Loading remote directory...</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernter Ordner wird geladen...</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>Elemente: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie entfernte Dateien zum Herunterladen aus.</translation>
     </message>
     <message>
         <source>No files selected (folders are skipped).</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Dateien ausgewählt (Ordner werden übersprungen).</translation>
     </message>
     <message>
         <source>These files already exist locally and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien sind lokal bereits vorhanden und werden überschrieben:
+%1
+
+Fortfahren?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie lokale Dateien zum Hochladen aus.</translation>
     </message>
     <message>
         <source>These files already exist on the remote and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien sind auf dem entfernten Computer bereits vorhanden und werden überschrieben:
+%1
+
+Fortfahren?</translation>
     </message>
     <message>
         <source>Overwrite?</source>
-        <translation type="unfinished"></translation>
+        <translation>Überschreiben?</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: %1</translation>
     </message>
     <message>
         <source>The session has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sitzung wurde beendet.</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileTransferService</name>
     <message>
         <source>The request could not be sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anfrage konnte nicht gesendet werden: %1</translation>
     </message>
     <message>
         <source>Another upload is still running: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Upload läuft noch: %1</translation>
     </message>
     <message>
         <source>Cannot open local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Datei kann nicht geöffnet werden: %1</translation>
     </message>
     <message>
         <source>Remote file download failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen der entfernten Datei fehlgeschlagen</translation>
     </message>
     <message>
         <source>Cannot write to local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Datei kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>The connection was lost while sending: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung wurde während des Sendens unterbrochen: %1</translation>
     </message>
     <message>
         <source>Cannot read local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Datei kann nicht gelesen werden: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::HomePage</name>
     <message>
         <source>PAIRING CODE</source>
-        <translation type="unfinished"></translation>
+        <translation>KOPPLUNGSCODE</translation>
     </message>
     <message>
         <source>Admin Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwaltung</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Copy Pairing Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopplungscode kopieren</translation>
     </message>
     <message>
         <source>Add this device at </source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Gerät hinzufügen unter </translation>
     </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>
     <message>
         <source>Not an HTTP or HTTPS address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine HTTP- oder HTTPS-Adresse: %1</translation>
     </message>
     <message>
         <source>The server sends more than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server sendet mehr als %1 Bytes.</translation>
     </message>
     <message>
         <source>The server has nothing to download there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server stellt dort nichts zum Herunterladen bereit.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server leitet zu oft weiter.</translation>
     </message>
     <message>
         <source>The server redirects to an address that is not safe to follow: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server leitet auf eine unsichere Adresse weiter: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::LocalFilePane</name>
     <message>
         <source>&lt;b&gt;Local Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Lokaler Computer&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Local files</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Dateien</translation>
     </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Please enter a partner Client ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie eine Partner-ID ein.</translation>
     </message>
     <message>
         <source>Server unavailable — retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Server nicht erreichbar – neuer Versuch...</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Ready. Your ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit. Ihre ID: %1</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Getrennt</translation>
     </message>
     <message>
         <source>Online (Ready)</source>
-        <translation type="unfinished"></translation>
+        <translation>Online (bereit)</translation>
     </message>
     <message>
         <source>Reconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird wiederhergestellt...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Partner-ID muss aus genau 9 Ziffern bestehen.</translation>
     </message>
     <message>
         <source>Please enter the partner&apos;s password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie das Passwort des Partners ein.</translation>
     </message>
     <message>
         <source>Client %1 wants to connect.
 Purpose: %2
 
 Accept?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät %1 möchte eine Verbindung herstellen.
+Zweck: %2
+
+Annehmen?</translation>
     </message>
     <message>
         <source>remote access</source>
-        <translation type="unfinished"></translation>
+        <translation>Fernzugriff</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingehende Verbindung</translation>
     </message>
     <message>
         <source>Incoming connection from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingehende Verbindung von %1</translation>
     </message>
     <message>
         <source>Initiating session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung wird gestartet...</translation>
     </message>
     <message>
         <source>Exchanging keys...</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel werden ausgetauscht...</translation>
     </message>
     <message>
         <source>Establishing transport...</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragungsweg wird aufgebaut...</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden</translation>
     </message>
     <message>
         <source>Disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird getrennt...</translation>
     </message>
     <message>
         <source>Session failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Session failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sitzung ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>Session Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzungsfehler</translation>
     </message>
     <message>
         <source>Corvane - %1 [%2 FPS]</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - %1 [%2 FPS]</translation>
     </message>
     <message>
         <source>Failed to connect. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung fehlgeschlagen. Bitte versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The partner is not available or offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Partner ist nicht verfügbar oder offline.</translation>
     </message>
     <message>
         <source>Invalid session password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Sitzungspasswort.</translation>
     </message>
     <message>
         <source>Connection Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungsfehler</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Update</translation>
     </message>
     <message>
         <source>The installer could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Installationsprogramm konnte nicht gestartet werden.</translation>
     </message>
     <message>
         <source>Application minimized to system tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anwendung läuft im Infobereich weiter.</translation>
     </message>
     <message>
         <source>Remote session active — sharing your screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fernsitzung aktiv – Ihr Bildschirm wird freigegeben.</translation>
     </message>
     <message>
         <source>Corvane - Connected to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Verbunden mit %1</translation>
     </message>
     <message>
         <source>Change Session Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzungspasswort ändern</translation>
     </message>
     <message>
         <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Passwort (mind. 8 Zeichen, Groß- und Kleinbuchstaben sowie Ziffern):</translation>
     </message>
     <message>
         <source>Invalid Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Passwort</translation>
     </message>
 </context>
 <context>
     <name>corvane::QualityIndicator</name>
     <message>
         <source>Poor</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlecht</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Gut</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>%1 (%2 FPS, %3ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 FPS, %3 ms)</translation>
     </message>
     <message>
         <source>Connection: Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung: Gut</translation>
     </message>
 </context>
 <context>
     <name>corvane::RemoteFilePane</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Go up one directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Ordner nach oben</translation>
     </message>
     <message>
         <source>Remote files</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernte Dateien</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Entfernter Computer&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Entfernt: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionDataPlane</name>
     <message>
         <source>Failed to start screen capture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildschirmübertragung konnte nicht gestartet werden.</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionManager</name>
     <message>
         <source>Cannot initiate session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung kann nicht gestartet werden: Es läuft bereits eine andere</translation>
     </message>
     <message>
         <source>Server returned invalid session data</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat ungültige Sitzungsdaten gesendet</translation>
     </message>
     <message>
         <source>Missing target ECDH public key</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffentlicher ECDH-Schlüssel des Ziels fehlt</translation>
     </message>
     <message>
         <source>ECDH key derivation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>ECDH-Schlüsselableitung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Cannot accept session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung kann nicht angenommen werden: Es läuft bereits eine andere</translation>
     </message>
     <message>
         <source>Transport failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragung fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>Crypto error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kryptografiefehler: %1</translation>
     </message>
     <message>
         <source>Cipher error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschlüsselungsfehler: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SettingsDialog</name>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei der Anmeldung starten</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane automatisch starten, wenn Sie sich anmelden.</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Windows starten</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in to Windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane automatisch starten, wenn Sie sich bei Windows anmelden.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweitert</translation>
     </message>
     <message>
         <source>Application language. Requires restart to take effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache der Anwendung. Wird erst nach einem Neustart wirksam.</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemstandard</translation>
     </message>
     <message>
         <source>Quality: 24 fps, sharp image, higher bandwidth.
 Speed: 10 fps, lower bandwidth and CPU usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität: 24 FPS, scharfes Bild, höhere Bandbreite.
+Geschwindigkeit: 10 FPS, geringere Bandbreite und CPU-Last.</translation>
     </message>
     <message>
         <source>Optimize Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität optimieren</translation>
     </message>
     <message>
         <source>Optimize Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit optimieren</translation>
     </message>
     <message>
         <source>Select which monitor to share when someone connects to this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie den Monitor, der freigegeben wird, wenn sich jemand mit diesem Gerät verbindet.</translation>
     </message>
     <message>
         <source>Monitor %1: %2 (%3x%4%5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor %1: %2 (%3x%4%5)</translation>
     </message>
     <message>
         <source>, Primary</source>
-        <translation type="unfinished"></translation>
+        <translation>, primär</translation>
     </message>
     <message>
         <source>Synchronise clipboard content between the local and remote machines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt der Zwischenablage zwischen dem lokalen und dem entfernten Computer synchronisieren.</translation>
     </message>
     <message>
         <source>Enable clipboard sharing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablage gemeinsam nutzen</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache:</translation>
     </message>
     <message>
         <source>Display mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigemodus:</translation>
     </message>
     <message>
         <source>Capture monitor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigegebener Monitor:</translation>
     </message>
     <message>
         <source>Automatically attempt to re-establish the connection after an unexpected disconnect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einer unerwarteten Trennung automatisch versuchen, die Verbindung wiederherzustellen.</translation>
     </message>
     <message>
         <source>Auto-reconnect on disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Trennung automatisch neu verbinden</translation>
     </message>
     <message>
         <source>Maximum number of consecutive reconnection attempts before giving up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstzahl aufeinanderfolgender Verbindungsversuche, bevor aufgegeben wird.</translation>
     </message>
     <message>
         <source>Max reconnect attempts:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Verbindungsversuche:</translation>
     </message>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation type="unfinished"></translation>
+        <translation>CorvaneService.exe als Windows-Dienst installieren, der ab dem Systemstart läuft,
+auch wenn kein Benutzer angemeldet ist. Erfordert Administratorrechte.</translation>
     </message>
     <message>
         <source>Run as Windows Service (unattended)</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Windows-Dienst ausführen (unbeaufsichtigt)</translation>
     </message>
     <message>
         <source>Keep the application running in the system tray when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwendung im Infobereich weiterlaufen lassen, wenn das Fenster geschlossen wird.</translation>
     </message>
     <message>
         <source>Minimize to tray on close</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Schließen in den Infobereich minimieren</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>Language Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache geändert</translation>
     </message>
     <message>
         <source>Please restart the application to apply the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte starten Sie die Anwendung neu, um die neue Sprache zu übernehmen.</translation>
     </message>
     <message>
         <source>Applying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird übernommen...</translation>
     </message>
     <message>
         <source>Asking the system...</source>
-        <translation type="unfinished"></translation>
+        <translation>System wird abgefragt...</translation>
     </message>
 </context>
 <context>
     <name>corvane::SignalingClient</name>
     <message>
         <source>Authentication rejected by server</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung vom Server abgelehnt</translation>
     </message>
 </context>
 <context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Fernzugriff</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Status: Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Status: Getrennt</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennen</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingehende Verbindung</translation>
     </message>
     <message>
         <source>Client %1 is requesting a remote connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät %1 fordert eine Fernverbindung an.</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Downloads abgeschlossen.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Uploads abgeschlossen.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1 von %2 wird hochgeladen: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Heruntergeladen: %1 – noch %2</translation>
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1 von %2 wird heruntergeladen: %3</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferStatus</name>
     <message>
         <source>Transfer progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragungsfortschritt</translation>
     </message>
     <message>
         <source>%p% — %1/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%p% – %1/s, noch %2</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateBanner</name>
     <message>
         <source>Update available: v%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Update verfügbar: v%1</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen...</translation>
     </message>
     <message>
         <source>Update Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt aktualisieren</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateService</name>
     <message>
         <source>Cannot write to temp directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporärer Ordner ist nicht beschreibbar.</translation>
     </message>
     <message>
         <source>Downloaded file is too small — update aborted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die heruntergeladene Datei ist zu klein – Update abgebrochen.</translation>
     </message>
     <message>
         <source>Failed to extract installer from zip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Installationsprogramm konnte nicht aus dem ZIP-Archiv entpackt werden.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ValueFormats</name>
     <message>
         <source>%1 B</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 GB</translation>
     </message>
 </context>
 <context>
     <name>corvane::ViewerToolBar</name>
     <message>
         <source>Info  (Ctrl+Shift+I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Info  (Ctrl+Shift+I)</translation>
     </message>
     <message>
         <source>Files  (Ctrl+Shift+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien  (Ctrl+Shift+F)</translation>
     </message>
     <message>
         <source>Chat  (Ctrl+Shift+C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat  (Ctrl+Shift+C)</translation>
     </message>
     <message>
         <source>Scale Mode  (Ctrl+Shift+Q)</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalierung  (Ctrl+Shift+Q)</translation>
     </message>
     <message>
         <source>Switch Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor wechseln</translation>
     </message>
     <message>
         <source>Fullscreen  (F11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild  (F11)</translation>
     </message>
     <message>
         <source>Disconnect  (Ctrl+Shift+D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennen  (Ctrl+Shift+D)</translation>
     </message>
     <message>
         <source>Chat (!)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat (!)</translation>
     </message>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat</translation>
     </message>
     <message>
         <source>Fit to Window</source>
-        <translation type="unfinished"></translation>
+        <translation>An Fenster anpassen</translation>
     </message>
     <message>
         <source>Stretch to Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Fenster strecken</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalgröße</translation>
     </message>
     <message>
         <source>Monitor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::WakeOnLanAction</name>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Enter MAC address for this partner (XX:XX:XX:XX:XX:XX):</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC-Adresse dieses Partners eingeben (XX:XX:XX:XX:XX:XX):</translation>
     </message>
     <message>
         <source>WoL</source>
-        <translation type="unfinished"></translation>
+        <translation>WoL</translation>
     </message>
     <message>
         <source>Invalid MAC address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige MAC-Adresse.</translation>
     </message>
     <message>
         <source>The Wake-on-LAN packet could not be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Wake-on-LAN-Paket konnte nicht gesendet werden.</translation>
     </message>
     <message>
         <source>Wake-on-LAN packet sent to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN-Paket an %1 gesendet</translation>
     </message>
 </context>
 </TS>

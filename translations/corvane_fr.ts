@@ -5,1177 +5,1188 @@
     <name>PasswordPolicy</name>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe doit comporter au moins 8 caractères.</translation>
     </message>
     <message>
         <source>Password must contain at least one lowercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe doit contenir au moins une lettre minuscule.</translation>
     </message>
     <message>
         <source>Password must contain at least one uppercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe doit contenir au moins une lettre majuscule.</translation>
     </message>
     <message>
         <source>Password must contain at least one digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe doit contenir au moins un chiffre.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecteur</translation>
     </message>
     <message>
         <source>%1 File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de modification</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>16 &amp;AnnulerAnnuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oui</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Non</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
     <name>corvane::ApiClient</name>
     <message>
         <source>Auto-login failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l&apos;authentification automatique</translation>
     </message>
     <message>
         <source>Auto-registration failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l&apos;inscription automatique</translation>
     </message>
     <message>
         <source>Session creation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la création de la session</translation>
     </message>
     <message>
         <source>Handshake ACK failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la confirmation de la négociation</translation>
     </message>
     <message>
         <source>Session complete failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l&apos;établissement de la session</translation>
     </message>
     <message>
         <source>Session close failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la fermeture de la session</translation>
     </message>
 </context>
 <context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages</translation>
     </message>
     <message>
         <source>Type a message…</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un message…</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Message</translation>
     </message>
     <message>
         <source>Send</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer</translation>
     </message>
     <message>
         <source>Me</source>
-        <translation type="unfinished"></translation>
+        <translation>Moi</translation>
     </message>
     <message>
         <source>Remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Partenaire</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectCard</name>
     <message>
         <source>CONNECT TO PARTNER</source>
-        <translation type="unfinished"></translation>
+        <translation>SE CONNECTER À UN PARTENAIRE</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation type="unfinished"></translation>
+        <translation>ID du partenaire  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter aux favoris</translation>
     </message>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Se connecter</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecter</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
     <message>
         <source>Corvane - Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Connexion</translation>
     </message>
     <message>
         <source>Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur&#xa0;:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscription</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d&apos;utilisateur&#xa0;:</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d&apos;utilisateur</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>Password (min 8 chars)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe (min. 8 caractères)</translation>
     </message>
     <message>
         <source>Client Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de l&apos;appareil&#xa0;:</translation>
     </message>
     <message>
         <source>My PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Mon PC</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Please fill in all fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez remplir tous les champs.</translation>
     </message>
     <message>
         <source>Please fill in username and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir le nom d&apos;utilisateur et le mot de passe.</translation>
     </message>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe doit comporter au moins 8 caractères.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionInfoDialog</name>
     <message>
         <source>Connection Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Informations de connexion</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Session</translation>
     </message>
     <message>
         <source>Session ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>ID de session&#xa0;:</translation>
     </message>
     <message>
         <source>Remote ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>ID du partenaire&#xa0;:</translation>
     </message>
     <message>
         <source>Role:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rôle&#xa0;:</translation>
     </message>
     <message>
         <source>Master (Viewer)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maître (visualisation)</translation>
     </message>
     <message>
         <source>Target (Sharing)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cible (partage)</translation>
     </message>
     <message>
         <source>Transport:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transport&#xa0;:</translation>
     </message>
     <message>
         <source>Connection Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité de la connexion</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS&#xa0;:</translation>
     </message>
     <message>
         <source>Latency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Latence&#xa0;:</translation>
     </message>
     <message>
         <source>Bandwidth:</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit&#xa0;:</translation>
     </message>
     <message>
         <source>Sent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyé&#xa0;:</translation>
     </message>
     <message>
         <source>Received:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reçu&#xa0;:</translation>
     </message>
     <message>
         <source>Dropped Frames:</source>
-        <translation type="unfinished"></translation>
+        <translation>Images perdues&#xa0;:</translation>
     </message>
     <message>
         <source>Uptime:</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée&#xa0;:</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 Kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kbps</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionQualityMonitor</name>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbps</translation>
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS&#xa0;: %1 | Latence&#xa0;: %2 ms | Débit&#xa0;: %3 | Durée&#xa0;: %4</translation>
     </message>
 </context>
 <context>
     <name>corvane::DeviceCard</name>
     <message>
         <source>YOUR ID</source>
-        <translation type="unfinished"></translation>
+        <translation>VOTRE ID</translation>
     </message>
     <message>
         <source>PASSWORD</source>
-        <translation type="unfinished"></translation>
+        <translation>MOT DE PASSE</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion...</translation>
     </message>
     <message>
         <source>Copy ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier l&apos;ID</translation>
     </message>
     <message>
         <source>Copy Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le mot de passe</translation>
     </message>
     <message>
         <source>Change Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le mot de passe</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Non connecté</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileManagerDialog</name>
     <message>
         <source>File Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger</translation>
     </message>
     <message>
         <source>Download selected remote file to local</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger les fichiers distants sélectionnés sur cet ordinateur</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer</translation>
     </message>
     <message>
         <source>Upload selected local file to remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer les fichiers locaux sélectionnés vers l&apos;ordinateur distant</translation>
     </message>
     <message>
         <source>Loading remote directory...</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement du dossier distant...</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments&#xa0;: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un ou plusieurs fichiers distants à télécharger.</translation>
     </message>
     <message>
         <source>No files selected (folders are skipped).</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier sélectionné (les dossiers sont ignorés).</translation>
     </message>
     <message>
         <source>These files already exist locally and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces fichiers existent déjà sur cet ordinateur et seront remplacés&#xa0;:
+%1
+
+Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un ou plusieurs fichiers locaux à envoyer.</translation>
     </message>
     <message>
         <source>These files already exist on the remote and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces fichiers existent déjà sur l&apos;ordinateur distant et seront remplacés&#xa0;:
+%1
+
+Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Overwrite?</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur&#xa0;: %1</translation>
     </message>
     <message>
         <source>The session has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>La session est terminée.</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileTransferService</name>
     <message>
         <source>The request could not be sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La demande n&apos;a pas pu être envoyée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Another upload is still running: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre envoi est encore en cours&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cannot open local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;ouvrir le fichier local&#xa0;: %1</translation>
     </message>
     <message>
         <source>Remote file download failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec du téléchargement du fichier distant</translation>
     </message>
     <message>
         <source>Cannot write to local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire le fichier local&#xa0;: %1</translation>
     </message>
     <message>
         <source>The connection was lost while sending: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion a été interrompue pendant l&apos;envoi&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cannot read local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier local&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::HomePage</name>
     <message>
         <source>PAIRING CODE</source>
-        <translation type="unfinished"></translation>
+        <translation>CODE D&apos;APPAIRAGE</translation>
     </message>
     <message>
         <source>Admin Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Administration</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Copy Pairing Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le code d&apos;appairage</translation>
     </message>
     <message>
         <source>Add this device at </source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez cet appareil sur </translation>
     </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>
     <message>
         <source>Not an HTTP or HTTPS address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse non HTTP ou HTTPS&#xa0;: %1</translation>
     </message>
     <message>
         <source>The server sends more than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur envoie plus de %1 octets.</translation>
     </message>
     <message>
         <source>The server has nothing to download there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur n&apos;a rien à télécharger à cette adresse.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur effectue trop de redirections.</translation>
     </message>
     <message>
         <source>The server redirects to an address that is not safe to follow: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur redirige vers une adresse non sécurisée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::LocalFilePane</name>
     <message>
         <source>&lt;b&gt;Local Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Ordinateur local&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Local files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers locaux</translation>
     </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Please enter a partner Client ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir l&apos;ID d&apos;un partenaire.</translation>
     </message>
     <message>
         <source>Server unavailable — retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur indisponible — nouvelle tentative...</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>Ready. Your ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt. Votre ID&#xa0;: %1</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecté</translation>
     </message>
     <message>
         <source>Online (Ready)</source>
-        <translation type="unfinished"></translation>
+        <translation>En ligne (prêt)</translation>
     </message>
     <message>
         <source>Reconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Reconnexion...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ID du partenaire doit comporter exactement 9 chiffres.</translation>
     </message>
     <message>
         <source>Please enter the partner&apos;s password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir le mot de passe du partenaire.</translation>
     </message>
     <message>
         <source>Client %1 wants to connect.
 Purpose: %2
 
 Accept?</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;appareil %1 souhaite se connecter.
+Motif&#xa0;: %2
+
+Accepter&#xa0;?</translation>
     </message>
     <message>
         <source>remote access</source>
-        <translation type="unfinished"></translation>
+        <translation>accès à distance</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion entrante</translation>
     </message>
     <message>
         <source>Incoming connection from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion entrante de %1</translation>
     </message>
     <message>
         <source>Initiating session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage de la session...</translation>
     </message>
     <message>
         <source>Exchanging keys...</source>
-        <translation type="unfinished"></translation>
+        <translation>Échange des clés...</translation>
     </message>
     <message>
         <source>Establishing transport...</source>
-        <translation type="unfinished"></translation>
+        <translation>Établissement du transport...</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté</translation>
     </message>
     <message>
         <source>Disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnexion...</translation>
     </message>
     <message>
         <source>Session failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la session</translation>
     </message>
     <message>
         <source>Session failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La session a échoué.</translation>
     </message>
     <message>
         <source>Session Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de session</translation>
     </message>
     <message>
         <source>Corvane - %1 [%2 FPS]</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - %1 [%2 FPS]</translation>
     </message>
     <message>
         <source>Failed to connect. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la connexion. Veuillez réessayer.</translation>
     </message>
     <message>
         <source>The partner is not available or offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le partenaire n&apos;est pas disponible ou est hors ligne.</translation>
     </message>
     <message>
         <source>Invalid session password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe de session incorrect.</translation>
     </message>
     <message>
         <source>Connection Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de connexion</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour</translation>
     </message>
     <message>
         <source>The installer could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lancer le programme d&apos;installation.</translation>
     </message>
     <message>
         <source>Application minimized to system tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;application a été réduite dans la zone de notification.</translation>
     </message>
     <message>
         <source>Remote session active — sharing your screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Session à distance active — votre écran est partagé.</translation>
     </message>
     <message>
         <source>Corvane - Connected to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Connecté à %1</translation>
     </message>
     <message>
         <source>Change Session Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le mot de passe de session</translation>
     </message>
     <message>
         <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau mot de passe (min. 8 caractères, majuscule + minuscule + chiffre)&#xa0;:</translation>
     </message>
     <message>
         <source>Invalid Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe non valide</translation>
     </message>
 </context>
 <context>
     <name>corvane::QualityIndicator</name>
     <message>
         <source>Poor</source>
-        <translation type="unfinished"></translation>
+        <translation>Mauvaise</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonne</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>%1 (%2 FPS, %3ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 FPS, %3 ms)</translation>
     </message>
     <message>
         <source>Connection: Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion&#xa0;: bonne</translation>
     </message>
 </context>
 <context>
     <name>corvane::RemoteFilePane</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Go up one directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier parent</translation>
     </message>
     <message>
         <source>Remote files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers distants</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Ordinateur distant&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Distant&#xa0;: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionDataPlane</name>
     <message>
         <source>Failed to start screen capture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de démarrer la capture d&apos;écran.</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionManager</name>
     <message>
         <source>Cannot initiate session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de démarrer la session&#xa0;: une autre est en cours</translation>
     </message>
     <message>
         <source>Server returned invalid session data</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a renvoyé des données de session non valides</translation>
     </message>
     <message>
         <source>Missing target ECDH public key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé publique ECDH de la cible manquante</translation>
     </message>
     <message>
         <source>ECDH key derivation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la dérivation de la clé ECDH</translation>
     </message>
     <message>
         <source>Cannot accept session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;accepter la session&#xa0;: une autre est en cours</translation>
     </message>
     <message>
         <source>Transport failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec du transport&#xa0;: %1</translation>
     </message>
     <message>
         <source>Crypto error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur cryptographique&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cipher error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de chiffrement&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SettingsDialog</name>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer à l&apos;ouverture de session</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer automatiquement Corvane lorsque vous ouvrez une session.</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer avec Windows</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in to Windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer automatiquement Corvane lorsque vous ouvrez une session Windows.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancé</translation>
     </message>
     <message>
         <source>Application language. Requires restart to take effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue de l&apos;application. Prise en compte après un redémarrage.</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du système</translation>
     </message>
     <message>
         <source>Quality: 24 fps, sharp image, higher bandwidth.
 Speed: 10 fps, lower bandwidth and CPU usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité&#xa0;: 24 FPS, image nette, débit plus élevé.
+Vitesse&#xa0;: 10 FPS, débit et charge du processeur réduits.</translation>
     </message>
     <message>
         <source>Optimize Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiser la qualité</translation>
     </message>
     <message>
         <source>Optimize Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiser la vitesse</translation>
     </message>
     <message>
         <source>Select which monitor to share when someone connects to this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez l&apos;écran à partager lorsque quelqu&apos;un se connecte à cet appareil.</translation>
     </message>
     <message>
         <source>Monitor %1: %2 (%3x%4%5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Écran %1&#xa0;: %2 (%3x%4%5)</translation>
     </message>
     <message>
         <source>, Primary</source>
-        <translation type="unfinished"></translation>
+        <translation>, principal</translation>
     </message>
     <message>
         <source>Synchronise clipboard content between the local and remote machines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchroniser le contenu du presse-papiers entre l&apos;ordinateur local et l&apos;ordinateur distant.</translation>
     </message>
     <message>
         <source>Enable clipboard sharing</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer le partage du presse-papiers</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue&#xa0;:</translation>
     </message>
     <message>
         <source>Display mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode d&apos;affichage&#xa0;:</translation>
     </message>
     <message>
         <source>Capture monitor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Écran partagé&#xa0;:</translation>
     </message>
     <message>
         <source>Automatically attempt to re-establish the connection after an unexpected disconnect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tenter automatiquement de rétablir la connexion après une déconnexion inattendue.</translation>
     </message>
     <message>
         <source>Auto-reconnect on disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Reconnexion automatique en cas de coupure</translation>
     </message>
     <message>
         <source>Maximum number of consecutive reconnection attempts before giving up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre maximal de tentatives de reconnexion consécutives avant l&apos;abandon.</translation>
     </message>
     <message>
         <source>Max reconnect attempts:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tentatives de reconnexion max.&#xa0;:</translation>
     </message>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer CorvaneService.exe comme service Windows lancé au démarrage,
+même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;administrateur.</translation>
     </message>
     <message>
         <source>Run as Windows Service (unattended)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter comme service Windows (sans surveillance)</translation>
     </message>
     <message>
         <source>Keep the application running in the system tray when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser l&apos;application active dans la zone de notification lorsque la fenêtre est fermée.</translation>
     </message>
     <message>
         <source>Minimize to tray on close</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire dans la zone de notification à la fermeture</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>Language Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue modifiée</translation>
     </message>
     <message>
         <source>Please restart the application to apply the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez redémarrer l&apos;application pour appliquer la nouvelle langue.</translation>
     </message>
     <message>
         <source>Applying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Application en cours...</translation>
     </message>
     <message>
         <source>Asking the system...</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrogation du système...</translation>
     </message>
 </context>
 <context>
     <name>corvane::SignalingClient</name>
     <message>
         <source>Authentication rejected by server</source>
-        <translation type="unfinished"></translation>
+        <translation>Authentification refusée par le serveur</translation>
     </message>
 </context>
 <context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Accès à distance</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Status: Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>État&#xa0;: déconnecté</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecter</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion entrante</translation>
     </message>
     <message>
         <source>Client %1 is requesting a remote connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;appareil %1 demande une connexion à distance.</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les téléchargements sont terminés.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les envois sont terminés.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi du fichier %1 sur %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargé&#xa0;: %1 — encore %2</translation>
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement du fichier %1 sur %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferStatus</name>
     <message>
         <source>Transfer progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression du transfert</translation>
     </message>
     <message>
         <source>%p% — %1/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%p% — %1/s, encore %2</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateBanner</name>
     <message>
         <source>Update available: v%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour disponible&#xa0;: v%1</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement...</translation>
     </message>
     <message>
         <source>Update Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à jour</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateService</name>
     <message>
         <source>Cannot write to temp directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire dans le dossier temporaire.</translation>
     </message>
     <message>
         <source>Downloaded file is too small — update aborted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier téléchargé est trop petit — mise à jour annulée.</translation>
     </message>
     <message>
         <source>Failed to extract installer from zip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;extraire le programme d&apos;installation de l&apos;archive ZIP.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ValueFormats</name>
     <message>
         <source>%1 B</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 o</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Ko</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mo</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Go</translation>
     </message>
 </context>
 <context>
     <name>corvane::ViewerToolBar</name>
     <message>
         <source>Info  (Ctrl+Shift+I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Infos  (Ctrl+Shift+I)</translation>
     </message>
     <message>
         <source>Files  (Ctrl+Shift+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers  (Ctrl+Shift+F)</translation>
     </message>
     <message>
         <source>Chat  (Ctrl+Shift+C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat  (Ctrl+Shift+C)</translation>
     </message>
     <message>
         <source>Scale Mode  (Ctrl+Shift+Q)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à l&apos;échelle  (Ctrl+Shift+Q)</translation>
     </message>
     <message>
         <source>Switch Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer d&apos;écran</translation>
     </message>
     <message>
         <source>Fullscreen  (F11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran  (F11)</translation>
     </message>
     <message>
         <source>Disconnect  (Ctrl+Shift+D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecter  (Ctrl+Shift+D)</translation>
     </message>
     <message>
         <source>Chat (!)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat (!)</translation>
     </message>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat</translation>
     </message>
     <message>
         <source>Fit to Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Adapter à la fenêtre</translation>
     </message>
     <message>
         <source>Stretch to Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Étirer pour remplir</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille d&apos;origine</translation>
     </message>
     <message>
         <source>Monitor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écran %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::WakeOnLanAction</name>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Enter MAC address for this partner (XX:XX:XX:XX:XX:XX):</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez l&apos;adresse MAC de ce partenaire (XX:XX:XX:XX:XX:XX)&#xa0;:</translation>
     </message>
     <message>
         <source>WoL</source>
-        <translation type="unfinished"></translation>
+        <translation>WoL</translation>
     </message>
     <message>
         <source>Invalid MAC address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse MAC non valide.</translation>
     </message>
     <message>
         <source>The Wake-on-LAN packet could not be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet Wake-on-LAN n&apos;a pas pu être envoyé.</translation>
     </message>
     <message>
         <source>Wake-on-LAN packet sent to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquet Wake-on-LAN envoyé à %1</translation>
     </message>
 </context>
 </TS>

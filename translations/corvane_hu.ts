@@ -5,1177 +5,1188 @@
     <name>PasswordPolicy</name>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>A jelszónak legalább 8 karakterből kell állnia.</translation>
     </message>
     <message>
         <source>Password must contain at least one lowercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>A jelszónak legalább egy kisbetűt tartalmaznia kell.</translation>
     </message>
     <message>
         <source>Password must contain at least one uppercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>A jelszónak legalább egy nagybetűt tartalmaznia kell.</translation>
     </message>
     <message>
         <source>Password must contain at least one digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>A jelszónak legalább egy számjegyet tartalmaznia kell.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappa</translation>
     </message>
     <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Meghajtó</translation>
     </message>
     <message>
         <source>%1 File</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fájl</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájl</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Név</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Méret</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Típus</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Módosítás dátuma</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mégse</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bezárás</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visszavonás</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;smét</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kivágás</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Másolás</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beillesztés</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Törlés</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Összes kijelölése</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mégse</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezárás</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Alkalmaz</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Igen</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nem</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Másolás</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Összes kijelölése</translation>
     </message>
 </context>
 <context>
     <name>corvane::ApiClient</name>
     <message>
         <source>Auto-login failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Az automatikus bejelentkezés sikertelen</translation>
     </message>
     <message>
         <source>Auto-registration failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Az automatikus regisztráció sikertelen</translation>
     </message>
     <message>
         <source>Session creation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet létrehozása sikertelen</translation>
     </message>
     <message>
         <source>Handshake ACK failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A kézfogás megerősítése sikertelen</translation>
     </message>
     <message>
         <source>Session complete failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet felépítése sikertelen</translation>
     </message>
     <message>
         <source>Session close failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet lezárása sikertelen</translation>
     </message>
 </context>
 <context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Csevegés</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Üzenetek</translation>
     </message>
     <message>
         <source>Type a message…</source>
-        <translation type="unfinished"></translation>
+        <translation>Írjon üzenetet…</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Üzenet</translation>
     </message>
     <message>
         <source>Send</source>
-        <translation type="unfinished"></translation>
+        <translation>Küldés</translation>
     </message>
     <message>
         <source>Me</source>
-        <translation type="unfinished"></translation>
+        <translation>Én</translation>
     </message>
     <message>
         <source>Remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectCard</name>
     <message>
         <source>CONNECT TO PARTNER</source>
-        <translation type="unfinished"></translation>
+        <translation>CSATLAKOZÁS PARTNERHEZ</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelszó</translation>
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Partnerazonosító  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Hozzáadás a kedvencekhez</translation>
     </message>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Csatlakozás</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Bontás</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
     <message>
         <source>Corvane - Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Csatlakozás</translation>
     </message>
     <message>
         <source>Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiszolgáló:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Bejelentkezés</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Regisztráció</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Felhasználónév:</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Felhasználónév</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelszó:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelszó</translation>
     </message>
     <message>
         <source>Password (min 8 chars)</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelszó (min. 8 karakter)</translation>
     </message>
     <message>
         <source>Client Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Eszköz neve:</translation>
     </message>
     <message>
         <source>My PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Saját gép</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiba</translation>
     </message>
     <message>
         <source>Please fill in all fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Töltsön ki minden mezőt.</translation>
     </message>
     <message>
         <source>Please fill in username and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adja meg a felhasználónevet és a jelszót.</translation>
     </message>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>A jelszónak legalább 8 karakterből kell állnia.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionInfoDialog</name>
     <message>
         <source>Connection Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat adatai</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Munkamenet</translation>
     </message>
     <message>
         <source>Session ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Munkamenet-azonosító:</translation>
     </message>
     <message>
         <source>Remote ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Partnerazonosító:</translation>
     </message>
     <message>
         <source>Role:</source>
-        <translation type="unfinished"></translation>
+        <translation>Szerep:</translation>
     </message>
     <message>
         <source>Master (Viewer)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vezérlő (megtekintés)</translation>
     </message>
     <message>
         <source>Target (Sharing)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cél (megosztás)</translation>
     </message>
     <message>
         <source>Transport:</source>
-        <translation type="unfinished"></translation>
+        <translation>Átvitel:</translation>
     </message>
     <message>
         <source>Connection Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat minősége</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS:</translation>
     </message>
     <message>
         <source>Latency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Késleltetés:</translation>
     </message>
     <message>
         <source>Bandwidth:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sávszélesség:</translation>
     </message>
     <message>
         <source>Sent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elküldve:</translation>
     </message>
     <message>
         <source>Received:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fogadva:</translation>
     </message>
     <message>
         <source>Dropped Frames:</source>
-        <translation type="unfinished"></translation>
+        <translation>Eldobott képkockák:</translation>
     </message>
     <message>
         <source>Uptime:</source>
-        <translation type="unfinished"></translation>
+        <translation>Időtartam:</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 Kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kbps</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionQualityMonitor</name>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbps</translation>
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS: %1 | Késl.: %2 ms | Sávszél.: %3 | Idő: %4</translation>
     </message>
 </context>
 <context>
     <name>corvane::DeviceCard</name>
     <message>
         <source>YOUR ID</source>
-        <translation type="unfinished"></translation>
+        <translation>SAJÁT AZONOSÍTÓ</translation>
     </message>
     <message>
         <source>PASSWORD</source>
-        <translation type="unfinished"></translation>
+        <translation>JELSZÓ</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Csatlakozás...</translation>
     </message>
     <message>
         <source>Copy ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Azonosító másolása</translation>
     </message>
     <message>
         <source>Copy Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelszó másolása</translation>
     </message>
     <message>
         <source>Change Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelszó módosítása</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs kapcsolat</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileManagerDialog</name>
     <message>
         <source>File Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlkezelő</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Letöltés</translation>
     </message>
     <message>
         <source>Download selected remote file to local</source>
-        <translation type="unfinished"></translation>
+        <translation>A kijelölt távoli fájlok letöltése erre a számítógépre</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Feltöltés</translation>
     </message>
     <message>
         <source>Upload selected local file to remote</source>
-        <translation type="unfinished"></translation>
+        <translation>A kijelölt helyi fájlok feltöltése a távoli számítógépre</translation>
     </message>
     <message>
         <source>Loading remote directory...</source>
-        <translation type="unfinished"></translation>
+        <translation>Távoli mappa betöltése...</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 elem</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelöljön ki egy vagy több letöltendő távoli fájlt.</translation>
     </message>
     <message>
         <source>No files selected (folders are skipped).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs kijelölt fájl (a mappák kimaradnak).</translation>
     </message>
     <message>
         <source>These files already exist locally and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ezek a fájlok már léteznek ezen a számítógépen, és felül lesznek írva:
+%1
+
+Folytatja?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jelöljön ki egy vagy több feltöltendő helyi fájlt.</translation>
     </message>
     <message>
         <source>These files already exist on the remote and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ezek a fájlok már léteznek a távoli számítógépen, és felül lesznek írva:
+%1
+
+Folytatja?</translation>
     </message>
     <message>
         <source>Overwrite?</source>
-        <translation type="unfinished"></translation>
+        <translation>Felülírja?</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiba: %1</translation>
     </message>
     <message>
         <source>The session has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet véget ért.</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileTransferService</name>
     <message>
         <source>The request could not be sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A kérést nem sikerült elküldeni: %1</translation>
     </message>
     <message>
         <source>Another upload is still running: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Még folyamatban van egy másik feltöltés: %1</translation>
     </message>
     <message>
         <source>Cannot open local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A helyi fájl nem nyitható meg: %1</translation>
     </message>
     <message>
         <source>Remote file download failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A távoli fájl letöltése sikertelen</translation>
     </message>
     <message>
         <source>Cannot write to local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A helyi fájl nem írható: %1</translation>
     </message>
     <message>
         <source>The connection was lost while sending: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A kapcsolat megszakadt küldés közben: %1</translation>
     </message>
     <message>
         <source>Cannot read local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A helyi fájl nem olvasható: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::HomePage</name>
     <message>
         <source>PAIRING CODE</source>
-        <translation type="unfinished"></translation>
+        <translation>PÁROSÍTÓ KÓD</translation>
     </message>
     <message>
         <source>Admin Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Adminisztráció</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások</translation>
     </message>
     <message>
         <source>Copy Pairing Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Párosító kód másolása</translation>
     </message>
     <message>
         <source>Add this device at </source>
-        <translation type="unfinished"></translation>
+        <translation>Az eszköz hozzáadása itt: </translation>
     </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>
     <message>
         <source>Not an HTTP or HTTPS address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem HTTP- vagy HTTPS-cím: %1</translation>
     </message>
     <message>
         <source>The server sends more than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgáló több mint %1 bájtot küld.</translation>
     </message>
     <message>
         <source>The server has nothing to download there.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgálón ott nincs mit letölteni.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgáló túl sokszor irányít át.</translation>
     </message>
     <message>
         <source>The server redirects to an address that is not safe to follow: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgáló nem biztonságos címre irányít át: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::LocalFilePane</name>
     <message>
         <source>&lt;b&gt;Local Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Helyi számítógép&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Local files</source>
-        <translation type="unfinished"></translation>
+        <translation>Helyi fájlok</translation>
     </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiba</translation>
     </message>
     <message>
         <source>Please enter a partner Client ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjon meg egy partnerazonosítót.</translation>
     </message>
     <message>
         <source>Server unavailable — retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgáló nem érhető el – újrapróbálkozás...</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Készen áll</translation>
     </message>
     <message>
         <source>Ready. Your ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Készen áll. Saját azonosító: %1</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat bontva</translation>
     </message>
     <message>
         <source>Online (Ready)</source>
-        <translation type="unfinished"></translation>
+        <translation>Online (készen áll)</translation>
     </message>
     <message>
         <source>Reconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Újracsatlakozás...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>A partnerazonosítónak pontosan 9 számjegyből kell állnia.</translation>
     </message>
     <message>
         <source>Please enter the partner&apos;s password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adja meg a partner jelszavát.</translation>
     </message>
     <message>
         <source>Client %1 wants to connect.
 Purpose: %2
 
 Accept?</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 eszköz csatlakozni szeretne.
+Cél: %2
+
+Elfogadja?</translation>
     </message>
     <message>
         <source>remote access</source>
-        <translation type="unfinished"></translation>
+        <translation>távoli hozzáférés</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Bejövő kapcsolat</translation>
     </message>
     <message>
         <source>Incoming connection from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bejövő kapcsolat: %1</translation>
     </message>
     <message>
         <source>Initiating session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Munkamenet indítása...</translation>
     </message>
     <message>
         <source>Exchanging keys...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kulcsok cseréje...</translation>
     </message>
     <message>
         <source>Establishing transport...</source>
-        <translation type="unfinished"></translation>
+        <translation>Átvitel létrehozása...</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Csatlakozva</translation>
     </message>
     <message>
         <source>Disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat bontása...</translation>
     </message>
     <message>
         <source>Session failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet sikertelen</translation>
     </message>
     <message>
         <source>Session failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet sikertelen.</translation>
     </message>
     <message>
         <source>Session Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Munkamenethiba</translation>
     </message>
     <message>
         <source>Corvane - %1 [%2 FPS]</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - %1 [%2 FPS]</translation>
     </message>
     <message>
         <source>Failed to connect. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>A csatlakozás sikertelen. Próbálja újra.</translation>
     </message>
     <message>
         <source>The partner is not available or offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>A partner nem elérhető vagy offline.</translation>
     </message>
     <message>
         <source>Invalid session password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Érvénytelen munkamenet-jelszó.</translation>
     </message>
     <message>
         <source>Connection Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolódási hiba</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Frissítés</translation>
     </message>
     <message>
         <source>The installer could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítőt nem sikerült elindítani.</translation>
     </message>
     <message>
         <source>Application minimized to system tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az alkalmazás az értesítési területre került.</translation>
     </message>
     <message>
         <source>Remote session active — sharing your screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Távoli munkamenet aktív – a képernyője meg van osztva.</translation>
     </message>
     <message>
         <source>Corvane - Connected to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Csatlakozva: %1</translation>
     </message>
     <message>
         <source>Change Session Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Munkamenet jelszavának módosítása</translation>
     </message>
     <message>
         <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation type="unfinished"></translation>
+        <translation>Új jelszó (min. 8 karakter, nagybetű + kisbetű + számjegy):</translation>
     </message>
     <message>
         <source>Invalid Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Érvénytelen jelszó</translation>
     </message>
 </context>
 <context>
     <name>corvane::QualityIndicator</name>
     <message>
         <source>Poor</source>
-        <translation type="unfinished"></translation>
+        <translation>Gyenge</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Jó</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Közepes</translation>
     </message>
     <message>
         <source>%1 (%2 FPS, %3ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 FPS, %3 ms)</translation>
     </message>
     <message>
         <source>Connection: Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat: Jó</translation>
     </message>
 </context>
 <context>
     <name>corvane::RemoteFilePane</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappa</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájl</translation>
     </message>
     <message>
         <source>Go up one directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Egy mappával feljebb</translation>
     </message>
     <message>
         <source>Remote files</source>
-        <translation type="unfinished"></translation>
+        <translation>Távoli fájlok</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Név</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Méret</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Típus</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Távoli számítógép&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Távoli mappa: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionDataPlane</name>
     <message>
         <source>Failed to start screen capture.</source>
-        <translation type="unfinished"></translation>
+        <translation>A képernyőmegosztást nem sikerült elindítani.</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionManager</name>
     <message>
         <source>Cannot initiate session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet nem indítható: már folyamatban van egy másik</translation>
     </message>
     <message>
         <source>Server returned invalid session data</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgáló érvénytelen munkamenet-adatokat küldött</translation>
     </message>
     <message>
         <source>Missing target ECDH public key</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiányzik a cél nyilvános ECDH-kulcsa</translation>
     </message>
     <message>
         <source>ECDH key derivation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Az ECDH-kulcs származtatása sikertelen</translation>
     </message>
     <message>
         <source>Cannot accept session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>A munkamenet nem fogadható: már folyamatban van egy másik</translation>
     </message>
     <message>
         <source>Transport failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Átviteli hiba: %1</translation>
     </message>
     <message>
         <source>Crypto error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kriptográfiai hiba: %1</translation>
     </message>
     <message>
         <source>Cipher error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Titkosítási hiba: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SettingsDialog</name>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Indítás bejelentkezéskor</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Corvane automatikus indítása bejelentkezéskor.</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Indítás a Windows rendszerrel</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in to Windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Corvane automatikus indítása a Windowsba való bejelentkezéskor.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Megjelenítés</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Hálózat</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Speciális</translation>
     </message>
     <message>
         <source>Application language. Requires restart to take effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az alkalmazás nyelve. Újraindítás után lép érvénybe.</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendszer alapértelmezése</translation>
     </message>
     <message>
         <source>Quality: 24 fps, sharp image, higher bandwidth.
 Speed: 10 fps, lower bandwidth and CPU usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minőség: 24 FPS, éles kép, nagyobb sávszélesség.
+Sebesség: 10 FPS, kisebb sávszélesség és processzorterhelés.</translation>
     </message>
     <message>
         <source>Optimize Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Minőség optimalizálása</translation>
     </message>
     <message>
         <source>Optimize Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sebesség optimalizálása</translation>
     </message>
     <message>
         <source>Select which monitor to share when someone connects to this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Válassza ki, melyik monitort ossza meg, amikor valaki ehhez az eszközhöz csatlakozik.</translation>
     </message>
     <message>
         <source>Monitor %1: %2 (%3x%4%5)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. monitor: %2 (%3x%4%5)</translation>
     </message>
     <message>
         <source>, Primary</source>
-        <translation type="unfinished"></translation>
+        <translation>, elsődleges</translation>
     </message>
     <message>
         <source>Synchronise clipboard content between the local and remote machines.</source>
-        <translation type="unfinished"></translation>
+        <translation>A vágólap tartalmának szinkronizálása a helyi és a távoli számítógép között.</translation>
     </message>
     <message>
         <source>Enable clipboard sharing</source>
-        <translation type="unfinished"></translation>
+        <translation>Vágólap megosztása</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyelv:</translation>
     </message>
     <message>
         <source>Display mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Megjelenítési mód:</translation>
     </message>
     <message>
         <source>Capture monitor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Megosztott monitor:</translation>
     </message>
     <message>
         <source>Automatically attempt to re-establish the connection after an unexpected disconnect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Váratlan megszakadás után automatikus kísérlet a kapcsolat helyreállítására.</translation>
     </message>
     <message>
         <source>Auto-reconnect on disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatikus újracsatlakozás megszakadáskor</translation>
     </message>
     <message>
         <source>Maximum number of consecutive reconnection attempts before giving up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az egymást követő újracsatlakozási kísérletek legnagyobb száma.</translation>
     </message>
     <message>
         <source>Max reconnect attempts:</source>
-        <translation type="unfinished"></translation>
+        <translation>Újracsatlakozási kísérletek max.:</translation>
     </message>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation type="unfinished"></translation>
+        <translation>A CorvaneService.exe telepítése Windows-szolgáltatásként, amely a rendszerindítástól fut,
+akkor is, ha nincs bejelentkezett felhasználó. Rendszergazdai jogosultság szükséges.</translation>
     </message>
     <message>
         <source>Run as Windows Service (unattended)</source>
-        <translation type="unfinished"></translation>
+        <translation>Futtatás Windows-szolgáltatásként (felügyelet nélkül)</translation>
     </message>
     <message>
         <source>Keep the application running in the system tray when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az ablak bezárása után az alkalmazás az értesítési területen fut tovább.</translation>
     </message>
     <message>
         <source>Minimize to tray on close</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezáráskor az értesítési területre kerül</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mégse</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Alkalmaz</translation>
     </message>
     <message>
         <source>Language Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>A nyelv megváltozott</translation>
     </message>
     <message>
         <source>Please restart the application to apply the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az új nyelv alkalmazásához indítsa újra az alkalmazást.</translation>
     </message>
     <message>
         <source>Applying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Alkalmazás...</translation>
     </message>
     <message>
         <source>Asking the system...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendszer lekérdezése...</translation>
     </message>
 </context>
 <context>
     <name>corvane::SignalingClient</name>
     <message>
         <source>Authentication rejected by server</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgáló elutasította a hitelesítést</translation>
     </message>
 </context>
 <context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Távoli hozzáférés</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Megjelenítés</translation>
     </message>
     <message>
         <source>Status: Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Állapot: Kapcsolat bontva</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Bontás</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilépés</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Bejövő kapcsolat</translation>
     </message>
     <message>
         <source>Client %1 is requesting a remote connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 eszköz távoli kapcsolatot kér.</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden letöltés befejeződött.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minden feltöltés befejeződött.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Feltöltés %1/%2: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Letöltve: %1 – hátravan: %2</translation>
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Letöltés %1/%2: %3</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferStatus</name>
     <message>
         <source>Transfer progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Átvitel állapota</translation>
     </message>
     <message>
         <source>%p% — %1/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%p% – %1/s, hátravan: %2</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateBanner</name>
     <message>
         <source>Update available: v%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Elérhető frissítés: v%1</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Letöltés...</translation>
     </message>
     <message>
         <source>Update Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Frissítés most</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateService</name>
     <message>
         <source>Cannot write to temp directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az ideiglenes mappa nem írható.</translation>
     </message>
     <message>
         <source>Downloaded file is too small — update aborted.</source>
-        <translation type="unfinished"></translation>
+        <translation>A letöltött fájl túl kicsi – a frissítés megszakadt.</translation>
     </message>
     <message>
         <source>Failed to extract installer from zip.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítőt nem sikerült kicsomagolni a ZIP-fájlból.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ValueFormats</name>
     <message>
         <source>%1 B</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 GB</translation>
     </message>
 </context>
 <context>
     <name>corvane::ViewerToolBar</name>
     <message>
         <source>Info  (Ctrl+Shift+I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Információ  (Ctrl+Shift+I)</translation>
     </message>
     <message>
         <source>Files  (Ctrl+Shift+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlok  (Ctrl+Shift+F)</translation>
     </message>
     <message>
         <source>Chat  (Ctrl+Shift+C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Csevegés  (Ctrl+Shift+C)</translation>
     </message>
     <message>
         <source>Scale Mode  (Ctrl+Shift+Q)</source>
-        <translation type="unfinished"></translation>
+        <translation>Méretezési mód  (Ctrl+Shift+Q)</translation>
     </message>
     <message>
         <source>Switch Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitorváltás</translation>
     </message>
     <message>
         <source>Fullscreen  (F11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teljes képernyő  (F11)</translation>
     </message>
     <message>
         <source>Disconnect  (Ctrl+Shift+D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat bontása  (Ctrl+Shift+D)</translation>
     </message>
     <message>
         <source>Chat (!)</source>
-        <translation type="unfinished"></translation>
+        <translation>Csevegés (!)</translation>
     </message>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Csevegés</translation>
     </message>
     <message>
         <source>Fit to Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablakhoz igazítás</translation>
     </message>
     <message>
         <source>Stretch to Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyújtás az ablak méretére</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Eredeti méret</translation>
     </message>
     <message>
         <source>Monitor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. monitor</translation>
     </message>
 </context>
 <context>
     <name>corvane::WakeOnLanAction</name>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Enter MAC address for this partner (XX:XX:XX:XX:XX:XX):</source>
-        <translation type="unfinished"></translation>
+        <translation>Adja meg ennek a partnernek a MAC-címét (XX:XX:XX:XX:XX:XX):</translation>
     </message>
     <message>
         <source>WoL</source>
-        <translation type="unfinished"></translation>
+        <translation>WoL</translation>
     </message>
     <message>
         <source>Invalid MAC address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Érvénytelen MAC-cím.</translation>
     </message>
     <message>
         <source>The Wake-on-LAN packet could not be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Wake-on-LAN csomagot nem sikerült elküldeni.</translation>
     </message>
     <message>
         <source>Wake-on-LAN packet sent to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN csomag elküldve ide: %1</translation>
     </message>
 </context>
 </TS>

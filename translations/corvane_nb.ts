@@ -5,1177 +5,1188 @@
     <name>PasswordPolicy</name>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passordet må ha minst 8 tegn.</translation>
     </message>
     <message>
         <source>Password must contain at least one lowercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passordet må inneholde minst én liten bokstav.</translation>
     </message>
     <message>
         <source>Password must contain at least one uppercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passordet må inneholde minst én stor bokstav.</translation>
     </message>
     <message>
         <source>Password must contain at least one digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passordet må inneholde minst ett siffer.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappe</translation>
     </message>
     <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Stasjon</translation>
     </message>
     <message>
         <source>%1 File</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-fil</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Navn</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Størrelse</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Endret</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avbryt</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lukk</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Angre</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gjør om</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipp &amp;ut</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopier</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lim inn</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Slett</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Merk alt</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Avbryt</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Lukk</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruk</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nei</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopier</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Merk alt</translation>
     </message>
 </context>
 <context>
     <name>corvane::ApiClient</name>
     <message>
         <source>Auto-login failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisk pålogging mislyktes</translation>
     </message>
     <message>
         <source>Auto-registration failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisk registrering mislyktes</translation>
     </message>
     <message>
         <source>Session creation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke opprette økten</translation>
     </message>
     <message>
         <source>Handshake ACK failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke bekrefte håndtrykket</translation>
     </message>
     <message>
         <source>Session complete failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke fullføre oppretting av økten</translation>
     </message>
     <message>
         <source>Session close failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke avslutte økten</translation>
     </message>
 </context>
 <context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldinger</translation>
     </message>
     <message>
         <source>Type a message…</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriv en melding…</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Melding</translation>
     </message>
     <message>
         <source>Send</source>
-        <translation type="unfinished"></translation>
+        <translation>Send</translation>
     </message>
     <message>
         <source>Me</source>
-        <translation type="unfinished"></translation>
+        <translation>Meg</translation>
     </message>
     <message>
         <source>Remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectCard</name>
     <message>
         <source>CONNECT TO PARTNER</source>
-        <translation type="unfinished"></translation>
+        <translation>KOBLE TIL PARTNER</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passord</translation>
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Legg til i favoritter</translation>
     </message>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Koble til</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Koble fra</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
     <message>
         <source>Corvane - Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Koble til</translation>
     </message>
     <message>
         <source>Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Server:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Logg på</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrer</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Brukernavn:</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Brukernavn</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Passord:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passord</translation>
     </message>
     <message>
         <source>Password (min 8 chars)</source>
-        <translation type="unfinished"></translation>
+        <translation>Passord (minst 8 tegn)</translation>
     </message>
     <message>
         <source>Client Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Enhetsnavn:</translation>
     </message>
     <message>
         <source>My PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Min PC</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Feil</translation>
     </message>
     <message>
         <source>Please fill in all fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fyll ut alle feltene.</translation>
     </message>
     <message>
         <source>Please fill in username and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriv inn brukernavn og passord.</translation>
     </message>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passordet må ha minst 8 tegn.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionInfoDialog</name>
     <message>
         <source>Connection Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilkoblingsinformasjon</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Økt</translation>
     </message>
     <message>
         <source>Session ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Økt-ID:</translation>
     </message>
     <message>
         <source>Remote ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID:</translation>
     </message>
     <message>
         <source>Role:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle:</translation>
     </message>
     <message>
         <source>Master (Viewer)</source>
-        <translation type="unfinished"></translation>
+        <translation>Master (viser)</translation>
     </message>
     <message>
         <source>Target (Sharing)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mål (deler)</translation>
     </message>
     <message>
         <source>Transport:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transport:</translation>
     </message>
     <message>
         <source>Connection Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilkoblingskvalitet</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS:</translation>
     </message>
     <message>
         <source>Latency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Forsinkelse:</translation>
     </message>
     <message>
         <source>Bandwidth:</source>
-        <translation type="unfinished"></translation>
+        <translation>Båndbredde:</translation>
     </message>
     <message>
         <source>Sent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sendt:</translation>
     </message>
     <message>
         <source>Received:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mottatt:</translation>
     </message>
     <message>
         <source>Dropped Frames:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapte bilder:</translation>
     </message>
     <message>
         <source>Uptime:</source>
-        <translation type="unfinished"></translation>
+        <translation>Varighet:</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 Kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kbps</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionQualityMonitor</name>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbps</translation>
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS: %1 | Forsinkelse: %2 ms | Båndbr.: %3 | Varighet: %4</translation>
     </message>
 </context>
 <context>
     <name>corvane::DeviceCard</name>
     <message>
         <source>YOUR ID</source>
-        <translation type="unfinished"></translation>
+        <translation>DIN ID</translation>
     </message>
     <message>
         <source>PASSWORD</source>
-        <translation type="unfinished"></translation>
+        <translation>PASSORD</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kobler til...</translation>
     </message>
     <message>
         <source>Copy ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopier ID</translation>
     </message>
     <message>
         <source>Copy Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopier passord</translation>
     </message>
     <message>
         <source>Change Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Endre passord</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ikke tilkoblet</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileManagerDialog</name>
     <message>
         <source>File Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Filbehandling</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Last ned</translation>
     </message>
     <message>
         <source>Download selected remote file to local</source>
-        <translation type="unfinished"></translation>
+        <translation>Last ned merkede filer fra den eksterne datamaskinen</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Last opp</translation>
     </message>
     <message>
         <source>Upload selected local file to remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Last opp merkede lokale filer til den eksterne datamaskinen</translation>
     </message>
     <message>
         <source>Loading remote directory...</source>
-        <translation type="unfinished"></translation>
+        <translation>Laster inn ekstern mappe...</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementer: %1</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velg én eller flere eksterne filer som skal lastes ned.</translation>
     </message>
     <message>
         <source>No files selected (folders are skipped).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingen filer er valgt (mapper hoppes over).</translation>
     </message>
     <message>
         <source>These files already exist locally and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Disse filene finnes allerede lokalt og vil bli overskrevet:
+%1
+
+Vil du fortsette?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velg én eller flere lokale filer som skal lastes opp.</translation>
     </message>
     <message>
         <source>These files already exist on the remote and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Disse filene finnes allerede på den eksterne datamaskinen og vil bli overskrevet:
+%1
+
+Vil du fortsette?</translation>
     </message>
     <message>
         <source>Overwrite?</source>
-        <translation type="unfinished"></translation>
+        <translation>Overskrive?</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Feil: %1</translation>
     </message>
     <message>
         <source>The session has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Økten er avsluttet.</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileTransferService</name>
     <message>
         <source>The request could not be sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Forespørselen kunne ikke sendes: %1</translation>
     </message>
     <message>
         <source>Another upload is still running: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En annen opplasting pågår fortsatt: %1</translation>
     </message>
     <message>
         <source>Cannot open local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kan ikke åpne den lokale filen: %1</translation>
     </message>
     <message>
         <source>Remote file download failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedlasting av ekstern fil mislyktes</translation>
     </message>
     <message>
         <source>Cannot write to local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kan ikke skrive til den lokale filen: %1</translation>
     </message>
     <message>
         <source>The connection was lost while sending: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilkoblingen ble brutt under sending: %1</translation>
     </message>
     <message>
         <source>Cannot read local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kan ikke lese den lokale filen: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::HomePage</name>
     <message>
         <source>PAIRING CODE</source>
-        <translation type="unfinished"></translation>
+        <translation>PARINGSKODE</translation>
     </message>
     <message>
         <source>Admin Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Administrasjon</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Innstillinger</translation>
     </message>
     <message>
         <source>Copy Pairing Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopier paringskode</translation>
     </message>
     <message>
         <source>Add this device at </source>
-        <translation type="unfinished"></translation>
+        <translation>Legg til denne enheten på </translation>
     </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>
     <message>
         <source>Not an HTTP or HTTPS address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ikke en HTTP- eller HTTPS-adresse: %1</translation>
     </message>
     <message>
         <source>The server sends more than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveren sender mer enn %1 byte.</translation>
     </message>
     <message>
         <source>The server has nothing to download there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveren har ingenting å laste ned der.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveren omdirigerer for mange ganger.</translation>
     </message>
     <message>
         <source>The server redirects to an address that is not safe to follow: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveren omdirigerer til en usikker adresse: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::LocalFilePane</name>
     <message>
         <source>&lt;b&gt;Local Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Lokal datamaskin&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Local files</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale filer</translation>
     </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Feil</translation>
     </message>
     <message>
         <source>Please enter a partner Client ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriv inn en partner-ID.</translation>
     </message>
     <message>
         <source>Server unavailable — retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveren er utilgjengelig – prøver igjen...</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Klar</translation>
     </message>
     <message>
         <source>Ready. Your ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Klar. ID-en din: %1</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Frakoblet</translation>
     </message>
     <message>
         <source>Online (Ready)</source>
-        <translation type="unfinished"></translation>
+        <translation>På nett (klar)</translation>
     </message>
     <message>
         <source>Reconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kobler til på nytt...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID-en må bestå av nøyaktig 9 sifre.</translation>
     </message>
     <message>
         <source>Please enter the partner&apos;s password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriv inn passordet til partneren.</translation>
     </message>
     <message>
         <source>Client %1 wants to connect.
 Purpose: %2
 
 Accept?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enheten %1 vil koble seg til.
+Formål: %2
+
+Vil du godta?</translation>
     </message>
     <message>
         <source>remote access</source>
-        <translation type="unfinished"></translation>
+        <translation>ekstern tilgang</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Innkommende tilkobling</translation>
     </message>
     <message>
         <source>Incoming connection from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Innkommende tilkobling fra %1</translation>
     </message>
     <message>
         <source>Initiating session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Starter økt...</translation>
     </message>
     <message>
         <source>Exchanging keys...</source>
-        <translation type="unfinished"></translation>
+        <translation>Utveksler nøkler...</translation>
     </message>
     <message>
         <source>Establishing transport...</source>
-        <translation type="unfinished"></translation>
+        <translation>Oppretter transport...</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilkoblet</translation>
     </message>
     <message>
         <source>Disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kobler fra...</translation>
     </message>
     <message>
         <source>Session failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Økten mislyktes</translation>
     </message>
     <message>
         <source>Session failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Økten mislyktes.</translation>
     </message>
     <message>
         <source>Session Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Øktfeil</translation>
     </message>
     <message>
         <source>Corvane - %1 [%2 FPS]</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - %1 [%2 FPS]</translation>
     </message>
     <message>
         <source>Failed to connect. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke koble til. Prøv igjen.</translation>
     </message>
     <message>
         <source>The partner is not available or offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Partneren er ikke tilgjengelig eller er frakoblet.</translation>
     </message>
     <message>
         <source>Invalid session password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ugyldig øktpassord.</translation>
     </message>
     <message>
         <source>Connection Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilkoblingsfeil</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Oppdatering</translation>
     </message>
     <message>
         <source>The installer could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installasjonsprogrammet kunne ikke startes.</translation>
     </message>
     <message>
         <source>Application minimized to system tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmet er minimert til systemstatusfeltet.</translation>
     </message>
     <message>
         <source>Remote session active — sharing your screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekstern økt aktiv – skjermen din deles.</translation>
     </message>
     <message>
         <source>Corvane - Connected to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Koblet til %1</translation>
     </message>
     <message>
         <source>Change Session Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Endre øktpassord</translation>
     </message>
     <message>
         <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation type="unfinished"></translation>
+        <translation>Nytt passord (minst 8 tegn, stor + liten bokstav + siffer):</translation>
     </message>
     <message>
         <source>Invalid Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Ugyldig passord</translation>
     </message>
 </context>
 <context>
     <name>corvane::QualityIndicator</name>
     <message>
         <source>Poor</source>
-        <translation type="unfinished"></translation>
+        <translation>Dårlig</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>God</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Middels</translation>
     </message>
     <message>
         <source>%1 (%2 FPS, %3ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 FPS, %3 ms)</translation>
     </message>
     <message>
         <source>Connection: Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilkobling: God</translation>
     </message>
 </context>
 <context>
     <name>corvane::RemoteFilePane</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappe</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil</translation>
     </message>
     <message>
         <source>Go up one directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Gå opp én mappe</translation>
     </message>
     <message>
         <source>Remote files</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksterne filer</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Navn</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Størrelse</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Ekstern datamaskin&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Ekstern: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionDataPlane</name>
     <message>
         <source>Failed to start screen capture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke starte skjermdelingen.</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionManager</name>
     <message>
         <source>Cannot initiate session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Kan ikke starte økten: en annen pågår allerede</translation>
     </message>
     <message>
         <source>Server returned invalid session data</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveren returnerte ugyldige øktdata</translation>
     </message>
     <message>
         <source>Missing target ECDH public key</source>
-        <translation type="unfinished"></translation>
+        <translation>Målets offentlige ECDH-nøkkel mangler</translation>
     </message>
     <message>
         <source>ECDH key derivation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Utledning av ECDH-nøkkel mislyktes</translation>
     </message>
     <message>
         <source>Cannot accept session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Kan ikke godta økten: en annen pågår allerede</translation>
     </message>
     <message>
         <source>Transport failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Transportfeil: %1</translation>
     </message>
     <message>
         <source>Crypto error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kryptografifeil: %1</translation>
     </message>
     <message>
         <source>Cipher error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Krypteringsfeil: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SettingsDialog</name>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Start ved pålogging</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Start Corvane automatisk når du logger på.</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Start med Windows</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in to Windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Start Corvane automatisk når du logger på Windows.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Innstillinger</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Visning</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettverk</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avansert</translation>
     </message>
     <message>
         <source>Application language. Requires restart to take effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmets språk. Krever omstart for å tre i kraft.</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemstandard</translation>
     </message>
     <message>
         <source>Quality: 24 fps, sharp image, higher bandwidth.
 Speed: 10 fps, lower bandwidth and CPU usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvalitet: 24 FPS, skarpt bilde, høyere båndbredde.
+Hastighet: 10 FPS, lavere båndbredde og CPU-bruk.</translation>
     </message>
     <message>
         <source>Optimize Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimaliser kvalitet</translation>
     </message>
     <message>
         <source>Optimize Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimaliser hastighet</translation>
     </message>
     <message>
         <source>Select which monitor to share when someone connects to this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Velg hvilken skjerm som skal deles når noen kobler seg til denne enheten.</translation>
     </message>
     <message>
         <source>Monitor %1: %2 (%3x%4%5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Skjerm %1: %2 (%3x%4%5)</translation>
     </message>
     <message>
         <source>, Primary</source>
-        <translation type="unfinished"></translation>
+        <translation>, primær</translation>
     </message>
     <message>
         <source>Synchronise clipboard content between the local and remote machines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniser innholdet på utklippstavlen mellom den lokale og den eksterne datamaskinen.</translation>
     </message>
     <message>
         <source>Enable clipboard sharing</source>
-        <translation type="unfinished"></translation>
+        <translation>Del utklippstavlen</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Språk:</translation>
     </message>
     <message>
         <source>Display mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Visningsmodus:</translation>
     </message>
     <message>
         <source>Capture monitor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Delt skjerm:</translation>
     </message>
     <message>
         <source>Automatically attempt to re-establish the connection after an unexpected disconnect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prøv automatisk å gjenopprette tilkoblingen etter et uventet brudd.</translation>
     </message>
     <message>
         <source>Auto-reconnect on disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Koble til på nytt automatisk ved brudd</translation>
     </message>
     <message>
         <source>Maximum number of consecutive reconnection attempts before giving up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maksimalt antall tilkoblingsforsøk på rad før programmet gir opp.</translation>
     </message>
     <message>
         <source>Max reconnect attempts:</source>
-        <translation type="unfinished"></translation>
+        <translation>Maks. antall tilkoblingsforsøk:</translation>
     </message>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer CorvaneService.exe som en Windows-tjeneste som kjører ved oppstart,
+også når ingen bruker er pålogget. Krever administratorrettigheter.</translation>
     </message>
     <message>
         <source>Run as Windows Service (unattended)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kjør som Windows-tjeneste (uten tilsyn)</translation>
     </message>
     <message>
         <source>Keep the application running in the system tray when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La programmet kjøre i systemstatusfeltet når vinduet lukkes.</translation>
     </message>
     <message>
         <source>Minimize to tray on close</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimer til systemstatusfeltet ved lukking</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Avbryt</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruk</translation>
     </message>
     <message>
         <source>Language Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Språket er endret</translation>
     </message>
     <message>
         <source>Please restart the application to apply the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Start programmet på nytt for å ta i bruk det nye språket.</translation>
     </message>
     <message>
         <source>Applying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Endringene tas i bruk...</translation>
     </message>
     <message>
         <source>Asking the system...</source>
-        <translation type="unfinished"></translation>
+        <translation>Spør systemet...</translation>
     </message>
 </context>
 <context>
     <name>corvane::SignalingClient</name>
     <message>
         <source>Authentication rejected by server</source>
-        <translation type="unfinished"></translation>
+        <translation>Autentiseringen ble avvist av serveren</translation>
     </message>
 </context>
 <context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Ekstern tilgang</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis</translation>
     </message>
     <message>
         <source>Status: Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Status: Frakoblet</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Koble fra</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Avslutt</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Innkommende tilkobling</translation>
     </message>
     <message>
         <source>Client %1 is requesting a remote connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enheten %1 ber om en ekstern tilkobling.</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle nedlastinger er fullført.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle opplastinger er fullført.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Laster opp %1 av %2: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Lastet ned: %1 – %2 gjenstår</translation>
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Laster ned %1 av %2: %3</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferStatus</name>
     <message>
         <source>Transfer progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Overføringsfremdrift</translation>
     </message>
     <message>
         <source>%p% — %1/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%p% – %1/s, %2 igjen</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateBanner</name>
     <message>
         <source>Update available: v%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oppdatering tilgjengelig: v%1</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Laster ned...</translation>
     </message>
     <message>
         <source>Update Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Oppdater nå</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateService</name>
     <message>
         <source>Cannot write to temp directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kan ikke skrive til den midlertidige mappen.</translation>
     </message>
     <message>
         <source>Downloaded file is too small — update aborted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den nedlastede filen er for liten – oppdateringen ble avbrutt.</translation>
     </message>
     <message>
         <source>Failed to extract installer from zip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke pakke ut installasjonsprogrammet fra ZIP-filen.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ValueFormats</name>
     <message>
         <source>%1 B</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 GB</translation>
     </message>
 </context>
 <context>
     <name>corvane::ViewerToolBar</name>
     <message>
         <source>Info  (Ctrl+Shift+I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Info  (Ctrl+Shift+I)</translation>
     </message>
     <message>
         <source>Files  (Ctrl+Shift+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer  (Ctrl+Shift+F)</translation>
     </message>
     <message>
         <source>Chat  (Ctrl+Shift+C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat  (Ctrl+Shift+C)</translation>
     </message>
     <message>
         <source>Scale Mode  (Ctrl+Shift+Q)</source>
-        <translation type="unfinished"></translation>
+        <translation>Skaleringsmodus  (Ctrl+Shift+Q)</translation>
     </message>
     <message>
         <source>Switch Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytt skjerm</translation>
     </message>
     <message>
         <source>Fullscreen  (F11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fullskjerm  (F11)</translation>
     </message>
     <message>
         <source>Disconnect  (Ctrl+Shift+D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koble fra  (Ctrl+Shift+D)</translation>
     </message>
     <message>
         <source>Chat (!)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat (!)</translation>
     </message>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat</translation>
     </message>
     <message>
         <source>Fit to Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilpass til vinduet</translation>
     </message>
     <message>
         <source>Stretch to Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Strekk til vinduet</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Opprinnelig størrelse</translation>
     </message>
     <message>
         <source>Monitor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Skjerm %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::WakeOnLanAction</name>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Enter MAC address for this partner (XX:XX:XX:XX:XX:XX):</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriv inn MAC-adressen til denne partneren (XX:XX:XX:XX:XX:XX):</translation>
     </message>
     <message>
         <source>WoL</source>
-        <translation type="unfinished"></translation>
+        <translation>WoL</translation>
     </message>
     <message>
         <source>Invalid MAC address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ugyldig MAC-adresse.</translation>
     </message>
     <message>
         <source>The Wake-on-LAN packet could not be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN-pakken kunne ikke sendes.</translation>
     </message>
     <message>
         <source>Wake-on-LAN packet sent to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN-pakken er sendt til %1</translation>
     </message>
 </context>
 </TS>

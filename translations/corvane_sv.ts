@@ -5,1177 +5,1188 @@
     <name>PasswordPolicy</name>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenordet måste innehålla minst 8 tecken.</translation>
     </message>
     <message>
         <source>Password must contain at least one lowercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenordet måste innehålla minst en liten bokstav.</translation>
     </message>
     <message>
         <source>Password must contain at least one uppercase letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenordet måste innehålla minst en stor bokstav.</translation>
     </message>
     <message>
         <source>Password must contain at least one digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenordet måste innehålla minst en siffra.</translation>
     </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapp</translation>
     </message>
     <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Enhet</translation>
     </message>
     <message>
         <source>%1 File</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-fil</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Namn</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Storlek</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändrad</translation>
     </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avbryt</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stäng</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ån&amp;gra</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Gör &amp;om</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipp &amp;ut</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopiera</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Klistra &amp;in</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta bort</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Markera allt</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Avbryt</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Stäng</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkställ</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nej</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopiera</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Markera allt</translation>
     </message>
 </context>
 <context>
     <name>corvane::ApiClient</name>
     <message>
         <source>Auto-login failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisk inloggning misslyckades</translation>
     </message>
     <message>
         <source>Auto-registration failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisk registrering misslyckades</translation>
     </message>
     <message>
         <source>Session creation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Det gick inte att skapa sessionen</translation>
     </message>
     <message>
         <source>Handshake ACK failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Handskakningen kunde inte bekräftas</translation>
     </message>
     <message>
         <source>Session complete failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessionen kunde inte upprättas</translation>
     </message>
     <message>
         <source>Session close failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Det gick inte att avsluta sessionen</translation>
     </message>
 </context>
 <context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chatt</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Meddelanden</translation>
     </message>
     <message>
         <source>Type a message…</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriv ett meddelande…</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Meddelande</translation>
     </message>
     <message>
         <source>Send</source>
-        <translation type="unfinished"></translation>
+        <translation>Skicka</translation>
     </message>
     <message>
         <source>Me</source>
-        <translation type="unfinished"></translation>
+        <translation>Jag</translation>
     </message>
     <message>
         <source>Remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectCard</name>
     <message>
         <source>CONNECT TO PARTNER</source>
-        <translation type="unfinished"></translation>
+        <translation>ANSLUT TILL PARTNER</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenord</translation>
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Lägg till i favoriter</translation>
     </message>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Anslut</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Koppla från</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
     <message>
         <source>Corvane - Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Anslut</translation>
     </message>
     <message>
         <source>Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Server:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Logga in</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrera</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Användarnamn:</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Användarnamn</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenord:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenord</translation>
     </message>
     <message>
         <source>Password (min 8 chars)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenord (minst 8 tecken)</translation>
     </message>
     <message>
         <source>Client Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Enhetsnamn:</translation>
     </message>
     <message>
         <source>My PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Min dator</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fel</translation>
     </message>
     <message>
         <source>Please fill in all fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fyll i alla fält.</translation>
     </message>
     <message>
         <source>Please fill in username and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ange användarnamn och lösenord.</translation>
     </message>
     <message>
         <source>Password must be at least 8 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösenordet måste innehålla minst 8 tecken.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionInfoDialog</name>
     <message>
         <source>Connection Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Anslutningsinformation</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Session</translation>
     </message>
     <message>
         <source>Session ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessions-ID:</translation>
     </message>
     <message>
         <source>Remote ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID:</translation>
     </message>
     <message>
         <source>Role:</source>
-        <translation type="unfinished"></translation>
+        <translation>Roll:</translation>
     </message>
     <message>
         <source>Master (Viewer)</source>
-        <translation type="unfinished"></translation>
+        <translation>Master (visar)</translation>
     </message>
     <message>
         <source>Target (Sharing)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mål (delar)</translation>
     </message>
     <message>
         <source>Transport:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transport:</translation>
     </message>
     <message>
         <source>Connection Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Anslutningskvalitet</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS:</translation>
     </message>
     <message>
         <source>Latency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Latens:</translation>
     </message>
     <message>
         <source>Bandwidth:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandbredd:</translation>
     </message>
     <message>
         <source>Sent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Skickat:</translation>
     </message>
     <message>
         <source>Received:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mottaget:</translation>
     </message>
     <message>
         <source>Dropped Frames:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tappade bilder:</translation>
     </message>
     <message>
         <source>Uptime:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anslutningstid:</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 Kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kbps</translation>
     </message>
 </context>
 <context>
     <name>corvane::ConnectionQualityMonitor</name>
     <message>
         <source>%1 Mbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbps</translation>
     </message>
     <message>
         <source>%1 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbps</translation>
     </message>
     <message>
         <source>FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS: %1 | Latens: %2 ms | Bandbredd: %3 | Tid: %4</translation>
     </message>
 </context>
 <context>
     <name>corvane::DeviceCard</name>
     <message>
         <source>YOUR ID</source>
-        <translation type="unfinished"></translation>
+        <translation>DITT ID</translation>
     </message>
     <message>
         <source>PASSWORD</source>
-        <translation type="unfinished"></translation>
+        <translation>LÖSENORD</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansluter...</translation>
     </message>
     <message>
         <source>Copy ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiera ID</translation>
     </message>
     <message>
         <source>Copy Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiera lösenord</translation>
     </message>
     <message>
         <source>Change Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Byt lösenord</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ej ansluten</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileManagerDialog</name>
     <message>
         <source>File Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Filhanterare</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladda ned</translation>
     </message>
     <message>
         <source>Download selected remote file to local</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladda ned markerade fjärrfiler till den här datorn</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladda upp</translation>
     </message>
     <message>
         <source>Upload selected local file to remote</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladda upp markerade lokala filer till fjärrdatorn</translation>
     </message>
     <message>
         <source>Loading remote directory...</source>
-        <translation type="unfinished"></translation>
+        <translation>Läser in fjärrmappen...</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 objekt</translation>
     </message>
     <message>
         <source>Select one or more remote files to download.</source>
-        <translation type="unfinished"></translation>
+        <translation>Markera en eller flera fjärrfiler att ladda ned.</translation>
     </message>
     <message>
         <source>No files selected (folders are skipped).</source>
-        <translation type="unfinished"></translation>
+        <translation>Inga filer har markerats (mappar hoppas över).</translation>
     </message>
     <message>
         <source>These files already exist locally and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>De här filerna finns redan lokalt och kommer att skrivas över:
+%1
+
+Vill du fortsätta?</translation>
     </message>
     <message>
         <source>Select one or more local files to upload.</source>
-        <translation type="unfinished"></translation>
+        <translation>Markera en eller flera lokala filer att ladda upp.</translation>
     </message>
     <message>
         <source>These files already exist on the remote and will be overwritten:
 %1
 
 Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>De här filerna finns redan på fjärrdatorn och kommer att skrivas över:
+%1
+
+Vill du fortsätta?</translation>
     </message>
     <message>
         <source>Overwrite?</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriva över?</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fel: %1</translation>
     </message>
     <message>
         <source>The session has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessionen har avslutats.</translation>
     </message>
 </context>
 <context>
     <name>corvane::FileTransferService</name>
     <message>
         <source>The request could not be sent: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Begäran kunde inte skickas: %1</translation>
     </message>
     <message>
         <source>Another upload is still running: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En annan uppladdning pågår fortfarande: %1</translation>
     </message>
     <message>
         <source>Cannot open local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Det går inte att öppna den lokala filen: %1</translation>
     </message>
     <message>
         <source>Remote file download failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjärrfilen kunde inte laddas ned</translation>
     </message>
     <message>
         <source>Cannot write to local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Det går inte att skriva till den lokala filen: %1</translation>
     </message>
     <message>
         <source>The connection was lost while sending: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anslutningen bröts under överföringen: %1</translation>
     </message>
     <message>
         <source>Cannot read local file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Det går inte att läsa den lokala filen: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::HomePage</name>
     <message>
         <source>PAIRING CODE</source>
-        <translation type="unfinished"></translation>
+        <translation>PARKOPPLINGSKOD</translation>
     </message>
     <message>
         <source>Admin Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Administration</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Inställningar</translation>
     </message>
     <message>
         <source>Copy Pairing Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiera parkopplingskod</translation>
     </message>
     <message>
         <source>Add this device at </source>
-        <translation type="unfinished"></translation>
+        <translation>Lägg till den här enheten på </translation>
     </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>
     <message>
         <source>Not an HTTP or HTTPS address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Inte en HTTP- eller HTTPS-adress: %1</translation>
     </message>
     <message>
         <source>The server sends more than %1 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servern skickar mer än %1 byte.</translation>
     </message>
     <message>
         <source>The server has nothing to download there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servern har inget att ladda ned där.</translation>
     </message>
     <message>
         <source>The server redirects too often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servern omdirigerar för många gånger.</translation>
     </message>
     <message>
         <source>The server redirects to an address that is not safe to follow: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Servern omdirigerar till en osäker adress: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::LocalFilePane</name>
     <message>
         <source>&lt;b&gt;Local Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Lokal dator&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Local files</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokala filer</translation>
     </message>
 </context>
 <context>
     <name>corvane::MainWindow</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fel</translation>
     </message>
     <message>
         <source>Please enter a partner Client ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ange ett partner-ID.</translation>
     </message>
     <message>
         <source>Server unavailable — retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Servern är inte tillgänglig – försöker igen...</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Redo</translation>
     </message>
     <message>
         <source>Ready. Your ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Redo. Ditt ID: %1</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Frånkopplad</translation>
     </message>
     <message>
         <source>Online (Ready)</source>
-        <translation type="unfinished"></translation>
+        <translation>Online (redo)</translation>
     </message>
     <message>
         <source>Reconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Återansluter...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner-ID:t måste bestå av exakt 9 siffror.</translation>
     </message>
     <message>
         <source>Please enter the partner&apos;s password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ange partnerns lösenord.</translation>
     </message>
     <message>
         <source>Client %1 wants to connect.
 Purpose: %2
 
 Accept?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enheten %1 vill ansluta.
+Syfte: %2
+
+Vill du godkänna?</translation>
     </message>
     <message>
         <source>remote access</source>
-        <translation type="unfinished"></translation>
+        <translation>fjärråtkomst</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkommande anslutning</translation>
     </message>
     <message>
         <source>Incoming connection from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkommande anslutning från %1</translation>
     </message>
     <message>
         <source>Initiating session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Startar session...</translation>
     </message>
     <message>
         <source>Exchanging keys...</source>
-        <translation type="unfinished"></translation>
+        <translation>Utbyter nycklar...</translation>
     </message>
     <message>
         <source>Establishing transport...</source>
-        <translation type="unfinished"></translation>
+        <translation>Upprättar transport...</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansluten</translation>
     </message>
     <message>
         <source>Disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopplar från...</translation>
     </message>
     <message>
         <source>Session failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessionen misslyckades</translation>
     </message>
     <message>
         <source>Session failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessionen misslyckades.</translation>
     </message>
     <message>
         <source>Session Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessionsfel</translation>
     </message>
     <message>
         <source>Corvane - %1 [%2 FPS]</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - %1 [%2 FPS]</translation>
     </message>
     <message>
         <source>Failed to connect. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det gick inte att ansluta. Försök igen.</translation>
     </message>
     <message>
         <source>The partner is not available or offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Partnern är inte tillgänglig eller är offline.</translation>
     </message>
     <message>
         <source>Invalid session password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogiltigt sessionslösenord.</translation>
     </message>
     <message>
         <source>Connection Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Anslutningsfel</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Uppdatering</translation>
     </message>
     <message>
         <source>The installer could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationsprogrammet kunde inte startas.</translation>
     </message>
     <message>
         <source>Application minimized to system tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmet har minimerats till meddelandefältet.</translation>
     </message>
     <message>
         <source>Remote session active — sharing your screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjärrsession aktiv – din skärm delas.</translation>
     </message>
     <message>
         <source>Corvane - Connected to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Ansluten till %1</translation>
     </message>
     <message>
         <source>Change Session Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Byt sessionslösenord</translation>
     </message>
     <message>
         <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation type="unfinished"></translation>
+        <translation>Nytt lösenord (minst 8 tecken, stor + liten bokstav + siffra):</translation>
     </message>
     <message>
         <source>Invalid Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogiltigt lösenord</translation>
     </message>
 </context>
 <context>
     <name>corvane::QualityIndicator</name>
     <message>
         <source>Poor</source>
-        <translation type="unfinished"></translation>
+        <translation>Dålig</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Bra</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Hyfsad</translation>
     </message>
     <message>
         <source>%1 (%2 FPS, %3ms)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 FPS, %3 ms)</translation>
     </message>
     <message>
         <source>Connection: Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Anslutning: Bra</translation>
     </message>
 </context>
 <context>
     <name>corvane::RemoteFilePane</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapp</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil</translation>
     </message>
     <message>
         <source>Go up one directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Gå upp en mapp</translation>
     </message>
     <message>
         <source>Remote files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjärrfiler</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Namn</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Storlek</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote Computer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Fjärrdator&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;Remote: &lt;/b&gt;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Fjärrdator: &lt;/b&gt;%1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionDataPlane</name>
     <message>
         <source>Failed to start screen capture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det gick inte att starta skärmdelningen.</translation>
     </message>
 </context>
 <context>
     <name>corvane::SessionManager</name>
     <message>
         <source>Cannot initiate session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessionen kan inte startas: en annan pågår redan</translation>
     </message>
     <message>
         <source>Server returned invalid session data</source>
-        <translation type="unfinished"></translation>
+        <translation>Servern returnerade ogiltiga sessionsdata</translation>
     </message>
     <message>
         <source>Missing target ECDH public key</source>
-        <translation type="unfinished"></translation>
+        <translation>Målets offentliga ECDH-nyckel saknas</translation>
     </message>
     <message>
         <source>ECDH key derivation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>ECDH-nyckeln kunde inte härledas</translation>
     </message>
     <message>
         <source>Cannot accept session: not idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessionen kan inte godkännas: en annan pågår redan</translation>
     </message>
     <message>
         <source>Transport failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Transportfel: %1</translation>
     </message>
     <message>
         <source>Crypto error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kryptofel: %1</translation>
     </message>
     <message>
         <source>Cipher error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Krypteringsfel: %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::SettingsDialog</name>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Starta vid inloggning</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starta Corvane automatiskt när du loggar in.</translation>
     </message>
     <message>
         <source>Start with Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Starta med Windows</translation>
     </message>
     <message>
         <source>Automatically start Corvane when you log in to Windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starta Corvane automatiskt när du loggar in i Windows.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Inställningar</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Visning</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Nätverk</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancerat</translation>
     </message>
     <message>
         <source>Application language. Requires restart to take effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmets språk. Träder i kraft efter omstart.</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemets standard</translation>
     </message>
     <message>
         <source>Quality: 24 fps, sharp image, higher bandwidth.
 Speed: 10 fps, lower bandwidth and CPU usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvalitet: 24 FPS, skarp bild, högre bandbredd.
+Hastighet: 10 FPS, lägre bandbredd och CPU-användning.</translation>
     </message>
     <message>
         <source>Optimize Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimera kvaliteten</translation>
     </message>
     <message>
         <source>Optimize Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimera hastigheten</translation>
     </message>
     <message>
         <source>Select which monitor to share when someone connects to this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Välj vilken bildskärm som ska delas när någon ansluter till den här enheten.</translation>
     </message>
     <message>
         <source>Monitor %1: %2 (%3x%4%5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildskärm %1: %2 (%3x%4%5)</translation>
     </message>
     <message>
         <source>, Primary</source>
-        <translation type="unfinished"></translation>
+        <translation>, primär</translation>
     </message>
     <message>
         <source>Synchronise clipboard content between the local and remote machines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkronisera innehållet i urklipp mellan den lokala datorn och fjärrdatorn.</translation>
     </message>
     <message>
         <source>Enable clipboard sharing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dela urklipp</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Språk:</translation>
     </message>
     <message>
         <source>Display mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Visningsläge:</translation>
     </message>
     <message>
         <source>Capture monitor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Delad bildskärm:</translation>
     </message>
     <message>
         <source>Automatically attempt to re-establish the connection after an unexpected disconnect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Försök automatiskt återupprätta anslutningen efter ett oväntat avbrott.</translation>
     </message>
     <message>
         <source>Auto-reconnect on disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Återanslut automatiskt vid avbrott</translation>
     </message>
     <message>
         <source>Maximum number of consecutive reconnection attempts before giving up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Högsta antal återanslutningsförsök i följd innan programmet ger upp.</translation>
     </message>
     <message>
         <source>Max reconnect attempts:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. antal återanslutningsförsök:</translation>
     </message>
     <message>
         <source>Install CorvaneService.exe as a Windows service that runs at boot,
 even when no user is logged in. Requires administrator privileges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installera CorvaneService.exe som en Windows-tjänst som körs vid systemstart,
+även när ingen användare är inloggad. Kräver administratörsbehörighet.</translation>
     </message>
     <message>
         <source>Run as Windows Service (unattended)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kör som Windows-tjänst (obevakad)</translation>
     </message>
     <message>
         <source>Keep the application running in the system tray when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Låt programmet köras i meddelandefältet när fönstret stängs.</translation>
     </message>
     <message>
         <source>Minimize to tray on close</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimera till meddelandefältet vid stängning</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Avbryt</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkställ</translation>
     </message>
     <message>
         <source>Language Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Språket har ändrats</translation>
     </message>
     <message>
         <source>Please restart the application to apply the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starta om programmet för att använda det nya språket.</translation>
     </message>
     <message>
         <source>Applying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkställer...</translation>
     </message>
     <message>
         <source>Asking the system...</source>
-        <translation type="unfinished"></translation>
+        <translation>Frågar systemet...</translation>
     </message>
 </context>
 <context>
     <name>corvane::SignalingClient</name>
     <message>
         <source>Authentication rejected by server</source>
-        <translation type="unfinished"></translation>
+        <translation>Autentiseringen avvisades av servern</translation>
     </message>
 </context>
 <context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvane - Fjärråtkomst</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Visa</translation>
     </message>
     <message>
         <source>Status: Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Status: Frånkopplad</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Koppla från</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Avsluta</translation>
     </message>
     <message>
         <source>Incoming Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkommande anslutning</translation>
     </message>
     <message>
         <source>Client %1 is requesting a remote connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enheten %1 begär en fjärranslutning.</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferRunner</name>
     <message>
         <source>All downloads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alla nedladdningar är klara.</translation>
     </message>
     <message>
         <source>All uploads complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alla uppladdningar är klara.</translation>
     </message>
     <message>
         <source>Uploading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Laddar upp %1 av %2: %3</translation>
     </message>
     <message>
         <source>Downloaded: %1 — %2 remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedladdad: %1 – %2 återstår</translation>
     </message>
     <message>
         <source>Downloading %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Laddar ned %1 av %2: %3</translation>
     </message>
 </context>
 <context>
     <name>corvane::TransferStatus</name>
     <message>
         <source>Transfer progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Överföringsförlopp</translation>
     </message>
     <message>
         <source>%p% — %1/s, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%p% – %1/s, %2 kvar</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateBanner</name>
     <message>
         <source>Update available: v%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uppdatering tillgänglig: v%1</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Laddar ned...</translation>
     </message>
     <message>
         <source>Update Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Uppdatera nu</translation>
     </message>
 </context>
 <context>
     <name>corvane::UpdateService</name>
     <message>
         <source>Cannot write to temp directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det går inte att skriva till den tillfälliga mappen.</translation>
     </message>
     <message>
         <source>Downloaded file is too small — update aborted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den nedladdade filen är för liten – uppdateringen avbröts.</translation>
     </message>
     <message>
         <source>Failed to extract installer from zip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationsprogrammet kunde inte packas upp ur ZIP-filen.</translation>
     </message>
 </context>
 <context>
     <name>corvane::ValueFormats</name>
     <message>
         <source>%1 B</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 GB</translation>
     </message>
 </context>
 <context>
     <name>corvane::ViewerToolBar</name>
     <message>
         <source>Info  (Ctrl+Shift+I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Info  (Ctrl+Shift+I)</translation>
     </message>
     <message>
         <source>Files  (Ctrl+Shift+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer  (Ctrl+Shift+F)</translation>
     </message>
     <message>
         <source>Chat  (Ctrl+Shift+C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chatt  (Ctrl+Shift+C)</translation>
     </message>
     <message>
         <source>Scale Mode  (Ctrl+Shift+Q)</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalningsläge  (Ctrl+Shift+Q)</translation>
     </message>
     <message>
         <source>Switch Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Byt bildskärm</translation>
     </message>
     <message>
         <source>Fullscreen  (F11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Helskärm  (F11)</translation>
     </message>
     <message>
         <source>Disconnect  (Ctrl+Shift+D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koppla från  (Ctrl+Shift+D)</translation>
     </message>
     <message>
         <source>Chat (!)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chatt (!)</translation>
     </message>
     <message>
         <source>Chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chatt</translation>
     </message>
     <message>
         <source>Fit to Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassa till fönstret</translation>
     </message>
     <message>
         <source>Stretch to Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Sträck ut till fönstret</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalstorlek</translation>
     </message>
     <message>
         <source>Monitor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildskärm %1</translation>
     </message>
 </context>
 <context>
     <name>corvane::WakeOnLanAction</name>
     <message>
         <source>Wake-on-LAN</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN</translation>
     </message>
     <message>
         <source>Enter MAC address for this partner (XX:XX:XX:XX:XX:XX):</source>
-        <translation type="unfinished"></translation>
+        <translation>Ange MAC-adressen för den här partnern (XX:XX:XX:XX:XX:XX):</translation>
     </message>
     <message>
         <source>WoL</source>
-        <translation type="unfinished"></translation>
+        <translation>WoL</translation>
     </message>
     <message>
         <source>Invalid MAC address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogiltig MAC-adress.</translation>
     </message>
     <message>
         <source>The Wake-on-LAN packet could not be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN-paketet kunde inte skickas.</translation>
     </message>
     <message>
         <source>Wake-on-LAN packet sent to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wake-on-LAN-paketet har skickats till %1</translation>
     </message>
 </context>
 </TS>
