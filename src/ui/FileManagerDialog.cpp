@@ -160,7 +160,7 @@ void FileManagerDialog::onDownloadClicked() {
     }
     confirm(tr("These files already exist locally and will be overwritten:\n%1\n\n"
                "Continue?"),
-            plan, &TransferRunner::download);
+            plan.overwritten, [this, files = plan.transfers] { m_runner->download(files); });
 }
 
 void FileManagerDialog::onUploadClicked() {
@@ -172,21 +172,20 @@ void FileManagerDialog::onUploadClicked() {
     const TransferPlan plan = planUploads(selected, m_remote->path(), m_remote->fileNames());
     confirm(tr("These files already exist on the remote and will be overwritten:\n%1\n\n"
                "Continue?"),
-            plan, &TransferRunner::upload);
+            plan.overwritten, [this, files = plan.transfers] { m_runner->upload(files); });
 }
 
-void FileManagerDialog::confirm(const QString& question, const TransferPlan& plan,
-                                void (TransferRunner::*run)(const QList<FileTransfer>&)) {
-    if (plan.overwritten.isEmpty()) {
-        (m_runner->*run)(plan.transfers);
+void FileManagerDialog::confirm(const QString& question, const QStringList& overwritten,
+                                const std::function<void()>& run) {
+    if (overwritten.isEmpty()) {
+        run();
         return;
     }
-    m_boxes->ask(tr("Overwrite?"), question.arg(shownNames(plan.overwritten)),
-                 [this, transfers = plan.transfers, run](bool yes) {
-                     if (yes) {
-                         (m_runner->*run)(transfers);
-                     }
-                 });
+    m_boxes->ask(tr("Overwrite?"), question.arg(shownNames(overwritten)), [run](bool yes) {
+        if (yes) {
+            run();
+        }
+    });
 }
 
 void FileManagerDialog::onTransferError(const QString& error) {

@@ -4,6 +4,9 @@
 
 #include <QDialog>
 #include <QList>
+#include <QStringList>
+
+#include <functional>
 
 class QTreeWidgetItem;
 
@@ -15,8 +18,6 @@ class MessageBoxes;
 class RemoteFilePane;
 class TransferRunner;
 class TransferStatus;
-struct FileTransfer;
-struct TransferPlan;
 
 /// Browses the partner's files beside this machine's own and copies them in both directions, by the
 /// rules of `TransferRunner`. Closing hides the dialog and lets a batch go on; the end of the
@@ -46,10 +47,10 @@ private:
     void connectRunner();
     void connectService(const FileTransferService* service);
     void openRemoteFolder(const QString& path);
-    /// Runs the plan, after the user has agreed where something is overwritten. `question` has a
+    /// Calls `run` once the user has agreed to overwrite what is, if anything is. `question` has a
     /// place for the names.
-    void confirm(const QString& question, const TransferPlan& plan,
-                 void (TransferRunner::*run)(const QList<FileTransfer>&));
+    void confirm(const QString& question, const QStringList& overwritten,
+                 const std::function<void()>& run);
     /// A status that lasts until the user opens a folder.
     void showResult(const QString& text);
     void onServiceGone();
