@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demonstration need and that are
-# missing, and nothing else.
+# missing, and nothing else. The cross-compiler and Wine come in only beside the Windows libraries.
 set -euo pipefail
 
 packages=(
@@ -16,6 +16,10 @@ packages=(
     # running the program on a virtual display
     fonts-dejavu-core libgl1-mesa-dri xkb-data xvfb
 )
+if [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
+    # building the Windows program and running it
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+fi
 
 missing=()
 for package in "${packages[@]}"; do
