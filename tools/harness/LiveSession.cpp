@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kStartTimeout = 30s;
+constexpr auto kStartTimeout = 60s;
 constexpr auto kConnectTimeout = 30s;
 constexpr auto kInputTimeout = 10s;
 constexpr auto kPictureTimeout = 8s;
