@@ -7,23 +7,16 @@
 set -euo pipefail
 
 base=$(realpath "$(dirname "$0")/..")/build/wine
-<<<<<<< HEAD
-# Fonts that are there under the names that Windows programs ask for.
-=======
 # Windows where no window manager is; a crash ends the program instead of showing a dialog; fonts
 # that are there under the names that Windows programs ask for.
->>>>>>> win
 settings='Windows Registry Editor Version 5.00
 
 [HKEY_CURRENT_USER\Software\Wine\X11 Driver]
 "Managed"="N"
 
-<<<<<<< HEAD
-=======
 [HKEY_CURRENT_USER\Software\Wine\WineDbg]
 "ShowCrashDialog"=dword:00000000
 
->>>>>>> win
 [HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]
 "MS Shell Dlg"="DejaVu Sans"
 "MS Shell Dlg 2"="DejaVu Sans"

@@ -44,10 +44,10 @@ void SessionDialogs::openChat() {
 }
 
 void SessionDialogs::openFiles() {
+    // One for the whole session: closing it only hides it, so that its transfers go on.
     if (!m_files) {
         m_files = new FileManagerDialog(m_session->fileTransferService(), m_window);
         m_files->setObjectName(QStringLiteral("fileManagerDialog"));
-        m_files->setAttribute(Qt::WA_DeleteOnClose);
     }
     present(m_files);
 }

@@ -88,7 +88,7 @@ TEST_P(TranslationsTest, SaysEverythingThatTheSourcesSay) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TranslationsTest, testing::Values(CORVANE_LANGUAGE_CODES),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& language) { return std::string(language.param); });
 
 } // namespace
 } // namespace corvane
