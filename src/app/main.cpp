@@ -110,10 +110,10 @@ int main(int argc, char** argv) {
     applySessionSettings(session, settings);
 
     const auto integration = createSystemIntegration();
-    MainWindow window(
-        &auth, &api, &signaling, &session, &settings,
-        {.integration = integration.get(),
-         .monitors = [] { return capturableMonitors(captureBackendCandidates()); }});
+    MainWindow window(&auth, &api, &signaling, &session, &settings,
+                      {.integration = integration.get(), .monitors = [] {
+                           return capturableMonitors(captureBackendCandidates());
+                       }});
     UpdateService updates;
     connectUpdates(auth, window, updates);
     QObject::connect(

@@ -74,7 +74,10 @@ protected:
                         &m_settings,
                         {.integration = m_integration.get(),
                          .monitors = [] { return std::vector<MonitorInfo>(); },
-                         .isTrayThere = [this] { return m_isTrayThere; }}};
+                         .isTrayThere =
+                             [this] {
+                                 return m_isTrayThere;
+                             }}};
 };
 
 } // namespace corvane::test
