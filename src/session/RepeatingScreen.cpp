@@ -31,9 +31,12 @@ std::unique_ptr<CapturedFrame> RepeatingScreen::captureFrame() {
     if (!last) {
         return nullptr;
     }
-    auto frame = std::make_unique<CapturedFrame>(*last);
+    auto frame = std::make_unique<CapturedFrame>();
+    frame->data = copyBytes(last->data);
+    frame->width = last->width;
+    frame->height = last->height;
+    frame->stride = last->stride;
     frame->timestamp = monotonicMilliseconds();
-    frame->keyframeRequested = false;
     return frame;
 }
 
