@@ -36,6 +36,18 @@ QByteArray toByteArray(const rtc::binary& bytes) {
                       static_cast<qsizetype>(bytes.size()));
 }
 
+/// Has every message received as a whole. The library starts to hand one over in parts when it is
+/// larger than half of the buffer or comes in more chunks than may be queued; and when the rest of
+/// an unreliable one is then lost, it takes the parts for the start of the next message, on
+/// whichever channel that is. Holds for the connections made afterwards.
+void receiveWholeMessages() {
+    constexpr size_t kSmallestChunk = 512;
+    rtc::SctpSettings settings;
+    settings.recvBufferSize = 2 * P2PTransport::kMaxMessageSize;
+    settings.maxChunksOnQueue = *settings.recvBufferSize / kSmallestChunk;
+    rtc::SetSctpSettings(settings);
+}
+
 } // namespace
 
 P2PTransport::P2PTransport(QObject* parent, std::chrono::milliseconds standstill)
@@ -212,6 +224,7 @@ rtc::Configuration P2PTransport::configuration() const {
 
 void P2PTransport::createPeerConnection(const Listener& listener) {
     using PeerConnection = rtc::PeerConnection;
+    receiveWholeMessages();
     m_peer = std::make_shared<PeerConnection>(configuration());
     m_peer->onStateChange([listener](PeerConnection::State state) {
         spdlog::info("P2PTransport: PeerConnection state -> {}", static_cast<int>(state));

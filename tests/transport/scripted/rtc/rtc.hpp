@@ -50,6 +50,13 @@ struct DataChannelInit {
     Reliability reliability;
 };
 
+struct SctpSettings {
+    std::optional<size_t> recvBufferSize;
+    std::optional<size_t> maxChunksOnQueue;
+};
+
+inline void SetSctpSettings(const SctpSettings&) {}
+
 class Description {
 public:
     Description(std::string sdp, std::string type)
