@@ -2,7 +2,8 @@
 # Shows a live session: a server, a shared machine and a viewer, all on this machine.
 #
 # The viewer appears on your display, or on a virtual one where there is none (or with --headless).
-# --watch keeps the session open at the end. Exits 0 only if everything that it shows held.
+# --relay keeps the two from connecting directly, --watch keeps the session open at the end.
+# Exits 0 only if everything that it shows held.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -10,10 +11,10 @@ arguments=()
 display=${DISPLAY:-}
 for argument in "$@"; do
     case $argument in
-    --watch) arguments+=(--watch) ;;
+    --relay | --watch) arguments+=("$argument") ;;
     --headless) display= ;;
     *)
-        echo "usage: scripts/demo.sh [--watch] [--headless]" >&2
+        echo "usage: scripts/demo.sh [--relay] [--watch] [--headless]" >&2
         exit 2
         ;;
     esac

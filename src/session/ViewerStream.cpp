@@ -13,6 +13,7 @@ std::shared_ptr<DecodedFrame> ViewerStream::decode(ByteSpan packet) {
     if (!m_decoder->isInitialized() && !m_decoder->initialize(0, 0)) {
         return nullptr;
     }
+    m_meter.count(packet.size());
     return m_decoder->decode(packet.data(), packet.size(), monotonicMilliseconds());
 }
 

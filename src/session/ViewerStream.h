@@ -2,6 +2,7 @@
 
 #include "ByteVector.h"
 #include "DecodedFrame.h"
+#include "StreamMeter.h"
 
 #include <memory>
 
@@ -22,6 +23,7 @@ public:
 
 private:
     std::unique_ptr<IVideoDecoder> m_decoder;
+    StreamMeter m_meter;
 };
 
 } // namespace corvane

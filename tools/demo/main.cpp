@@ -37,6 +37,15 @@ void endOnInterrupt(harness::LiveSession& session) {
     });
 }
 
+void reportTransport(harness::LiveSession& session, bool relayWanted, demo::DemoReport& report) {
+    const QString transport = session.transport();
+    if (relayWanted) {
+        report.check(QStringLiteral("transport"), transport == u"relay", transport);
+    } else {
+        report.fact(QStringLiteral("transport"), transport);
+    }
+}
+
 void checkTyping(harness::LiveSession& session, demo::DemoReport& report) {
     const QString word = QStringLiteral("Corvane2026");
     const bool arrived = session.typeRemotely(word);
@@ -110,10 +119,14 @@ int main(int argc, char** argv) {
                                     QStringLiteral("folder"), QStringLiteral("."));
     const QCommandLineOption watching(QStringLiteral("watch"),
                                       QStringLiteral("Keep the session open at the end."));
-    parser.addOptions({display, output, watching});
+    const QCommandLineOption relay(
+        QStringLiteral("relay"),
+        QStringLiteral("Keep the two from meeting directly, so that the relay carries them."));
+    parser.addOptions({display, output, relay, watching});
     parser.process(application);
 
     harness::LiveSession live({.viewerDisplay = parser.value(display), .stillDesktop = false});
+    live.server().misbehaviour().setWithholdIce(parser.isSet(relay));
     endOnInterrupt(live);
     demo::DemoReport report;
     const bool connected = live.start() && live.connectToTarget();
@@ -121,9 +134,7 @@ int main(int argc, char** argv) {
                       connected ? QStringLiteral("Connected") : live.error())) {
         return EXIT_FAILURE;
     }
-    const QString established =
-        live.viewer().logLines(QStringLiteral("Transport established via")).value(0);
-    report.fact(QStringLiteral("transport"), established.section(QLatin1Char(' '), -1));
+    reportTransport(live, parser.isSet(relay), report);
     report.fact(QStringLiteral("viewer's states"),
                 harness::LiveSession::stateChanges(live.viewer()));
     report.fact(QStringLiteral("target's states"),
