@@ -44,6 +44,7 @@ void configureStreaming(SessionManager& session, const SettingsController& setti
     session.setCaptureFrameRate(settings.captureFrameRate());
     session.setEncoderQuality(settings.encoderQuality(), settings.encoderSpeed().toStdString());
     session.setMonitorIndex(settings.monitorIndex());
+    session.setClipboardSharing(settings.clipboardSharing());
 }
 
 } // namespace

@@ -36,6 +36,7 @@ QString uptimeText(uint64_t seconds) {
 } // namespace
 
 ConnectionQualityMonitor::ConnectionQualityMonitor(QObject* parent) : QObject(parent) {
+    m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(kUpdateInterval);
     connect(&m_timer, &QTimer::timeout, this, &ConnectionQualityMonitor::onUpdateTick);
 }
@@ -63,11 +64,10 @@ QualityLevel ConnectionQualityMonitor::qualityLevel() const {
     return m_level;
 }
 
-QString ConnectionQualityMonitor::summaryText() const {
-    const ConnectionStats last = stats();
+QString ConnectionQualityMonitor::summaryText(const ConnectionStats& stats) {
     return tr("FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4")
-        .arg(QString::number(qRound64(last.fps)), QString::number(qRound64(last.latencyMs)),
-             bandwidthText(last.bandwidthKbps), uptimeText(last.uptimeSeconds));
+        .arg(QString::number(qRound64(stats.fps)), QString::number(qRound64(stats.latencyMs)),
+             bandwidthText(stats.bandwidthKbps), uptimeText(stats.uptimeSeconds));
 }
 
 void ConnectionQualityMonitor::countFrame() {

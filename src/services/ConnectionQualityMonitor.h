@@ -27,7 +27,10 @@ public:
 
     ConnectionStats stats() const; ///< as last published
     QualityLevel qualityLevel() const;
-    QString summaryText() const; ///< one line for the user
+    QString summaryText() const { return summaryText(stats()); }
+
+    /// One line for the user.
+    static QString summaryText(const ConnectionStats& stats);
 
     void countFrame();
     void countDroppedFrame();
