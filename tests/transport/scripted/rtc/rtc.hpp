@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -125,7 +126,7 @@ public:
 
     const Reliability settings;
     bool open = false;
-    size_t buffered = 0;
+    std::atomic<size_t> buffered = 0;
     size_t threshold = 0;
     std::optional<std::string> refusal;
     std::vector<binary> sent;
