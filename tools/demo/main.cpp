@@ -39,6 +39,15 @@ void endOnInterrupt(harness::LiveSession& session) {
     });
 }
 
+void reportTransport(harness::LiveSession& session, bool relayWanted, demo::DemoReport& report) {
+    const QString transport = session.transport();
+    if (relayWanted) {
+        report.check(QStringLiteral("transport"), transport == u"relay", transport);
+    } else {
+        report.fact(QStringLiteral("transport"), transport);
+    }
+}
+
 void checkTyping(harness::LiveSession& session, demo::DemoReport& report) {
     const QString word = QStringLiteral("Corvane2026");
     const bool arrived = session.typeRemotely(word);
@@ -115,10 +124,13 @@ int main(int argc, char** argv) {
                                     QStringLiteral("folder"), QStringLiteral("."));
     const QCommandLineOption watching(QStringLiteral("watch"),
                                       QStringLiteral("Keep the session open at the end."));
+    const QCommandLineOption relay(
+        QStringLiteral("relay"),
+        QStringLiteral("Keep the two from meeting directly, so that the relay carries them."));
     const QCommandLineOption windowsTarget(
         QStringLiteral("windows-target"),
         QStringLiteral("Share a Windows machine: the packaged program under Wine."));
-    parser.addOptions({display, output, watching, windowsTarget});
+    parser.addOptions({display, output, relay, watching, windowsTarget});
     parser.process(application);
 
     const bool onWindows = parser.isSet(windowsTarget);
@@ -131,6 +143,7 @@ int main(int argc, char** argv) {
          .stillDesktop = false,
          .target = onWindows ? harness::Platform::Windows : harness::Platform::Linux,
          .viewer = harness::Platform::Linux});
+    live.server().misbehaviour().setWithholdIce(parser.isSet(relay));
     endOnInterrupt(live);
     demo::DemoReport report;
     const bool connected = live.start() && live.connectToTarget();
@@ -138,9 +151,7 @@ int main(int argc, char** argv) {
                       connected ? QStringLiteral("Connected") : live.error())) {
         return EXIT_FAILURE;
     }
-    const QString established =
-        live.viewer().logLines(QStringLiteral("Transport established via")).value(0);
-    report.fact(QStringLiteral("transport"), established.section(QLatin1Char(' '), -1));
+    reportTransport(live, parser.isSet(relay), report);
     report.fact(QStringLiteral("viewer's states"),
                 harness::LiveSession::stateChanges(live.viewer()));
     report.fact(QStringLiteral("target's states"),

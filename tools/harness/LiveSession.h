@@ -20,7 +20,7 @@ namespace corvane::harness {
 /// Waits, with the event loop running, until `condition` holds. False when it never did.
 bool waitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout);
 
-/// What the relay carried from the target to the viewer over a while.
+/// What arrived of the target's screen at the viewer over a while.
 struct StreamFigures {
     double framesPerSecond = 0.0;
     double kilobitsPerSecond = 0.0;
@@ -63,6 +63,7 @@ public:
     /// From a key press on the viewer's display to the letter in the viewer's picture.
     std::optional<std::chrono::milliseconds> inputRoundTrip();
 
+    /// Takes a few seconds at least: the viewer counts by the second.
     StreamFigures measureStream(std::chrono::milliseconds duration);
 
     /// Starts or stops what moves on the target's desktop.
@@ -77,6 +78,9 @@ public:
 
     QImage targetScreen() const { return m_targetDisplay->grab(); }
     QImage viewerScreen() const { return m_viewerDisplay->grab(); }
+
+    /// "p2p" or "relay", whichever carries the viewer's session.
+    QString transport() const;
 
     /// "Idle -> Initiating -> …" as logged by a client.
     static QString stateChanges(const ClientProcess& client);
