@@ -20,8 +20,8 @@ namespace {
 
 constexpr auto kStartTimeout = 60s;
 constexpr auto kConnectTimeout = 30s;
-constexpr auto kInputTimeout = 10s;
-constexpr auto kPictureTimeout = 8s;
+constexpr auto kInputTimeout = 30s;
+constexpr auto kPictureTimeout = 30s;
 
 /// Follows the password rule: eight characters, lower and upper case, a digit.
 QString createPassword() {

@@ -69,7 +69,7 @@ public:
     /// Starts or stops what moves on the target's desktop.
     void setDesktopRunning(bool running);
 
-    /// How close the viewer's picture comes to the target's screen within a few seconds, in dB.
+    /// How close the viewer's picture comes to the target's screen in time, in dB.
     /// Means something while the desktop stands still.
     double pictureFidelity();
 
