@@ -1,6 +1,5 @@
 #include "SessionCommand.h"
 
-#include <algorithm>
 #include <charconv>
 
 namespace corvane {
@@ -21,15 +20,6 @@ std::optional<int> parseSwitchMonitorCommand(std::string_view command) {
         return std::nullopt;
     }
     return index;
-}
-
-std::string loggableCommand(std::string_view command) {
-    constexpr size_t kMaximumLength = 200;
-    std::string text(command.substr(0, kMaximumLength));
-    std::replace_if(
-        text.begin(), text.end(),
-        [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
-    return command.size() > kMaximumLength ? text + "..." : text;
 }
 
 } // namespace corvane

@@ -16,7 +16,4 @@ std::string switchMonitorCommand(int monitorIndex);
 /// number is not a non-negative decimal integer.
 std::optional<int> parseSwitchMonitorCommand(std::string_view command);
 
-/// The command as it may stand in a log line: cut to a sane length, control characters replaced.
-std::string loggableCommand(std::string_view command);
-
 } // namespace corvane

@@ -1,5 +1,6 @@
 #include "SessionDataPlane.h"
 
+#include "LoggableText.h"
 #include "SessionCommand.h"
 
 #include <spdlog/spdlog.h>
@@ -10,6 +11,8 @@
 #include <string_view>
 
 namespace corvane {
+
+constexpr size_t kLoggedCommandSize = 200;
 
 /// Who takes a tag, from which size on (tag byte included), and what handles it.
 struct SessionDataPlane::ControlRoute {
@@ -22,10 +25,12 @@ struct SessionDataPlane::ControlRoute {
 
 const SessionDataPlane::ControlRoute* SessionDataPlane::findRoute(uint8_t tag) {
     using enum ControlTag;
-    static constexpr std::array<ControlRoute, 4> kRoutes{{
+    static constexpr std::array<ControlRoute, 6> kRoutes{{
         {InputEvent, false, true, 2, &SessionDataPlane::onInputEvent},
         {KeyframeRequest, false, true, 1, &SessionDataPlane::onKeyframeRequest},
         {Command, true, true, 2, &SessionDataPlane::onCommand},
+        {Clipboard, true, true, 1, &SessionDataPlane::onClipboard},
+        {FileTransfer, true, true, 2, &SessionDataPlane::onFileTransfer},
         {Chat, true, true, 1, &SessionDataPlane::onChat},
     }};
     const auto route = std::find_if(kRoutes.begin(), kRoutes.end(), [tag](const auto& candidate) {
@@ -36,12 +41,12 @@ const SessionDataPlane::ControlRoute* SessionDataPlane::findRoute(uint8_t tag) {
 
 SessionDataPlane::SessionDataPlane(SessionRole role, const ByteVector& key,
                                    const ByteVector& baseIv, QObject* parent)
-    : QObject(parent), m_role(role), m_cipher(key, baseIv) {}
+    : QObject(parent), m_role(role), m_link(key, baseIv), m_services(m_link) {}
 
 SessionDataPlane::~SessionDataPlane() = default;
 
 void SessionDataPlane::setTransport(ITransport* transport) {
-    m_transport = transport;
+    m_link.setTransport(transport);
     updateFlow();
 }
 
@@ -52,15 +57,16 @@ void SessionDataPlane::startStreaming(const StreamingSettings& settings,
     }
     m_streaming = true;
     spdlog::info("Starting streaming (role: {})", sessionRoleName(m_role));
+    m_services.start(settings.clipboardSharing);
     if (m_role == SessionRole::Target) {
-        m_target = std::make_unique<TargetStream>(settings, m_cipher);
+        m_target = std::make_unique<TargetStream>(settings, m_link.cipher());
         connect(m_target.get(), &TargetStream::packetReady, this, &SessionDataPlane::sendVideo);
         if (!m_target->start(platform)) {
             m_target.reset();
             Q_EMIT failed(tr("Failed to start screen capture."));
         }
     } else {
-        m_viewer = std::make_unique<ViewerStream>();
+        createViewer();
         spdlog::info("Master streaming started (decoder ready)");
     }
 }
@@ -70,6 +76,7 @@ void SessionDataPlane::stopStreaming() {
         return;
     }
     m_streaming = false;
+    m_services.stop();
     if (m_target) {
         m_target->stop();
     }
@@ -78,8 +85,8 @@ void SessionDataPlane::stopStreaming() {
     }
 }
 
-void SessionDataPlane::setConnected(bool connected) {
-    m_connected = connected;
+void SessionDataPlane::setState(SessionState state) {
+    m_link.setState(state);
     updateFlow();
 }
 
@@ -95,7 +102,7 @@ void SessionDataPlane::receive(ChannelType channel, const QByteArray& sealed) {
 }
 
 void SessionDataPlane::sendInputEvent(const InputEvent& event) {
-    if (m_role != SessionRole::Master || !canSend()) {
+    if (m_role != SessionRole::Master || !m_link.isOpen()) {
         return;
     }
     if (!sendControl(ControlTag::InputEvent, event.serialize())) {
@@ -104,7 +111,7 @@ void SessionDataPlane::sendInputEvent(const InputEvent& event) {
 }
 
 void SessionDataPlane::requestMonitorSwitch(int monitorIndex) {
-    if (!canSend()) {
+    if (!m_link.isOpen()) {
         return;
     }
     const std::string command = switchMonitorCommand(monitorIndex);
@@ -114,10 +121,13 @@ void SessionDataPlane::requestMonitorSwitch(int monitorIndex) {
 }
 
 void SessionDataPlane::receiveControl(const QByteArray& sealed) {
-    const ByteVector message = open(sealed);
+    const ByteVector message = m_link.open(sealed);
     if (message.empty()) {
         spdlog::warn("Failed to decrypt control data ({} bytes)", sealed.size());
         return;
+    }
+    if (m_viewer) {
+        m_viewer->onMessage(SessionLink::counterOf(sealed));
     }
     const ControlRoute* route = findRoute(message.front());
     if (route == nullptr || message.size() < route->minimumSize) {
@@ -132,16 +142,21 @@ void SessionDataPlane::receiveVideo(const QByteArray& sealed) {
     if (m_role != SessionRole::Master) {
         return;
     }
-    const ByteVector packet = open(sealed);
+    const ByteVector packet = m_link.open(sealed);
     if (packet.empty()) {
         spdlog::warn("Failed to decrypt video data ({} bytes)", sealed.size());
+        m_link.countDroppedFrame();
         return;
     }
     if (!m_viewer) {
-        m_viewer = std::make_unique<ViewerStream>();
+        createViewer();
     }
-    if (auto frame = m_viewer->decode(packet)) {
+    const uint64_t counter = SessionLink::counterOf(sealed);
+    m_viewer->onMessage(counter);
+    if (auto frame = m_viewer->decode(counter, packet)) {
         Q_EMIT frameDecoded(std::move(frame));
+    } else {
+        m_link.countDroppedFrame();
     }
 }
 
@@ -170,7 +185,7 @@ void SessionDataPlane::onKeyframeRequest(ByteSpan) {
 void SessionDataPlane::onCommand(ByteSpan message) {
     const std::string_view command(reinterpret_cast<const char*>(message.data()) + 1,
                                    message.size() - 1);
-    spdlog::info("Session command received: {}", loggableCommand(command));
+    spdlog::info("Session command received: {}", loggableText(command, kLoggedCommandSize));
     if (command == kDisconnectCommand) {
         Q_EMIT disconnectRequested();
         return;
@@ -189,39 +204,42 @@ void SessionDataPlane::onCommand(ByteSpan message) {
     }
 }
 
-void SessionDataPlane::onChat(ByteSpan message) {
-    spdlog::info("Chat message received ({} bytes)", message.size());
-    spdlog::warn("Chat: service not initialized or message too short");
+void SessionDataPlane::createViewer() {
+    m_viewer = std::make_unique<ViewerStream>();
+    connect(m_viewer.get(), &ViewerStream::keyframeNeeded, this, [this] {
+        if (m_link.isOpen()) {
+            sendControl(ControlTag::KeyframeRequest, {});
+        }
+    });
 }
 
 void SessionDataPlane::updateFlow() {
     if (m_target) {
-        m_target->setFlowing(canSend());
+        m_target->setFlowing(m_link.isOpen());
     }
 }
 
+/// False when sealing failed. What the transport does not take is lost.
 bool SessionDataPlane::sendControl(ControlTag tag, ByteSpan payload) {
-    const ByteVector sealed = m_cipher.encrypt(controlMessage(tag, payload));
+    const ByteVector sealed = m_link.seal(controlMessage(tag, payload));
     if (sealed.empty()) {
         return false;
     }
-    m_transport->send(ChannelType::Control, sealed.data(), sealed.size());
+    m_link.send(ChannelType::Control, sealed);
     return true;
 }
 
 void SessionDataPlane::sendVideo(const ByteVector& sealed) {
-    if (!canSend()) {
+    if (!m_link.isOpen()) {
         return;
     }
-    if (!m_transport->send(ChannelType::Video, sealed.data(), sealed.size())) {
-        // The viewer misses this frame and cannot use what builds on it.
-        m_target->requestKeyframe();
+    if (m_link.send(ChannelType::Video, sealed)) {
+        m_link.countFrame();
+        return;
     }
-}
-
-ByteVector SessionDataPlane::open(const QByteArray& sealed) const {
-    return m_cipher.decrypt(reinterpret_cast<const uint8_t*>(sealed.constData()),
-                            static_cast<size_t>(sealed.size()));
+    m_link.countDroppedFrame();
+    // The viewer misses this frame and cannot use what builds on it.
+    m_target->requestKeyframe();
 }
 
 } // namespace corvane

@@ -1,23 +1,21 @@
 #pragma once
 
-#include "AesGcmCipher.h"
-#include "ControlMessage.h"
-#include "ITransport.h"
+#include "SessionLink.h"
 #include "SessionPlatform.h"
+#include "SessionServices.h"
 #include "SessionState.h"
 #include "StreamingSettings.h"
 #include "TargetStream.h"
 #include "ViewerStream.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <memory>
 
 namespace corvane {
 
-/// Everything one session carries once its key is agreed: seals what goes out, opens what comes in,
-/// dispatches control messages by their tag, and owns the streams of its side.
+/// Everything one session carries once its key is agreed: dispatches what comes in by channel and
+/// tag, and owns the link, the services and the streams of its side.
 ///
 /// One per session, on the main thread. Unusable messages are logged and dropped; the session goes
 /// on.
@@ -30,16 +28,23 @@ public:
                      QObject* parent = nullptr);
     ~SessionDataPlane() override;
 
-    /// The transport to send through; borrowed.
+    /// The transport to send through, borrowed; null for none.
     void setTransport(ITransport* transport);
 
-    /// Creates the streams of this side. A repeated call does nothing.
+    /// Creates the services and the streams of this side. A repeated call does nothing.
     void startStreaming(const StreamingSettings& settings, const SessionPlatform& platform);
 
     void stopStreaming();
 
-    /// Opens the way out: nothing is sent before the session is connected or after it closes.
-    void setConnected(bool connected);
+    /// Nothing is sent before the session is connected or after it closes.
+    void setState(SessionState state);
+
+    void setClipboardSharing(bool enabled) { m_services.setClipboardSharing(enabled); }
+    void setQualityMonitor(ConnectionQualityMonitor* monitor) { m_link.setQualityMonitor(monitor); }
+
+    /// Null before streaming starts.
+    ChatService* chatService() const { return m_services.chat(); }
+    FileTransferService* fileTransferService() const { return m_services.fileTransfer(); }
 
     void receive(ChannelType channel, const QByteArray& sealed);
 
@@ -65,18 +70,18 @@ private:
     void onInputEvent(ByteSpan message);
     void onKeyframeRequest(ByteSpan message);
     void onCommand(ByteSpan message);
-    void onChat(ByteSpan message);
+    void onClipboard(ByteSpan message) { m_services.onClipboard(message); }
+    void onFileTransfer(ByteSpan message) { m_services.onFileTransfer(message); }
+    void onChat(ByteSpan message) { m_services.onChat(message); }
 
-    bool canSend() const { return m_connected && m_transport; }
+    void createViewer();
     void updateFlow();
     bool sendControl(ControlTag tag, ByteSpan payload);
     void sendVideo(const ByteVector& sealed);
-    ByteVector open(const QByteArray& sealed) const;
 
     const SessionRole m_role;
-    AesGcmCipher m_cipher;
-    QPointer<ITransport> m_transport;
-    bool m_connected = false;
+    SessionLink m_link;
+    SessionServices m_services;
     bool m_streaming = false;
     std::unique_ptr<TargetStream> m_target;
     std::unique_ptr<ViewerStream> m_viewer;

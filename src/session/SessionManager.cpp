@@ -1,11 +1,12 @@
 #include "SessionManager.h"
 
 #include "ApiClient.h"
+#include "ConnectionQualityMonitor.h"
 #include "EcdhKeyExchange.h"
 #include "JsonFields.h"
 #include "SessionDataPlane.h"
+#include "SessionTransport.h"
 #include "SignalingClient.h"
-#include "TransportManager.h"
 
 #include <spdlog/spdlog.h>
 
@@ -19,7 +20,6 @@ namespace {
 /// The endpoint of the close request in the REST client's error reports.
 constexpr auto kCloseEndpoint = "/sessions/.../close";
 constexpr auto kCreateEndpoint = "/sessions/create";
-constexpr uint16_t kRelayPort = 9000;
 
 bool isIdle(SessionState state) {
     return state == SessionState::Idle || state == SessionState::Failed;
@@ -35,17 +35,6 @@ SessionManager::SessionManager(ApiClient* api, SignalingClient* signaling, Sessi
     connect(m_api, &ApiClient::requestError, this, &SessionManager::onRequestError);
     connect(m_signaling, &SignalingClient::sessionHandshakeAck, this,
             &SessionManager::onHandshakeAck);
-    connect(m_signaling, &SignalingClient::iceOffer, this,
-            [this](const QString& sessionId, const QString&, const QString& sdp) {
-                onRemoteDescription(sessionId, QStringLiteral("offer"), sdp);
-            });
-    connect(m_signaling, &SignalingClient::iceAnswer, this,
-            [this](const QString& sessionId, const QString&, const QString& sdp) {
-                onRemoteDescription(sessionId, QStringLiteral("answer"), sdp);
-            });
-    connect(m_signaling, &SignalingClient::iceCandidate, this,
-            [this](const QString& sessionId, const QString&, const QString& candidate,
-                   const QString& mid) { onRemoteCandidate(sessionId, candidate, mid); });
 }
 
 SessionManager::~SessionManager() {
@@ -70,6 +59,28 @@ void SessionManager::setMonitorIndex(int index) {
     m_streaming.monitorIndex = index;
 }
 
+void SessionManager::setClipboardSharing(bool enabled) {
+    m_streaming.clipboardSharing = enabled;
+    if (m_dataPlane) {
+        m_dataPlane->setClipboardSharing(enabled);
+    }
+}
+
+void SessionManager::setQualityMonitor(ConnectionQualityMonitor* monitor) {
+    m_qualityMonitor = monitor;
+    if (m_dataPlane) {
+        m_dataPlane->setQualityMonitor(monitor);
+    }
+}
+
+ChatService* SessionManager::chatService() const {
+    return m_dataPlane ? m_dataPlane->chatService() : nullptr;
+}
+
+FileTransferService* SessionManager::fileTransferService() const {
+    return m_dataPlane ? m_dataPlane->fileTransferService() : nullptr;
+}
+
 void SessionManager::initiateSession(const QString& targetClientId, const QString& password) {
     if (!isIdle(m_state)) {
         spdlog::warn("initiateSession called in non-idle state: {}", sessionStateName(m_state));
@@ -83,13 +94,13 @@ void SessionManager::initiateSession(const QString& targetClientId, const QStrin
     if (!createKeyExchange()) {
         return;
     }
-    m_creationPending = true;
+    m_creations.sent();
     m_api->createSession(targetClientId, password, QStringLiteral("remote_desktop"),
                          QString::fromStdString(m_keyExchange->publicKeyBase64()));
 }
 
 void SessionManager::onSessionCreated(const nlohmann::json& data) {
-    if (!takeCreationAnswer() || m_role != SessionRole::Master ||
+    if (!m_creations.takeAnswer() || m_role != SessionRole::Master ||
         m_state != SessionState::Initiating) {
         return;
     }
@@ -102,10 +113,18 @@ void SessionManager::onSessionCreated(const nlohmann::json& data) {
     m_sessionId = *sessionId;
     spdlog::info("Session created with ID: {}", m_sessionId.toStdString());
     setState(SessionState::Handshaking);
+    if (const auto ack = std::exchange(m_earlyAck, std::nullopt);
+        ack && ack->sessionId == m_sessionId) {
+        onHandshakeAck(ack->sessionId, ack->state, ack->targetEcdhPublicKey);
+    }
 }
 
 void SessionManager::onHandshakeAck(const QString& sessionId, const QString& state,
                                     const QString& targetEcdhPublicKey) {
+    if (m_role == SessionRole::Master && m_state == SessionState::Initiating) {
+        m_earlyAck = {sessionId, state, targetEcdhPublicKey};
+        return;
+    }
     if (m_role != SessionRole::Master || m_state != SessionState::Handshaking) {
         return;
     }
@@ -188,7 +207,7 @@ void SessionManager::onRequestError(const QString& endpoint, int, const QString&
     if (endpoint == QLatin1String(kCloseEndpoint)) {
         return;
     }
-    if (endpoint == QLatin1String(kCreateEndpoint) && !takeCreationAnswer()) {
+    if (endpoint == QLatin1String(kCreateEndpoint) && !m_creations.takeAnswer()) {
         return;
     }
     switch (m_state) {
@@ -209,28 +228,18 @@ void SessionManager::onRequestError(const QString& endpoint, int, const QString&
 void SessionManager::setupTransport() {
     spdlog::info("Setting up transport for session {}", m_sessionId.toStdString());
     setState(SessionState::Connecting);
-    m_transportManager = std::make_unique<TransportManager>(nullptr, m_platform.peerTransport);
-    auto* const manager = m_transportManager.get();
-    connect(manager, &TransportManager::connectionEstablished, this,
+    m_transport = std::make_unique<SessionTransport>(m_signaling, m_sessionId, m_peerId,
+                                                     m_platform.peerTransport);
+    connect(m_transport.get(), &SessionTransport::established, this,
             &SessionManager::onTransportEstablished);
-    connect(manager, &TransportManager::connectionFailed, this, &SessionManager::onTransportFailed);
-    connect(manager, &TransportManager::localDescriptionReady, this,
-            &SessionManager::sendDescription);
-    connect(manager, &TransportManager::localCandidateReady, this, &SessionManager::sendCandidate);
-
-    // Which NAT lies between the peers is not exchanged yet: 0 has peer-to-peer tried first.
-    constexpr int kUnknownNat = 0;
-    constexpr int kNoMetric = -1;
-    const RelayCandidate relay{QStringLiteral("local-relay"), m_api->serverUrl().host(), kRelayPort,
-                               kNoMetric};
-    manager->establishConnection(m_sessionId, kUnknownNat, kUnknownNat, {relay},
-                                 m_role == SessionRole::Master);
+    connect(m_transport.get(), &SessionTransport::failed, this, &SessionManager::onTransportFailed);
+    m_transport->establish(m_api->serverUrl().host(), m_role == SessionRole::Master);
 }
 
 void SessionManager::onTransportEstablished(const QString& method) {
     spdlog::info("Transport established via {}", method.toStdString());
     m_transportMethod = method;
-    ITransport* const transport = m_transportManager->activeTransport();
+    ITransport* const transport = m_transport->activeTransport();
     connect(transport, &ITransport::dataReceived, this, &SessionManager::onTransportData);
     connect(transport, &ITransport::disconnected, this, [this] {
         if (m_state == SessionState::Connected) {
@@ -271,38 +280,6 @@ void SessionManager::requestMonitorSwitch(int monitorIndex) {
     }
 }
 
-void SessionManager::sendDescription(const QString& type, const QString& sdp) {
-    const bool offer = type == u"offer";
-    m_signaling->sendMessage({{"type", offer ? "ICE_OFFER" : "ICE_ANSWER"},
-                              {"session_id", m_sessionId.toStdString()},
-                              {"target_client_id", m_peerId.toStdString()},
-                              {"sdp", sdp.toStdString()}});
-    spdlog::info("Sent ICE {} via signaling", offer ? "offer" : "answer");
-}
-
-void SessionManager::sendCandidate(const QString& candidate, const QString& mid) {
-    m_signaling->sendMessage({{"type", "ICE_CANDIDATE"},
-                              {"session_id", m_sessionId.toStdString()},
-                              {"target_client_id", m_peerId.toStdString()},
-                              {"candidate", candidate.toStdString()},
-                              {"mid", mid.toStdString()}});
-}
-
-void SessionManager::onRemoteDescription(const QString& sessionId, const QString& type,
-                                         const QString& sdp) {
-    if (m_transportManager && sessionId == m_sessionId) {
-        spdlog::info("Received ICE {} via signaling", type.toStdString());
-        m_transportManager->setRemoteDescription(sdp, type);
-    }
-}
-
-void SessionManager::onRemoteCandidate(const QString& sessionId, const QString& candidate,
-                                       const QString& mid) {
-    if (m_transportManager && sessionId == m_sessionId) {
-        m_transportManager->addRemoteCandidate(candidate, mid);
-    }
-}
-
 void SessionManager::endSession(const QString& reason) {
     if (isIdle(m_state)) {
         return;
@@ -336,7 +313,7 @@ void SessionManager::setState(SessionState newState) {
     spdlog::info("Session state: {} -> {}", sessionStateName(m_state), sessionStateName(newState));
     m_state = newState;
     if (m_dataPlane) {
-        m_dataPlane->setConnected(newState == SessionState::Connected);
+        m_dataPlane->setState(newState);
     }
     Q_EMIT stateChanged(newState);
 }
@@ -369,21 +346,14 @@ bool SessionManager::createDataPlane() {
         return false;
     }
     auto* const plane = m_dataPlane.get();
+    plane->setState(m_state);
+    plane->setQualityMonitor(m_qualityMonitor);
     connect(plane, &SessionDataPlane::frameDecoded, this, &SessionManager::frameDecoded);
     connect(plane, &SessionDataPlane::inputEventReceived, this,
             &SessionManager::inputEventReceived);
     connect(plane, &SessionDataPlane::failed, this, &SessionManager::sessionError);
     connect(plane, &SessionDataPlane::disconnectRequested, this,
             [this] { endSessionLater(QStringLiteral("remote_disconnect")); });
-    return true;
-}
-
-bool SessionManager::takeCreationAnswer() {
-    if (m_abandonedCreations > 0) {
-        --m_abandonedCreations;
-        return false;
-    }
-    m_creationPending = false;
     return true;
 }
 
@@ -402,10 +372,8 @@ void SessionManager::cleanup() {
     spdlog::debug("Session cleanup");
     stopStreaming();
     ++m_generation;
-    if (m_creationPending) {
-        m_creationPending = false;
-        ++m_abandonedCreations;
-    }
+    m_creations.abandon();
+    m_earlyAck.reset();
     // Clean-up may run inside a signal of either object: cut them off now, delete them later.
     const auto retire = [this](auto& owner) {
         if (owner) {
@@ -415,10 +383,13 @@ void SessionManager::cleanup() {
             object->deleteLater();
         }
     };
-    if (m_transportManager) {
-        m_transportManager->cleanup();
+    if (m_dataPlane) {
+        m_dataPlane->setTransport(nullptr);
     }
-    retire(m_transportManager);
+    if (m_transport) {
+        m_transport->close();
+    }
+    retire(m_transport);
     retire(m_dataPlane);
     m_keyExchange.reset();
     m_sessionId.clear();

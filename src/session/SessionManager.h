@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CreationRequests.h"
 #include "DecodedFrame.h"
 #include "ITransport.h"
 #include "InputEvent.h"
@@ -8,18 +9,23 @@
 #include "StreamingSettings.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <nlohmann/json.hpp>
 
 #include <memory>
+#include <optional>
 
 namespace corvane {
 
 class ApiClient;
+class ChatService;
+class ConnectionQualityMonitor;
 class EcdhKeyExchange;
+class FileTransferService;
 class SessionDataPlane;
+class SessionTransport;
 class SignalingClient;
-class TransportManager;
 
 /// Owns a remote-access session from its request to its end, as viewer or as shared machine: the
 /// state machine, the handshake, the key agreement and the teardown. At most one session at a time;
@@ -58,6 +64,17 @@ public:
     void setEncoderQuality(int quality, const std::string& speedText); ///< quality within 0..51
     void setMonitorIndex(int index);
 
+    /// Also switches a running session that started with it.
+    void setClipboardSharing(bool enabled);
+
+    /// What counts the session's traffic, borrowed; null for none.
+    void setQualityMonitor(ConnectionQualityMonitor* monitor);
+
+    /// The services of the running session, from the start of streaming until the session is
+    /// cleaned up; null otherwise. A holder outlives them and needs a QPointer.
+    ChatService* chatService() const;
+    FileTransferService* fileTransferService() const;
+
 public Q_SLOTS:
     /// Dropped unless this side is the viewer of a connected session.
     void sendInputEvent(const corvane::InputEvent& event);
@@ -80,18 +97,20 @@ private Q_SLOTS:
     void onTransportData(corvane::ChannelType channel, const QByteArray& data);
 
 private:
+    /// The partner can be quicker than the server's answer to the request that reached it.
+    struct HandshakeAck {
+        QString sessionId;
+        QString state;
+        QString targetEcdhPublicKey;
+    };
+
     void setState(SessionState newState);
     void fail(const QString& error);
     bool createKeyExchange();
     bool createDataPlane();
-    bool takeCreationAnswer();
     void setupTransport();
     void startStreaming();
     void stopStreaming();
-    void sendDescription(const QString& type, const QString& sdp);
-    void sendCandidate(const QString& candidate, const QString& mid);
-    void onRemoteDescription(const QString& sessionId, const QString& type, const QString& sdp);
-    void onRemoteCandidate(const QString& sessionId, const QString& candidate, const QString& mid);
     void endSessionLater(const QString& reason);
     void cleanup();
 
@@ -107,14 +126,13 @@ private:
     QString m_transportMethod;
     /// Tells a queued end apart from the session that it was meant for.
     quint64 m_generation = 0;
-    bool m_creationPending = false;
-    /// Creation requests of sessions that were given up before the server answered: as many answers
-    /// are still to come, and none of them belongs to the current session.
-    int m_abandonedCreations = 0;
+    CreationRequests m_creations;
+    std::optional<HandshakeAck> m_earlyAck;
+    QPointer<ConnectionQualityMonitor> m_qualityMonitor;
 
     std::unique_ptr<EcdhKeyExchange> m_keyExchange;
     std::unique_ptr<SessionDataPlane> m_dataPlane;
-    std::unique_ptr<TransportManager> m_transportManager;
+    std::unique_ptr<SessionTransport> m_transport;
 };
 
 } // namespace corvane

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace corvane {
@@ -39,6 +40,17 @@ public:
     /// Takes one message of `size` bytes over; the bytes are copied before the call returns. False
     /// when it was not accepted, in which case it is lost: nothing is queued.
     virtual bool send(ChannelType channel, const uint8_t* data, size_t size) = 0;
+
+    /// Bytes taken over that have not left this process yet.
+    virtual qint64 bytesQueued() const = 0;
+
+    /// Blocks, without an event loop, until at most so many bytes are queued. Messages received
+    /// meanwhile are delivered as ever, so that two peers which both wait do not wait for each
+    /// other. False when the connection is gone or nothing moved for 30 seconds.
+    virtual bool waitUntilQueued(qint64 atMost) = 0;
+
+    /// The latest measure of the way there and back; nothing where there is none.
+    virtual std::optional<double> roundTripMilliseconds() const = 0;
 
 Q_SIGNALS:
     void connected();

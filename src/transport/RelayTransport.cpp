@@ -1,10 +1,11 @@
 #include "RelayTransport.h"
 
 #include "JsonFields.h"
+#include "SocketRoundTrip.h"
 
 #include <spdlog/spdlog.h>
 
-#include <array>
+#include <algorithm>
 
 namespace corvane {
 
@@ -12,7 +13,7 @@ namespace {
 
 // What the socket holds back for us: a handler that stalls stalls the sender, not our memory.
 constexpr qint64 kSocketReadBuffer = 1024 * 1024;
-constexpr size_t kReadPiece = 64 * 1024;
+constexpr qint64 kReadPiece = 64 * 1024;
 constexpr qsizetype kOwnBlockSize = 16 * 1024;
 
 // Far more than a link that moves at all ever holds: beyond it the relay has stopped reading.
@@ -24,8 +25,10 @@ const uint8_t* bytesOf(const std::string& text) {
 
 } // namespace
 
-RelayTransport::RelayTransport(QObject* parent, std::chrono::milliseconds reconnectDelay)
-    : ITransport(parent), m_reconnectDelay(reconnectDelay) {
+RelayTransport::RelayTransport(QObject* parent, std::chrono::milliseconds reconnectDelay,
+                               std::chrono::milliseconds standstill)
+    : ITransport(parent), m_piece(kReadPiece), m_reconnectDelay(reconnectDelay),
+      m_standstill(standstill) {
     m_socket.setReadBufferSize(kSocketReadBuffer);
     m_reconnectTimer.setSingleShot(true);
     QObject::connect(&m_socket, &QTcpSocket::connected, this, &RelayTransport::onSocketConnected);
@@ -109,6 +112,27 @@ bool RelayTransport::send(ChannelType channel, const uint8_t* data, size_t size)
     return true;
 }
 
+qint64 RelayTransport::bytesQueued() const {
+    return m_socket.bytesToWrite();
+}
+
+bool RelayTransport::waitUntilQueued(qint64 atMost) {
+    while (isConnected() && bytesQueued() > atMost) {
+        if (!m_socket.waitForBytesWritten(static_cast<int>(m_standstill.count()))) {
+            break;
+        }
+        // The socket reports nothing from inside a report of its own, where this call may stand.
+        if (m_socket.bytesAvailable() > 0) {
+            onSocketReadyRead();
+        }
+    }
+    return isConnected() && bytesQueued() <= atMost;
+}
+
+std::optional<double> RelayTransport::roundTripMilliseconds() const {
+    return isConnected() ? socketRoundTripMilliseconds(m_socket.socketDescriptor()) : std::nullopt;
+}
+
 void RelayTransport::onSocketConnected() {
     spdlog::info("RelayTransport: connected to {}:{}", m_host, m_port);
     m_reconnectAttempts = 0;
@@ -127,15 +151,9 @@ void RelayTransport::onSocketDisconnected() {
 }
 
 void RelayTransport::onSocketReadyRead() {
-    std::array<char, kReadPiece> piece;
-    qint64 count = 0;
-    do {
-        count = m_socket.read(piece.data(), piece.size());
-        if (count <= 0) {
-            return;
-        }
-    } while (deliverFrames(
-        {reinterpret_cast<const uint8_t*>(piece.data()), static_cast<size_t>(count)}));
+    // Called from inside a handler, this goes on where the caller's reading stopped.
+    while (deliverFrames() && readPiece()) {
+    }
 }
 
 void RelayTransport::onSocketError(QAbstractSocket::SocketError error) {
@@ -176,11 +194,17 @@ void RelayTransport::sendJoin() {
     m_socket.write(relayFrame(ChannelType::Control, bytesOf(join), join.size()));
 }
 
+bool RelayTransport::readPiece() {
+    const qint64 count = m_socket.read(reinterpret_cast<char*>(m_piece.data()), kReadPiece);
+    m_unparsed = ByteSpan(m_piece).first(static_cast<size_t>(std::max<qint64>(count, 0)));
+    return count > 0;
+}
+
 /// False when reading must stop: the stream was refused or a handler ended the connection.
-bool RelayTransport::deliverFrames(ByteSpan received) {
+bool RelayTransport::deliverFrames() {
     const uint64_t epoch = m_receiveEpoch;
-    while (!received.empty()) {
-        switch (m_parser.consume(received)) {
+    while (!m_unparsed.empty()) {
+        switch (m_parser.consume(m_unparsed)) {
         case RelayFrameParser::Result::NeedMoreData:
             break;
         case RelayFrameParser::Result::FrameReady:
@@ -213,6 +237,7 @@ void RelayTransport::refuseStream(const QString& reason) {
 
 void RelayTransport::clearReceived() {
     m_parser.reset();
+    m_unparsed = {};
     ++m_receiveEpoch;
 }
 

@@ -24,10 +24,13 @@ class RelayTransport : public ITransport {
 public:
     static constexpr int kMaxReconnectAttempts = 3;
     static constexpr std::chrono::milliseconds kReconnectDelay{1000};
+    static constexpr std::chrono::milliseconds kStandstill{30'000};
 
     /// `reconnectDelay`: wait before the first further attempt; it doubles with each one.
+    /// `standstill`: how long a wait goes on while nothing is sent.
     explicit RelayTransport(QObject* parent = nullptr,
-                            std::chrono::milliseconds reconnectDelay = kReconnectDelay);
+                            std::chrono::milliseconds reconnectDelay = kReconnectDelay,
+                            std::chrono::milliseconds standstill = kStandstill);
     ~RelayTransport() override;
 
     void setSessionId(const QString& sessionId) { m_sessionId = sessionId; }
@@ -36,6 +39,11 @@ public:
     void disconnect() override;
     bool isConnected() const override;
     bool send(ChannelType channel, const uint8_t* data, size_t size) override;
+    qint64 bytesQueued() const override;
+    bool waitUntilQueued(qint64 atMost) override;
+
+    /// To the relay node and back, as the operating system measures it.
+    std::optional<double> roundTripMilliseconds() const override;
 
 private Q_SLOTS:
     void onSocketConnected();
@@ -47,7 +55,8 @@ private Q_SLOTS:
 private:
     void openSocket();
     void sendJoin();
-    bool deliverFrames(ByteSpan received);
+    bool readPiece();
+    bool deliverFrames();
     void refuseStream(const QString& reason);
     void clearReceived();
     void scheduleReconnect();
@@ -55,12 +64,15 @@ private:
     QTcpSocket m_socket;
     QTimer m_reconnectTimer;
     RelayFrameParser m_parser;
+    ByteVector m_piece;  ///< what was read last
+    ByteSpan m_unparsed; ///< the part of it that no frame was taken from yet
     QString m_sessionId;
     std::string m_host;
     uint16_t m_port = 0;
     int32_t m_reconnectAttempts = 0;
     bool m_stopped = false;
     const std::chrono::milliseconds m_reconnectDelay;
+    const std::chrono::milliseconds m_standstill;
     uint64_t m_receiveEpoch = 0; ///< changes whenever bytes received so far lose their meaning
 };
 

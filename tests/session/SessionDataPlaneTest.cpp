@@ -1,4 +1,6 @@
 #include "SessionDataPlane.h"
+#include "ChatService.h"
+#include "FileTransferService.h"
 #include "LogCapture.h"
 #include "TestPlatform.h"
 
@@ -29,6 +31,10 @@ public:
         return true;
     }
 
+    qint64 bytesQueued() const override { return 0; }
+    bool waitUntilQueued(qint64) override { return true; }
+    std::optional<double> roundTripMilliseconds() const override { return 12.5; }
+
     std::vector<Message> sent;
 };
 
@@ -39,14 +45,16 @@ ByteVector bytes(std::string_view text) {
 /// One side of a session and the peer that talks to it.
 class DataPlaneTest : public ::testing::TestWithParam<SessionRole> {
 protected:
-    void startAs(SessionRole role) {
+    void startAs(SessionRole role, const StreamingSettings& settings = {}) {
         m_plane = std::make_unique<SessionDataPlane>(role, kKey, kIv);
         QObject::connect(m_plane.get(), &SessionDataPlane::disconnectRequested,
                          [this] { ++m_disconnects; });
         QObject::connect(m_plane.get(), &SessionDataPlane::inputEventReceived,
                          [this](const InputEvent&) { ++m_inputEvents; });
         m_plane->setTransport(&m_transport);
-        m_plane->startStreaming({}, createTestPlatform(m_machine));
+        m_log.clear();
+        m_plane->startStreaming(settings, createTestPlatform(m_machine));
+        m_started = m_log.lines();
         m_log.clear();
     }
 
@@ -65,6 +73,7 @@ protected:
     RecordingTransport m_transport;
     AesGcmCipher m_peer{kKey, kIv};
     std::unique_ptr<SessionDataPlane> m_plane;
+    std::vector<std::string> m_started; ///< logged at the start of streaming
     int m_disconnects = 0;
     int m_inputEvents = 0;
 };
@@ -122,14 +131,69 @@ TEST_F(DataPlaneTest, OnlyTheTargetSwitchesMonitors) {
 }
 
 TEST_P(DataPlaneTest, UnknownAndForeignMessagesAreDropped) {
+    m_machine->canCapture = false; // the capture thread would log as well
     startAs(GetParam());
-    m_plane->setConnected(true);
+    m_plane->setState(SessionState::Connected);
     for (const char* message : {"\x07", "\xff rubbish", "\x05", "\x04", "\x03"}) {
         receive(ChannelType::Control, bytes(message));
     }
     EXPECT_TRUE(m_log.lines().empty()) << m_log.lines().front();
     receive(ChannelType::Control, bytes("\x06"));
     EXPECT_EQ(m_log.count("warning|Chat: service not initialized or message too short"), 1);
+}
+
+TEST_P(DataPlaneTest, ServicesStartInOrderAndAnswerOnTheirTag) {
+    startAs(GetParam(), {.clipboardSharing = true});
+    std::vector<std::string> started = m_started;
+    std::erase_if(started, [](const auto& line) { return line.starts_with("debug|"); });
+    started.resize(4);
+    EXPECT_EQ(
+        started,
+        (std::vector<std::string>{
+            "info|Starting streaming (role: " + std::string(sessionRoleName(GetParam())) + ")",
+            "info|File transfer service initialized", "info|Chat service initialized",
+            // There is no clipboard without windows.
+            "error|ClipboardSharing: QApplication::clipboard() returned null"}));
+    receive(ChannelType::Control, bytes("\x05\x09"));
+    EXPECT_EQ(m_log.count("warning|FileTransfer: unknown sub-type 0x09"), 1);
+    receive(ChannelType::Control, bytes("\x06short"));
+    EXPECT_EQ(m_log.count("warning|ChatService: message too short (5 bytes)"), 1);
+    constexpr auto kTooSmall =
+        "warning|ClipboardSharing: received message too small (1 bytes, minimum 5)";
+    for (const bool enabled : {true, false, true}) {
+        m_log.clear();
+        m_plane->setClipboardSharing(enabled);
+        receive(ChannelType::Control, bytes("\x04"));
+        EXPECT_EQ(m_log.count(kTooSmall), enabled ? 1 : 0);
+    }
+    m_plane->stopStreaming();
+    m_log.clear();
+    receive(ChannelType::Control, bytes("\x04"));
+    EXPECT_EQ(m_log.count(kTooSmall), 0);
+}
+
+TEST_F(DataPlaneTest, ServicesSendOnTheirTagOnceConnected) {
+    startAs(SessionRole::Master);
+    m_plane->setState(SessionState::Connecting);
+    m_plane->chatService()->sendMessage({});
+    EXPECT_EQ(
+        m_log.count("warning|Chat send blocked: state=Connecting, cipher=true, transport=true"), 1);
+    m_plane->setState(SessionState::Connected);
+    m_plane->setTransport(nullptr);
+    m_plane->chatService()->sendMessage({});
+    EXPECT_EQ(m_log.count("warning|Chat: no active transport"), 1);
+    EXPECT_TRUE(m_transport.sent.empty());
+    m_plane->setTransport(&m_transport);
+    m_plane->chatService()->sendMessage({});
+    m_plane->fileTransferService()->requestListing(QStringLiteral("/"));
+    ASSERT_EQ(m_transport.sent.size(), 2U);
+    const auto sent = [this](size_t index) {
+        const ByteVector& sealed = m_transport.sent[index].sealed;
+        return m_peer.decrypt(sealed.data(), sealed.size());
+    };
+    EXPECT_EQ(sent(0).front(), 0x06);
+    EXPECT_EQ(sent(0).size(), 11U);
+    EXPECT_EQ(sent(1), bytes({"\x05\x01\x01\0\0\0/", 7}));
 }
 
 TEST_F(DataPlaneTest, VideoIsForTheViewer) {
@@ -151,10 +215,10 @@ TEST_F(DataPlaneTest, NothingLeavesBeforeOrAfterTheConnection) {
     event.type = InputEventType::MouseMove;
     m_plane->sendInputEvent(event);
     m_plane->requestMonitorSwitch(1);
-    m_plane->setConnected(true);
+    m_plane->setState(SessionState::Connected);
     m_plane->sendInputEvent(event);
     m_plane->requestMonitorSwitch(1);
-    m_plane->setConnected(false);
+    m_plane->setState(SessionState::Closing);
     m_plane->sendInputEvent(event);
 
     ASSERT_EQ(m_transport.sent.size(), 2U);

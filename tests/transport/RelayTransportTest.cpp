@@ -42,7 +42,7 @@ protected:
 
     test::LogCapture log;
     test::ScriptedRelay relay;
-    RelayTransport transport{nullptr, 10ms};
+    RelayTransport transport{nullptr, 10ms, 50ms};
     QSignalSpy connected{&transport, &ITransport::connected};
     QSignalSpy disconnected{&transport, &ITransport::disconnected};
     QSignalSpy received{&transport, &ITransport::dataReceived};
@@ -71,6 +71,39 @@ TEST_F(RelayTransportTest, ARelayThatStopsReadingCostsBoundedMemory) {
     EXPECT_TRUE(log.contains("RelayTransport::send: relay takes no data, "));
     relay.read(accepted * (payload.size() + 5));
     EXPECT_TRUE(send(ChannelType::Video, payload));
+}
+
+TEST_F(RelayTransportTest, AWaitGivesUpWhereNothingMovesAndKeepsWhatArrivesInOrder) {
+    establish();
+    EXPECT_TRUE(transport.waitUntilQueued(0));
+    constexpr int kFrames = 10'000; // more than is read at once
+    QByteArray stream;
+    QByteArray expected;
+    for (int i = 0; i < kFrames; ++i) {
+        const QByteArray number = QByteArray::number(i).rightJustified(20, '.');
+        stream += frameBytes(0, number);
+        expected += number;
+    }
+    QByteArray order;
+    std::optional<bool> drained;
+    QObject::connect(&transport, &ITransport::dataReceived, &transport,
+                     [&](ChannelType, const QByteArray& data) {
+                         order += data;
+                         if (!drained) {
+                             drained = true;
+                             send(ChannelType::Video, QByteArray(16'000'000, 'v'));
+                             drained = transport.waitUntilQueued(0);
+                         }
+                     });
+    relay.write(stream);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return order.size() >= expected.size(); }));
+    EXPECT_TRUE(order == expected);
+    EXPECT_EQ(drained, false) << "the relay does not read";
+    EXPECT_GT(transport.bytesQueued(), 0);
+
+    transport.disconnect();
+    EXPECT_FALSE(transport.waitUntilQueued(0));
+    EXPECT_EQ(transport.roundTripMilliseconds(), std::nullopt);
 }
 
 TEST_F(RelayTransportTest, ConnectsOnceAndUnjoinedWithoutASessionId) {

@@ -18,6 +18,9 @@ public:
     void disconnect() override { note(QStringLiteral("disconnect")); }
     bool isConnected() const override { return false; }
     bool send(ChannelType, const uint8_t*, size_t) override { return false; }
+    qint64 bytesQueued() const override { return 0; }
+    bool waitUntilQueued(qint64) override { return false; }
+    std::optional<double> roundTripMilliseconds() const override { return std::nullopt; }
     void setRemoteDescription(const QString& sdp, const QString& type) override {
         note(QStringLiteral("description %1 %2").arg(type, sdp));
     }

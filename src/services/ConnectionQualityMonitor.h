@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ConnectionStats.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <mutex>
+
+namespace corvane {
+
+/// Turns what a running session counts into statistics and a quality level once a second.
+///
+/// The counting functions and the getters may be called from any thread; everything else belongs to
+/// the thread of the object, where the signals are emitted.
+class ConnectionQualityMonitor : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ConnectionQualityMonitor(QObject* parent = nullptr);
+
+    /// Begins again from nothing.
+    void start();
+    void stop();
+
+    ConnectionStats stats() const; ///< as last published
+    QualityLevel qualityLevel() const;
+    QString summaryText() const { return summaryText(stats()); }
+
+    /// One line for the user.
+    static QString summaryText(const ConnectionStats& stats);
+
+    void countFrame();
+    void countDroppedFrame();
+    void addBytesSent(qint64 bytes);
+    void addBytesReceived(qint64 bytes);
+    void setLatency(double milliseconds);
+
+Q_SIGNALS:
+    void statsUpdated(corvane::ConnectionStats stats);
+    void qualityChanged(corvane::QualityLevel level);
+
+public Q_SLOTS:
+    void onUpdateTick();
+
+private:
+    struct Counters {
+        int64_t tickFrames = 0;
+        int64_t tickBytesSent = 0;
+        int64_t tickBytesReceived = 0;
+        int64_t bytesSent = 0;
+        int64_t bytesReceived = 0;
+        int64_t framesDropped = 0;
+        double latencyMs = 0;
+    };
+
+    void clear();
+
+    QTimer m_timer;
+    QElapsedTimer m_uptime;
+    mutable std::mutex m_mutex; ///< guards what follows
+    Counters m_counters;
+    ConnectionStats m_stats;
+    QualityLevel m_level = QualityLevel::Good;
+};
+
+} // namespace corvane

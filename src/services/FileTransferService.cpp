@@ -1,0 +1,340 @@
+#include "FileTransferService.h"
+
+#include "FileMessage.h"
+#include "LoggableText.h"
+#include "MonotonicClock.h"
+#include "WholeFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QScopedValueRollback>
+#include <QStorageInfo>
+#include <spdlog/spdlog.h>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace corvane {
+
+namespace {
+
+constexpr qint64 kBlockSize = 65'536;
+
+/// A path of the peer's, in a log line. Beyond what file systems take it is no path.
+std::string loggable(const QString& path) {
+    constexpr size_t kLongestPath = 4096;
+    return loggableText(path.toStdString(), kLongestPath);
+}
+
+/// Devices and pipes are left alone: reading one may never end.
+bool openOrdinaryFile(QFile& file) {
+    return QFileInfo(file.fileName()).isFile() && file.open(QIODevice::ReadOnly);
+}
+
+QList<FileEntry> mountedVolumes() {
+    QList<FileEntry> volumes;
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+        const auto capacity = static_cast<quint64>(std::max<qint64>(volume.bytesTotal(), 0));
+        volumes.append({volume.rootPath(), true, capacity});
+    }
+    return volumes;
+}
+
+QList<FileEntry> entriesOf(const QDir& directory) {
+    const auto infos = directory.entryInfoList(QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot,
+                                               QDir::DirsFirst | QDir::Name | QDir::IgnoreCase);
+    QList<FileEntry> entries;
+    entries.reserve(infos.size());
+    for (const QFileInfo& info : infos) {
+        const bool isDirectory = info.isDir();
+        entries.append(
+            {info.fileName(), isDirectory, isDirectory ? 0 : static_cast<quint64>(info.size())});
+    }
+    return entries;
+}
+
+void logMalformed(FileMessageType type) {
+    spdlog::warn("FileTransfer: malformed message 0x{:02x}", static_cast<uint8_t>(type));
+}
+
+/// The one path or text of a message; nothing, logged, when it is cut short.
+std::optional<QString> bodyText(FileMessageType type, ByteSpan body) {
+    ByteReader reader(body);
+    const auto text = readFileText(reader);
+    if (!text) {
+        logMalformed(type);
+    }
+    return text;
+}
+
+int clampedToInt(qint64 value) {
+    return static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+FileTransferService::FileTransferService(SendFunction send, qint64 maximumMessageSize,
+                                         QObject* parent)
+    : QObject(parent), m_send(std::move(send)), m_maximumMessageSize(maximumMessageSize) {}
+
+FileTransferService::~FileTransferService() = default;
+
+void FileTransferService::requestListing(const QString& remotePath) {
+    spdlog::info("FileTransfer: requested listing for '{}'", remotePath.toStdString());
+    if (!send(fileTextMessage(FileMessageType::ListingRequest, remotePath))) {
+        Q_EMIT fileError(tr("The request could not be sent: %1").arg(remotePath));
+    }
+}
+
+void FileTransferService::requestDownload(const QString& remotePath, const QString& localPath) {
+    spdlog::info("FileTransfer: requested download of '{}'", remotePath.toStdString());
+    m_download = Download{remotePath, localPath};
+    if (!send(fileTextMessage(FileMessageType::DownloadRequest, remotePath))) {
+        m_download.reset();
+        Q_EMIT fileError(tr("The request could not be sent: %1").arg(remotePath));
+    }
+}
+
+void FileTransferService::uploadFile(const QString& localPath, const QString& remotePath) {
+    QFile file(localPath);
+    if (m_uploading) {
+        Q_EMIT fileError(tr("Another upload is still running: %1").arg(localPath));
+        return;
+    }
+    if (!openOrdinaryFile(file)) {
+        Q_EMIT fileError(tr("Cannot open local file: %1").arg(localPath));
+        return;
+    }
+    const QString error = sendFile(file, remotePath);
+    if (!error.isEmpty()) {
+        spdlog::warn("FileTransfer: upload of '{}' failed", localPath.toStdString());
+        Q_EMIT fileError(error.arg(localPath));
+        return;
+    }
+    Q_EMIT fileUploadComplete();
+}
+
+void FileTransferService::handleMessage(ByteSpan payload) {
+    using Handler = void (FileTransferService::*)(ByteSpan body);
+    static constexpr std::array<Handler, 9> kHandlers{
+        nullptr,
+        &FileTransferService::onListingRequest,
+        &FileTransferService::onListingResponse,
+        &FileTransferService::onDownloadRequest,
+        &FileTransferService::onDownloadResponse,
+        &FileTransferService::onUploadStart,
+        &FileTransferService::onUploadChunk,
+        &FileTransferService::onUploadEnd,
+        &FileTransferService::onError,
+    };
+    if (payload.empty()) {
+        return;
+    }
+    const uint8_t type = payload.front();
+    if (type == 0 || type >= kHandlers.size()) {
+        spdlog::warn("FileTransfer: unknown sub-type 0x{:02x}", type);
+        return;
+    }
+    (this->*kHandlers[type])(payload.subspan(1));
+}
+
+void FileTransferService::onListingRequest(ByteSpan body) {
+    const auto path = bodyText(FileMessageType::ListingRequest, body);
+    if (!path) {
+        return;
+    }
+    spdlog::info("FileTransfer: listing directory '{}'", loggable(*path));
+    const QDir directory(*path);
+    if (!path->isEmpty() && !directory.exists()) {
+        sendError(QStringLiteral("Directory does not exist: ") + *path);
+        return;
+    }
+    const ByteVector response =
+        listingResponse({*path, path->isEmpty() ? mountedVolumes() : entriesOf(directory)});
+    if (static_cast<qint64>(response.size()) > m_maximumMessageSize) {
+        sendError(QStringLiteral("Directory has too many entries to list: ") + *path);
+        return;
+    }
+    send(response);
+}
+
+void FileTransferService::onListingResponse(ByteSpan body) {
+    const auto listing = parseListingResponse(body);
+    if (!listing) {
+        logMalformed(FileMessageType::ListingResponse);
+        return;
+    }
+    spdlog::info("FileTransfer: received listing for '{}' ({} entries)", loggable(listing->path),
+                 listing->entries.size());
+    Q_EMIT directoryListed(listing->path, listing->entries);
+}
+
+void FileTransferService::onDownloadRequest(ByteSpan body) {
+    const auto path = bodyText(FileMessageType::DownloadRequest, body);
+    if (!path) {
+        return;
+    }
+    spdlog::info("FileTransfer: serving download request for '{}'", loggable(*path));
+    QFile file(*path);
+    if (!openOrdinaryFile(file)) {
+        sendError(QStringLiteral("Cannot open file: ") + *path);
+        return;
+    }
+    const qint64 room = m_maximumMessageSize - kDownloadResponseOverhead;
+    // Its size may be wrong by the time it is read, so one byte more than fits is asked for.
+    const QByteArray content = file.size() > room ? QByteArray() : file.read(room + 1);
+    if (file.size() > room || content.size() > room) {
+        sendError(QStringLiteral("File is too large to download: ") + *path);
+        return;
+    }
+    if (file.error() != QFileDevice::NoError) {
+        sendError(QStringLiteral("Cannot read file: ") + *path);
+        return;
+    }
+    send(downloadResponse({reinterpret_cast<const uint8_t*>(content.constData()),
+                           static_cast<size_t>(content.size())}));
+}
+
+void FileTransferService::onDownloadResponse(ByteSpan body) {
+    if (!m_download) {
+        spdlog::warn("FileTransfer: dropping a download response that was not asked for");
+        return;
+    }
+    ByteReader reader(body);
+    const auto status = reader.integer<uint8_t>();
+    if (status && *status != 0) {
+        m_download.reset();
+        Q_EMIT fileError(tr("Remote file download failed"));
+        return;
+    }
+    const auto announced = reader.integer<uint64_t>();
+    if (!status || !announced) {
+        logMalformed(FileMessageType::DownloadResponse);
+        return;
+    }
+    if (reader.remaining() < *announced) {
+        spdlog::warn("FileTransfer: download response truncated ({} < {})", reader.remaining(),
+                     *announced);
+    }
+    const ByteSpan content =
+        *reader.bytes(static_cast<size_t>(std::min<uint64_t>(reader.remaining(), *announced)));
+    const Download download = *std::exchange(m_download, std::nullopt);
+    const bool written = writeWholeFile(
+        download.localPath, [content](QIODevice& output) { return writeAll(output, content); });
+    if (!written) {
+        Q_EMIT fileError(tr("Cannot write to local file: %1").arg(download.localPath));
+        return;
+    }
+    spdlog::info("FileTransfer: download complete -> '{}'", download.localPath.toStdString());
+    Q_EMIT fileDownloadProgress(download.remotePath, 100);
+    Q_EMIT fileDownloadComplete(download.localPath);
+}
+
+void FileTransferService::onUploadStart(ByteSpan body) {
+    const auto announcement = parseUploadStart(body);
+    if (!announcement) {
+        logMalformed(FileMessageType::UploadStart);
+        return;
+    }
+    spdlog::info("FileTransfer: receiving upload '{}' ({} bytes)", loggable(announcement->path),
+                 announcement->size);
+    m_incoming = std::make_unique<UploadSpool>(announcement->path, announcement->size);
+    m_strayChunkLogged = false;
+}
+
+void FileTransferService::onUploadChunk(ByteSpan body) {
+    ByteReader reader(body);
+    if (!reader.integer<uint32_t>()) {
+        logMalformed(FileMessageType::UploadChunk);
+        return;
+    }
+    if (m_incoming && m_incoming->append(*reader.bytes(reader.remaining()))) {
+        return;
+    }
+    if (!std::exchange(m_strayChunkLogged, true)) {
+        spdlog::warn(m_incoming ? "FileTransfer: dropping upload data beyond the announced size"
+                                : "FileTransfer: dropping upload data without an upload");
+    }
+}
+
+void FileTransferService::onUploadEnd(ByteSpan) {
+    if (!m_incoming) {
+        spdlog::warn("FileTransfer: dropping the end of an upload that was not started");
+        return;
+    }
+    const auto upload = std::exchange(m_incoming, nullptr);
+    m_strayChunkLogged = false;
+    if (upload->receivedSize() < upload->announcedSize()) {
+        spdlog::warn("FileTransfer: upload truncated ({} < {})", upload->receivedSize(),
+                     upload->announcedSize());
+    }
+    if (!upload->commit()) {
+        sendError(QStringLiteral("Cannot write file: ") + upload->destination());
+        return;
+    }
+    spdlog::info("FileTransfer: received upload -> '{}' ({} bytes)",
+                 loggable(upload->destination()), upload->receivedSize());
+}
+
+void FileTransferService::onError(ByteSpan body) {
+    ByteReader reader(body);
+    const QString text = readFileText(reader).value_or(QString());
+    spdlog::warn("FileTransfer: remote error: {}", loggable(text));
+    // Nothing more is to come for a download that the peer refused.
+    if (m_download && text.endsWith(m_download->remotePath)) {
+        m_download.reset();
+    }
+    Q_EMIT fileError(text);
+}
+
+bool FileTransferService::send(const ByteVector& message) const {
+    return !m_send || m_send(message);
+}
+
+void FileTransferService::sendError(const QString& text) const {
+    send(fileTextMessage(FileMessageType::Error, text));
+}
+
+/// Empty, or an error for the user with %1 for the local path.
+QString FileTransferService::sendFile(QFile& file, const QString& remotePath) {
+    const QScopedValueRollback running(m_uploading, true);
+    const qint64 size = file.size();
+    const QString lost = tr("The connection was lost while sending: %1");
+    if (!send(uploadStart({remotePath, static_cast<quint64>(size)}))) {
+        return lost;
+    }
+    const auto startedAt = static_cast<qint64>(monotonicMilliseconds());
+    ByteVector block(kBlockSize);
+    for (qint64 sent = 0; sent < size;) {
+        const qint64 count =
+            file.read(reinterpret_cast<char*>(block.data()), std::min(kBlockSize, size - sent));
+        if (count <= 0) {
+            return tr("Cannot read local file: %1");
+        }
+        const ByteSpan content = ByteSpan(block).first(static_cast<size_t>(count));
+        if ((m_pacing && !m_pacing()) || !send(uploadChunk(sent, content))) {
+            return lost;
+        }
+        sent += count;
+        reportProgress(remotePath, sent, size, startedAt);
+    }
+    if (!send(fileTextMessage(FileMessageType::UploadEnd, remotePath))) {
+        return lost;
+    }
+    spdlog::info("FileTransfer: upload complete '{}' ({} bytes)", remotePath.toStdString(), size);
+    return {};
+}
+
+void FileTransferService::reportProgress(const QString& remotePath, qint64 sent, qint64 size,
+                                         qint64 startedAt) {
+    Q_EMIT fileUploadProgress(remotePath, static_cast<int>(sent * 100 / size));
+    const qint64 elapsed =
+        std::max<qint64>(static_cast<qint64>(monotonicMilliseconds()) - startedAt, 1);
+    const qint64 bytesPerSecond = sent * 1000 / elapsed;
+    const qint64 secondsLeft = bytesPerSecond > 0 ? (size - sent) / bytesPerSecond : 0;
+    Q_EMIT transferStats(sent, clampedToInt(bytesPerSecond), clampedToInt(secondsLeft));
+}
+
+} // namespace corvane

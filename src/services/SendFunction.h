@@ -1,0 +1,13 @@
+#pragma once
+
+#include "ByteVector.h"
+
+#include <functional>
+
+namespace corvane {
+
+/// Hands one message to the peer. False when it was not taken: no session, message too large,
+/// connection gone.
+using SendFunction = std::function<bool(const ByteVector& message)>;
+
+} // namespace corvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ByteVector.h"
+
+#include <QString>
+
+#include <memory>
+
+class QTemporaryFile;
+
+namespace corvane {
+
+/// The peer's upload while it arrives: in memory as far as that is reasonable, in a temporary file
+/// beyond it, and at its destination only when `commit` says so.
+class UploadSpool {
+public:
+    /// Bytes kept in memory at most.
+    static constexpr size_t kMemoryLimit = 64 * 1024 * 1024;
+
+    /// `announcedSize` is the peer's word; no more than that is taken, and no more than the memory
+    /// limit is allocated for it.
+    UploadSpool(QString destination, quint64 announcedSize, size_t memoryLimit = kMemoryLimit);
+    ~UploadSpool();
+
+    const QString& destination() const { return m_destination; }
+    quint64 announcedSize() const { return m_announcedSize; }
+    quint64 receivedSize() const { return m_receivedSize; }
+
+    /// False for a chunk that would exceed the announced size: none of it is taken.
+    bool append(ByteSpan chunk);
+
+    /// Writes what has arrived to the destination. False when that, or keeping it until now,
+    /// failed; a file that was there before is then still as it was.
+    bool commit();
+
+private:
+    bool spill(ByteSpan chunk);
+
+    const QString m_destination;
+    const quint64 m_announcedSize;
+    const size_t m_memoryLimit;
+    quint64 m_receivedSize = 0;
+    bool m_failed = false;
+    ByteVector m_memory;
+    std::unique_ptr<QTemporaryFile> m_file;
+};
+
+} // namespace corvane

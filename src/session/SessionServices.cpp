@@ -1,0 +1,115 @@
+#include "SessionServices.h"
+
+#include "ChatService.h"
+#include "ClipboardSharing.h"
+#include "FileTransferService.h"
+#include "SessionLink.h"
+
+#include <spdlog/spdlog.h>
+
+namespace corvane {
+
+SessionServices::SessionServices(SessionLink& link) : m_link(link) {}
+
+SessionServices::~SessionServices() = default;
+
+void SessionServices::start(bool clipboardSharing) {
+    constexpr qint64 kTagSize = 1;
+    m_fileTransfer = std::make_unique<FileTransferService>(
+        [this](const ByteVector& message) { return sendFileTransfer(message); },
+        static_cast<qint64>(SessionLink::kMaximumControlMessage) - kTagSize);
+    m_fileTransfer->setPacing([this] { return m_link.waitForRoom(); });
+    spdlog::info("File transfer service initialized");
+    m_chat = std::make_unique<ChatService>(
+        [this](const ByteVector& message) { return sendChat(message); });
+    spdlog::info("Chat service initialized");
+    m_clipboardEnabled = clipboardSharing;
+    if (clipboardSharing) {
+        m_clipboard = std::make_unique<ClipboardSharing>();
+        QObject::connect(m_clipboard.get(), &ClipboardSharing::clipboardDataReady, &m_link,
+                         [this](const QByteArray& data) { sendClipboard(data); });
+        m_clipboard->start();
+        spdlog::info("Clipboard sharing enabled");
+    }
+}
+
+void SessionServices::stop() {
+    setClipboardSharing(false);
+}
+
+void SessionServices::setClipboardSharing(bool enabled) {
+    m_clipboardEnabled = enabled;
+    if (m_clipboard && enabled) {
+        m_clipboard->start();
+    } else if (m_clipboard) {
+        m_clipboard->stop();
+    }
+}
+
+void SessionServices::onClipboard(ByteSpan message) {
+    if (m_clipboardEnabled && m_clipboard) {
+        m_clipboard->onRemoteClipboardData(QByteArray::fromRawData(
+            reinterpret_cast<const char*>(message.data()), static_cast<qsizetype>(message.size())));
+    }
+}
+
+void SessionServices::onFileTransfer(ByteSpan message) {
+    if (m_fileTransfer) {
+        m_fileTransfer->handleMessage(message.subspan(1));
+    }
+}
+
+void SessionServices::onChat(ByteSpan message) {
+    spdlog::info("Chat message received ({} bytes)", message.size());
+    if (!m_chat || message.size() <= 1) {
+        spdlog::warn("Chat: service not initialized or message too short");
+        return;
+    }
+    m_chat->handleMessage(message.subspan(1));
+}
+
+void SessionServices::sendClipboard(const QByteArray& data) {
+    if (!m_link.isOpen()) {
+        return;
+    }
+    const ByteVector sealed = m_link.seal(copyBytes(
+        {reinterpret_cast<const uint8_t*>(data.constData()), static_cast<size_t>(data.size())}));
+    if (sealed.empty()) {
+        spdlog::error("Failed to encrypt clipboard data");
+        return;
+    }
+    m_link.send(ChannelType::Control, sealed);
+}
+
+bool SessionServices::sendFileTransfer(const ByteVector& message) {
+    if (!m_link.isOpen()) {
+        return false;
+    }
+    const ByteVector sealed = m_link.seal(controlMessage(ControlTag::FileTransfer, message));
+    return !sealed.empty() && m_link.send(ChannelType::Control, sealed);
+}
+
+bool SessionServices::sendChat(const ByteVector& message) {
+    if (m_link.state() != SessionState::Connected) {
+        // A session without a cipher has no services either.
+        spdlog::warn("Chat send blocked: state={}, cipher={}, transport={}",
+                     sessionStateName(m_link.state()), true, m_link.hasTransport());
+        return false;
+    }
+    const ByteVector sealed = m_link.seal(controlMessage(ControlTag::Chat, message));
+    if (sealed.empty()) {
+        spdlog::warn("Chat: encryption failed");
+        return false;
+    }
+    if (!m_link.hasTransport()) {
+        spdlog::warn("Chat: no active transport");
+        return false;
+    }
+    if (!m_link.send(ChannelType::Control, sealed)) {
+        return false;
+    }
+    spdlog::debug("Chat message sent ({} bytes encrypted)", sealed.size());
+    return true;
+}
+
+} // namespace corvane
