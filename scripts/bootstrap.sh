@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demonstration need and that are
-# missing, and nothing else.
+# missing, and nothing else. The cross-compiler and Wine come in only beside the Windows libraries.
 set -euo pipefail
 
 packages=(
@@ -8,14 +8,18 @@ packages=(
     build-essential ca-certificates clang-format cmake git ninja-build pkg-config
     # libraries of the program
     libaom-dev libdav1d-dev libfmt-dev libgl-dev libspdlog-dev libssl-dev nlohmann-json3-dev
-    libqt6opengl6-dev qt6-base-dev qt6-websockets-dev
+    libqt6opengl6-dev qt6-base-dev qt6-l10n-tools qt6-websockets-dev
     libxcb-damage0-dev libxcb-randr0-dev libxcb-shm0-dev libxcb-xfixes0-dev libxcb-xtest0-dev
     libxcb1-dev
     # tests, benchmarks, development server
     libbenchmark-dev libgmock-dev libgtest-dev qt6-httpserver-dev
-    # running the program on a virtual display
-    fonts-dejavu-core libgl1-mesa-dri xkb-data xvfb
+    # running the program, for updates and on a virtual display
+    fonts-dejavu-core libgl1-mesa-dri unzip xkb-data xvfb
 )
+if [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
+    # building the Windows program and running it
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+fi
 
 missing=()
 for package in "${packages[@]}"; do

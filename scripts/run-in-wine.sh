@@ -2,15 +2,18 @@
 # Runs a program of the windows-mingw build under Wine.
 # Usage: scripts/run-in-wine.sh <folder of the Windows libraries> <program> [arguments]
 #
-# Keeps a Wine prefix of its own unless WINEPREFIX names one; windows appear on DISPLAY.
+# Takes the prefix of scripts/wine-prefix.sh unless WINEPREFIX names one; windows appear on DISPLAY.
 set -euo pipefail
+here=$(realpath "$(dirname "$0")")
 
 libraries=$1
 shift
 
-export WINEPREFIX=${WINEPREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/corvane/wine}
+if [ -z "${WINEPREFIX:-}" ]; then
+    "$here/wine-prefix.sh"
+    export WINEPREFIX=${here%/*}/build/wine
+fi
 export WINEDEBUG=${WINEDEBUG:--all}
-mkdir -p "$(dirname "$WINEPREFIX")"
 
 as_windows_path() {
     local path
@@ -24,8 +27,6 @@ for library in libstdc++-6.dll libwinpthread-1.dll; do
     WINEPATH+=";$(as_windows_path "$folder")"
 done
 export WINEPATH
-QT_PLUGIN_PATH=$(as_windows_path "$libraries/plugins")
-export QT_PLUGIN_PATH
 
 # Not a pipe: what Wine starts in the background with the first program would keep it open.
 output=$(mktemp)

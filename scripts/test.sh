@@ -1,15 +1,35 @@
 #!/usr/bin/env bash
 # Builds and passes all tests. Usage: scripts/test.sh [dev|asan|tsan] [further arguments for ctest]
+#
+# With the Windows libraries in place (see the README) that includes the Windows program: its own
+# tests under Wine, and sessions between it and the native one. The sanitizers stay native.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 preset=${1:-dev}
 [ $# -eq 0 ] || shift
 
+windows=no
+if [ "$preset" = dev ] && [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
+    windows=yes
+fi
+
 scripts/bootstrap.sh
 cmake --preset "$preset"
 cmake --build --preset "$preset"
+if [ $windows = yes ]; then
+    cmake --preset windows-test
+    cmake --build --preset windows-test
+fi
+
 ctest --preset "$preset" --parallel "$(nproc)" "$@"
+if [ $windows = yes ]; then
+    # What the further arguments pick out may be native only.
+    [ $# -eq 0 ] || set -- --no-tests=ignore "$@"
+    scripts/with-wine.sh ctest --preset windows-test --parallel "$(nproc)" "$@"
+elif [ "$preset" = dev ]; then
+    echo "skipped: no Windows prefix"
+fi
 
 # Where the peer-to-peer transport is built in, the variant without it has to build as well.
 if [ "$preset" = dev ] && grep -q '^LibDataChannel_DIR:PATH=/' build/dev/CMakeCache.txt; then

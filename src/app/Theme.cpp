@@ -124,7 +124,7 @@ QTextEdit:focus, QPlainTextEdit:focus { border-color: $accent; }
 QLineEdit:disabled, QComboBox:disabled, QSpinBox:disabled, QDoubleSpinBox:disabled {
     color: $disabled; border-color: $button;
 }
-QComboBox { padding-right: 24px; }
+QComboBox { padding-right: 24px; combobox-popup: 0; }
 QComboBox QLineEdit { border: none; border-radius: 0; padding: 0; }
 QComboBox::drop-down {
     subcontrol-origin: padding; subcontrol-position: center right; width: 22px; border: none;
@@ -179,6 +179,7 @@ QProgressBar::chunk { background-color: $accent; border-radius: 3px; }
 
 constexpr const char* kViews = R"(
 QTabWidget::pane { background-color: $raised; border: 1px solid $border; border-radius: 4px; }
+QTabWidget > QStackedWidget, QTabWidget > QStackedWidget > QWidget { background-color: $raised; }
 QTabBar::tab {
     background-color: $field; color: $secondary; border: 1px solid $border; border-bottom: none;
     border-top-left-radius: 4px; border-top-right-radius: 4px;

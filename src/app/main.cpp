@@ -3,18 +3,23 @@
 #include "AuthController.h"
 #include "Autostart.h"
 #include "ButtonCursorFilter.h"
+#include "CaptureBackendCandidate.h"
 #include "CommandLine.h"
 #include "CompanionService.h"
 #include "DeploymentConstants.h"
+#include "HeartbeatService.h"
+#include "ISystemIntegration.h"
 #include "Logging.h"
 #include "MainWindow.h"
 #include "QuitOnRequest.h"
 #include "SessionManager.h"
+#include "SessionSettings.h"
 #include "SettingsController.h"
 #include "SignalingClient.h"
 #include "SingleInstanceGuard.h"
 #include "Theme.h"
 #include "Translation.h"
+#include "UpdateService.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -40,11 +45,18 @@ void applyLook(QApplication& application, ButtonCursorFilter& cursorFilter) {
     QApplication::setWindowIcon(QIcon(drawApplicationIcon(kIconSide)));
 }
 
-void configureStreaming(SessionManager& session, const SettingsController& settings) {
-    session.setCaptureFrameRate(settings.captureFrameRate());
-    session.setEncoderQuality(settings.encoderQuality(), settings.encoderSpeed().toStdString());
-    session.setMonitorIndex(settings.monitorIndex());
-    session.setClipboardSharing(settings.clipboardSharing());
+void connectUpdates(AuthController& auth, MainWindow& window, UpdateService& updates) {
+    QObject::connect(&auth, &AuthController::authenticated, &updates,
+                     &UpdateService::checkForUpdates);
+    QObject::connect(&updates, &UpdateService::updateAvailable, &window,
+                     &MainWindow::showUpdateBanner);
+    QObject::connect(&window, &MainWindow::updateRequested, &updates,
+                     &UpdateService::downloadUpdate);
+    QObject::connect(&updates, &UpdateService::downloadProgress, &window,
+                     &MainWindow::showUpdateProgress);
+    QObject::connect(&updates, &UpdateService::updateError, &window, &MainWindow::showUpdateError);
+    QObject::connect(&updates, &UpdateService::readyToInstall, &window,
+                     &MainWindow::launchInstaller);
 }
 
 } // namespace
@@ -73,6 +85,8 @@ int main(int argc, char** argv) {
     }
 
     quitOnSystemRequest(application);
+    // With the window in the tray, the last visible window is no sign of the end.
+    QApplication::setQuitOnLastWindowClosed(false);
     ButtonCursorFilter cursorFilter;
     applyLook(application, cursorFilter);
 
@@ -90,11 +104,21 @@ int main(int argc, char** argv) {
     ApiClient api;
     api.setServerUrl(settings.serverBaseUrl());
     SignalingClient signaling;
-    AuthController auth(&api, &signaling, &settings);
+    HeartbeatService heartbeat(&api);
+    AuthController auth(&api, &signaling, &heartbeat, &settings);
     SessionManager session(&api, &signaling);
-    configureStreaming(session, settings);
+    applySessionSettings(session, settings);
 
-    MainWindow window(&auth, &api, &signaling, &session, &settings);
+    const auto integration = createSystemIntegration();
+    MainWindow window(&auth, &api, &signaling, &session, &settings,
+                      {.integration = integration.get(), .monitors = [] {
+                           return capturableMonitors(captureBackendCandidates());
+                       }});
+    UpdateService updates;
+    connectUpdates(auth, window, updates);
+    QObject::connect(
+        &window, &MainWindow::quitRequested, &application, [] { QApplication::exit(); },
+        Qt::QueuedConnection);
     window.show();
     auth.start();
     return QApplication::exec();

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <span>
 #include <type_traits>
@@ -39,5 +41,22 @@ public:
 using ByteVector = std::vector<uint8_t, DefaultInitAllocator<uint8_t>>;
 
 using ByteSpan = std::span<const uint8_t>;
+
+/// Appends a copy of the bytes, which must not be the vector's own. The vector's own `insert`
+/// constructs them one by one.
+inline void appendBytes(ByteVector& bytes, ByteSpan more) {
+    if (!more.empty()) {
+        const size_t size = bytes.size();
+        bytes.resize(size + more.size());
+        std::memcpy(bytes.data() + size, more.data(), more.size());
+    }
+}
+
+/// A copy in one piece, for the same reason.
+inline ByteVector copyBytes(ByteSpan bytes) {
+    ByteVector copy;
+    appendBytes(copy, bytes);
+    return copy;
+}
 
 } // namespace corvane

@@ -21,7 +21,7 @@ public:
     /// Eight bytes, IEEE 754 binary64.
     void binary64(double value);
 
-    void bytes(ByteSpan data) { m_bytes.insert(m_bytes.end(), data.begin(), data.end()); }
+    void bytes(ByteSpan data) { appendBytes(m_bytes, data); }
 
     /// Hands the buffer over and leaves the writer empty.
     ByteVector take() { return std::move(m_bytes); }

@@ -46,14 +46,6 @@ void writeCounter(uint8_t* destination, uint64_t counter) {
     }
 }
 
-uint64_t readCounter(const uint8_t* source) {
-    uint64_t counter = 0;
-    for (size_t i = kCounterSize; i-- > 0;) {
-        counter = counter << 8 | source[i];
-    }
-    return counter;
-}
-
 ByteVector failure(std::string_view operation, std::string_view step) {
     spdlog::error("AesGcmCipher::{}: {} failed: {}", operation, step, opensslErrors());
     return {};
@@ -125,6 +117,14 @@ ByteVector AesGcmCipher::encrypt(const uint8_t* plaintext, size_t size) {
     return sealed;
 }
 
+uint64_t AesGcmCipher::counterOf(const uint8_t* sealed) {
+    uint64_t counter = 0;
+    for (size_t i = kCounterSize; i-- > 0;) {
+        counter = counter << 8 | sealed[i];
+    }
+    return counter;
+}
+
 ByteVector AesGcmCipher::decrypt(const uint8_t* sealed, size_t size) const {
     if (size < kOverhead) {
         spdlog::error("AesGcmCipher::decrypt: message too short ({} bytes, minimum {})", size,
@@ -136,7 +136,7 @@ ByteVector AesGcmCipher::decrypt(const uint8_t* sealed, size_t size) const {
         spdlog::error("AesGcmCipher::decrypt: message too long ({} bytes)", size);
         return {};
     }
-    const uint64_t counter = readCounter(sealed);
+    const uint64_t counter = counterOf(sealed);
     const Nonce nonce = nonceFor(m_baseIv, counter);
 
     const OpensslPtr<EVP_CIPHER_CTX> context(EVP_CIPHER_CTX_new());

@@ -28,6 +28,10 @@ public:
     ByteVector encrypt(const uint8_t* plaintext, size_t size);
     ByteVector encrypt(const ByteVector& plaintext);
 
+    /// The sender's counter in a sealed message of at least `kOverhead` bytes; to be trusted only
+    /// once the message has been opened.
+    static uint64_t counterOf(const uint8_t* sealed);
+
     /// The plaintext; empty on failure, and for a sealed empty message.
     ByteVector decrypt(const uint8_t* sealed, size_t size) const;
 

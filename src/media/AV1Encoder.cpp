@@ -225,7 +225,7 @@ std::unique_ptr<EncodedPacket> AV1Encoder::takePacket(uint64_t timestamp) {
     const auto& frame = packet->data.frame;
     const auto* const bytes = static_cast<const uint8_t*>(frame.buf);
     auto encoded = std::make_unique<EncodedPacket>();
-    encoded->data.assign(bytes, bytes + frame.sz);
+    encoded->data = copyBytes({bytes, frame.sz});
     encoded->timestamp = timestamp;
     encoded->isKeyframe = (frame.flags & AOM_FRAME_IS_KEY) != 0;
     encoded->pts = frame.pts;

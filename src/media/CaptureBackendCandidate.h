@@ -19,4 +19,7 @@ struct CaptureBackendCandidate {
 /// The platform's candidates, best first. The first that initialises wins.
 std::vector<CaptureBackendCandidate> captureBackendCandidates();
 
+/// The monitors that the first candidate which finds any can capture.
+std::vector<MonitorInfo> capturableMonitors(const std::vector<CaptureBackendCandidate>& candidates);
+
 } // namespace corvane

@@ -60,6 +60,7 @@ void ScreenCaptureManager::start(int fps) {
     }
     m_targetFps = std::clamp(fps, kLowestFps, kHighestFps);
     m_running = true;
+    m_looping = true;
     m_framesDelivered = 0;
     connect(&m_thread, &QThread::started, this, &ScreenCaptureManager::captureLoop,
             Qt::DirectConnection);
@@ -72,19 +73,18 @@ void ScreenCaptureManager::stop() {
         return;
     }
     {
-        const std::lock_guard lock(m_waitMutex);
+        std::unique_lock lock(m_waitMutex);
         m_running = false;
-    }
-    m_stopRequested.notify_all();
-    if (m_thread.isRunning()) {
-        m_thread.quit();
-        if (!m_thread.wait(QDeadlineTimer(m_timings.joinLimit))) {
+        m_stopRequested.notify_all();
+        if (!m_loopEnded.wait_for(lock, m_timings.joinLimit,
+                                  [this] { return !m_looping || !m_thread.isRunning(); })) {
             spdlog::warn(
                 "ScreenCaptureManager: worker thread did not finish within 5 s -- terminating");
             m_thread.terminate();
-            m_thread.wait();
         }
     }
+    m_thread.quit();
+    m_thread.wait();
     disconnect(&m_thread, &QThread::started, this, nullptr);
     m_framesDelivered = 0;
     spdlog::info("ScreenCaptureManager: stopped");
@@ -110,6 +110,9 @@ void ScreenCaptureManager::captureLoop() {
         }
     }
     spdlog::debug("ScreenCaptureManager: capture loop exiting");
+    const std::lock_guard lock(m_waitMutex);
+    m_looping = false;
+    m_loopEnded.notify_all();
 }
 
 /// False when the backend has lost its screen.

@@ -91,6 +91,8 @@ private:
     std::chrono::milliseconds m_recoveryDelay; ///< capture thread only
     std::mutex m_waitMutex;
     std::condition_variable m_stopRequested;
+    std::condition_variable m_loopEnded;
+    bool m_looping = false; ///< whether the capture loop still runs; guarded by `m_waitMutex`
 };
 
 } // namespace corvane

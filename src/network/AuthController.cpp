@@ -2,6 +2,7 @@
 
 #include "ApiClient.h"
 #include "DeploymentConstants.h"
+#include "HeartbeatService.h"
 #include "MachineFingerprint.h"
 #include "PairingCodeGenerator.h"
 #include "PasswordPolicy.h"
@@ -17,6 +18,7 @@ namespace corvane {
 namespace {
 
 constexpr int32_t kFailuresBeforeClearing = 3;
+constexpr int kHeartbeatIntervalMs = 30'000;
 
 bool isCredentialError(const QString& error) {
     return error.contains(QStringLiteral("Invalid device credentials"), Qt::CaseInsensitive) ||
@@ -32,10 +34,10 @@ QString initialSessionPassword(const SettingsController& settings) {
 } // namespace
 
 AuthController::AuthController(ApiClient* api, SignalingClient* signaling,
-                               SettingsController* settings, QObject* parent,
-                               AuthIntervals intervals)
-    : QObject(parent), m_api(api), m_signaling(signaling), m_settings(settings),
-      m_sessionPassword(initialSessionPassword(*settings)) {
+                               HeartbeatService* heartbeat, SettingsController* settings,
+                               QObject* parent, AuthIntervals intervals)
+    : QObject(parent), m_api(api), m_signaling(signaling), m_heartbeat(heartbeat),
+      m_settings(settings), m_sessionPassword(initialSessionPassword(*settings)) {
     connect(m_api, &ApiClient::autoRegisterSuccess, this, &AuthController::onAutoRegisterSuccess);
     connect(m_api, &ApiClient::authSuccess, this, &AuthController::onAuthSuccess);
     connect(m_api, &ApiClient::authError, this, &AuthController::onAuthError);
@@ -108,6 +110,7 @@ void AuthController::onAuthSuccess(const QString& clientId, const QString&) {
 void AuthController::completeAuthentication(const QString& clientId) {
     m_authenticated = true;
     m_signaling->connectToServer(m_api->serverUrl(), clientId, m_api->token());
+    m_heartbeat->start(kHeartbeatIntervalMs);
     Q_EMIT authenticated(clientId);
 }
 

@@ -10,6 +10,7 @@
 namespace corvane {
 
 class ApiClient;
+class HeartbeatService;
 class SettingsController;
 class SignalingClient;
 
@@ -26,10 +27,11 @@ class AuthController : public QObject {
     Q_OBJECT
 
 public:
-    /// Borrows the three services, which must outlive it. The session password and the first
+    /// Borrows the four services, which must outlive it. The session password and the first
     /// pairing code are there on return; nothing is sent before `start`.
-    AuthController(ApiClient* api, SignalingClient* signaling, SettingsController* settings,
-                   QObject* parent = nullptr, AuthIntervals intervals = AuthIntervals());
+    AuthController(ApiClient* api, SignalingClient* signaling, HeartbeatService* heartbeat,
+                   SettingsController* settings, QObject* parent = nullptr,
+                   AuthIntervals intervals = AuthIntervals());
 
     /// The first rule of the password policy that `password` breaks, as a translated sentence;
     /// empty when it is acceptable.
@@ -74,6 +76,7 @@ private:
 
     ApiClient* m_api;
     SignalingClient* m_signaling;
+    HeartbeatService* m_heartbeat;
     SettingsController* m_settings;
     bool m_authenticated = false;
     QString m_sessionPassword;

@@ -26,7 +26,7 @@ bool UploadSpool::append(ByteSpan chunk) {
         return true;
     }
     if (!m_file && chunk.size() <= m_memoryLimit - m_memory.size()) {
-        m_memory.insert(m_memory.end(), chunk.begin(), chunk.end());
+        appendBytes(m_memory, chunk);
     } else if (!spill(chunk)) {
         m_failed = true;
         m_memory = {};

@@ -66,7 +66,7 @@ void SessionDataPlane::startStreaming(const StreamingSettings& settings,
             Q_EMIT failed(tr("Failed to start screen capture."));
         }
     } else {
-        m_viewer = std::make_unique<ViewerStream>();
+        createViewer();
         spdlog::info("Master streaming started (decoder ready)");
     }
 }
@@ -126,6 +126,9 @@ void SessionDataPlane::receiveControl(const QByteArray& sealed) {
         spdlog::warn("Failed to decrypt control data ({} bytes)", sealed.size());
         return;
     }
+    if (m_viewer) {
+        m_viewer->onMessage(SessionLink::counterOf(sealed));
+    }
     const ControlRoute* route = findRoute(message.front());
     if (route == nullptr || message.size() < route->minimumSize) {
         return;
@@ -146,9 +149,11 @@ void SessionDataPlane::receiveVideo(const QByteArray& sealed) {
         return;
     }
     if (!m_viewer) {
-        m_viewer = std::make_unique<ViewerStream>();
+        createViewer();
     }
-    if (auto frame = m_viewer->decode(packet)) {
+    const uint64_t counter = SessionLink::counterOf(sealed);
+    m_viewer->onMessage(counter);
+    if (auto frame = m_viewer->decode(counter, packet)) {
         Q_EMIT frameDecoded(std::move(frame));
     } else {
         m_link.countDroppedFrame();
@@ -197,6 +202,15 @@ void SessionDataPlane::onCommand(ByteSpan message) {
     if (m_target) {
         m_target->switchMonitor(*monitorIndex);
     }
+}
+
+void SessionDataPlane::createViewer() {
+    m_viewer = std::make_unique<ViewerStream>();
+    connect(m_viewer.get(), &ViewerStream::keyframeNeeded, this, [this] {
+        if (m_link.isOpen()) {
+            sendControl(ControlTag::KeyframeRequest, {});
+        }
+    });
 }
 
 void SessionDataPlane::updateFlow() {

@@ -74,6 +74,7 @@ private:
     void onFileTransfer(ByteSpan message) { m_services.onFileTransfer(message); }
     void onChat(ByteSpan message) { m_services.onChat(message); }
 
+    void createViewer();
     void updateFlow();
     bool sendControl(ControlTag tag, ByteSpan payload);
     void sendVideo(const ByteVector& sealed);

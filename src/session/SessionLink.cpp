@@ -53,6 +53,10 @@ ByteVector SessionLink::open(const QByteArray& sealed) {
                             static_cast<size_t>(sealed.size()));
 }
 
+uint64_t SessionLink::counterOf(const QByteArray& sealed) {
+    return AesGcmCipher::counterOf(reinterpret_cast<const uint8_t*>(sealed.constData()));
+}
+
 bool SessionLink::send(ChannelType channel, const ByteVector& sealed) {
     if (!isOpen() || !m_transport->send(channel, sealed.data(), sealed.size())) {
         return false;

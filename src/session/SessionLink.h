@@ -46,6 +46,9 @@ public:
     ByteVector seal(const ByteVector& message);
     ByteVector open(const QByteArray& sealed);
 
+    /// The peer's counter in a message that could be opened.
+    static uint64_t counterOf(const QByteArray& sealed);
+
     /// False when the link is not open or the transport did not take the message.
     bool send(ChannelType channel, const ByteVector& sealed);
 

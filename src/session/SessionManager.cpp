@@ -113,10 +113,18 @@ void SessionManager::onSessionCreated(const nlohmann::json& data) {
     m_sessionId = *sessionId;
     spdlog::info("Session created with ID: {}", m_sessionId.toStdString());
     setState(SessionState::Handshaking);
+    if (const auto ack = std::exchange(m_earlyAck, std::nullopt);
+        ack && ack->sessionId == m_sessionId) {
+        onHandshakeAck(ack->sessionId, ack->state, ack->targetEcdhPublicKey);
+    }
 }
 
 void SessionManager::onHandshakeAck(const QString& sessionId, const QString& state,
                                     const QString& targetEcdhPublicKey) {
+    if (m_role == SessionRole::Master && m_state == SessionState::Initiating) {
+        m_earlyAck = {sessionId, state, targetEcdhPublicKey};
+        return;
+    }
     if (m_role != SessionRole::Master || m_state != SessionState::Handshaking) {
         return;
     }
@@ -365,6 +373,7 @@ void SessionManager::cleanup() {
     stopStreaming();
     ++m_generation;
     m_creations.abandon();
+    m_earlyAck.reset();
     // Clean-up may run inside a signal of either object: cut them off now, delete them later.
     const auto retire = [this](auto& owner) {
         if (owner) {

@@ -14,6 +14,7 @@
 #include <nlohmann/json.hpp>
 
 #include <memory>
+#include <optional>
 
 namespace corvane {
 
@@ -96,6 +97,13 @@ private Q_SLOTS:
     void onTransportData(corvane::ChannelType channel, const QByteArray& data);
 
 private:
+    /// The partner can be quicker than the server's answer to the request that reached it.
+    struct HandshakeAck {
+        QString sessionId;
+        QString state;
+        QString targetEcdhPublicKey;
+    };
+
     void setState(SessionState newState);
     void fail(const QString& error);
     bool createKeyExchange();
@@ -119,6 +127,7 @@ private:
     /// Tells a queued end apart from the session that it was meant for.
     quint64 m_generation = 0;
     CreationRequests m_creations;
+    std::optional<HandshakeAck> m_earlyAck;
     QPointer<ConnectionQualityMonitor> m_qualityMonitor;
 
     std::unique_ptr<EcdhKeyExchange> m_keyExchange;

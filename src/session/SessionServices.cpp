@@ -72,8 +72,8 @@ void SessionServices::sendClipboard(const QByteArray& data) {
     if (!m_link.isOpen()) {
         return;
     }
-    const auto* const bytes = reinterpret_cast<const uint8_t*>(data.constData());
-    const ByteVector sealed = m_link.seal(ByteVector(bytes, bytes + data.size()));
+    const ByteVector sealed = m_link.seal(copyBytes(
+        {reinterpret_cast<const uint8_t*>(data.constData()), static_cast<size_t>(data.size())}));
     if (sealed.empty()) {
         spdlog::error("Failed to encrypt clipboard data");
         return;

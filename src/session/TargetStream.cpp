@@ -2,6 +2,7 @@
 
 #include "AV1Encoder.h"
 #include "InputForwarder.h"
+#include "RepeatingScreen.h"
 #include "ScreenCaptureManager.h"
 #include "SessionPlatform.h"
 
@@ -11,7 +12,10 @@ namespace corvane {
 
 TargetStream::TargetStream(StreamingSettings settings, AesGcmCipher& cipher, QObject* parent)
     : QObject(parent), m_settings(std::move(settings)),
-      m_pipeline(m_settings, cipher, std::make_unique<AV1Encoder>()) {}
+      m_pipeline(m_settings, cipher, std::make_unique<AV1Encoder>()) {
+    connect(this, &TargetStream::packetsWaiting, this, &TargetStream::deliverPackets,
+            Qt::QueuedConnection);
+}
 
 TargetStream::~TargetStream() {
     stop();
@@ -23,7 +27,10 @@ bool TargetStream::start(const SessionPlatform& platform) {
         spdlog::error("Failed to initialize any screen capture backend");
         return false;
     }
-    m_capture = std::make_unique<ScreenCaptureManager>(std::move(backend));
+    auto screen =
+        std::make_unique<RepeatingScreen>(std::move(backend), [this] { return m_lastFrame; });
+    m_screen = screen.get();
+    m_capture = std::make_unique<ScreenCaptureManager>(std::move(screen));
 
     auto inputBackend = platform.inputBackend();
     inputBackend->initialize();
@@ -31,6 +38,7 @@ bool TargetStream::start(const SessionPlatform& platform) {
 
     m_capture->setFrameCallback([this](const std::shared_ptr<CapturedFrame>& frame) {
         if (frame) {
+            m_lastFrame = frame;
             onFrame(*frame);
         }
     });
@@ -41,19 +49,11 @@ bool TargetStream::start(const SessionPlatform& platform) {
 }
 
 void TargetStream::setFlowing(bool flowing) {
-    {
-        const std::lock_guard lock(m_gateMutex);
-        m_flowing = flowing;
-    }
-    m_gateChanged.notify_all();
+    m_packets.setFlowing(flowing);
 }
 
 void TargetStream::stop() {
-    {
-        const std::lock_guard lock(m_gateMutex);
-        m_stopping = true;
-    }
-    m_gateChanged.notify_all();
+    m_packets.close();
     if (m_capture) {
         m_capture->stop();
     }
@@ -63,6 +63,7 @@ void TargetStream::stop() {
 void TargetStream::requestKeyframe() {
     if (m_capture) {
         m_capture->requestKeyframe();
+        m_screen->requestRepeat();
     }
 }
 
@@ -94,23 +95,19 @@ TargetStream::openBackend(const SessionPlatform& platform) const {
 }
 
 void TargetStream::onFrame(const CapturedFrame& frame) {
-    if (!waitUntilFlowing()) {
+    if (!m_packets.waitForRoom()) {
         return;
     }
     auto sealed = m_pipeline.process(frame);
-    if (!sealed) {
-        return;
+    if (sealed && m_packets.push(std::move(*sealed))) {
+        Q_EMIT packetsWaiting(QPrivateSignal());
     }
-    // A call queued for this object dies with it, so a packet never leaks into the next session.
-    QMetaObject::invokeMethod(
-        this, [this, packet = std::move(*sealed)] { Q_EMIT packetReady(packet); },
-        Qt::QueuedConnection);
 }
 
-bool TargetStream::waitUntilFlowing() {
-    std::unique_lock lock(m_gateMutex);
-    m_gateChanged.wait(lock, [this] { return m_flowing || m_stopping; });
-    return !m_stopping;
+void TargetStream::deliverPackets() {
+    while (const auto packet = m_packets.pop()) {
+        Q_EMIT packetReady(*packet);
+    }
 }
 
 } // namespace corvane

@@ -4,26 +4,26 @@
 #include "CapturedFrame.h"
 #include "FramePipeline.h"
 #include "InputEvent.h"
+#include "PacketQueue.h"
 #include "StreamingSettings.h"
 
 #include <QObject>
 
-#include <condition_variable>
 #include <memory>
-#include <mutex>
 
 namespace corvane {
 
 class AesGcmCipher;
 class IScreenCaptureBackend;
 class InputForwarder;
+class RepeatingScreen;
 class ScreenCaptureManager;
 struct SessionPlatform;
 
 /// The shared side of a running session: captures, encodes and seals on the capture thread, hands
 /// every packet to the main thread, and applies the viewer's input.
 ///
-/// All calls and the signal belong to the main thread.
+/// All calls belong to the main thread, and so do the signals that do not say otherwise.
 class TargetStream : public QObject {
     Q_OBJECT
 
@@ -41,9 +41,10 @@ public:
     /// packet can be sent. Off at first.
     void setFlowing(bool flowing);
 
-    /// Ends capture and joins its thread.
+    /// Ends capture and joins its thread. Packets not yet handed over are dropped.
     void stop();
 
+    /// Has the next picture encoded afresh, and soon even if the screen stands still.
     void requestKeyframe();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);
@@ -52,20 +53,21 @@ Q_SIGNALS:
     /// One sealed video message.
     void packetReady(const corvane::ByteVector& sealed);
 
+    /// Emitted on the capture thread: wakes the main thread.
+    void packetsWaiting(QPrivateSignal);
+
 private:
     std::unique_ptr<IScreenCaptureBackend> openBackend(const SessionPlatform& platform) const;
     void onFrame(const CapturedFrame& frame);
-    bool waitUntilFlowing();
+    void deliverPackets();
 
     const StreamingSettings m_settings;
     FramePipeline m_pipeline; ///< capture thread only, while it runs
+    PacketQueue m_packets;
+    std::shared_ptr<const CapturedFrame> m_lastFrame; ///< capture thread only, while it runs
     std::unique_ptr<ScreenCaptureManager> m_capture;
+    RepeatingScreen* m_screen = nullptr; ///< belongs to the capture manager
     std::unique_ptr<InputForwarder> m_input;
-
-    std::mutex m_gateMutex;
-    std::condition_variable m_gateChanged;
-    bool m_flowing = false;
-    bool m_stopping = false;
 };
 
 } // namespace corvane

@@ -2,7 +2,10 @@
 
 #include "ByteVector.h"
 #include "DecodedFrame.h"
+#include "PictureRecovery.h"
 #include "StreamMeter.h"
+
+#include <QObject>
 
 #include <memory>
 
@@ -10,19 +13,31 @@ namespace corvane {
 
 class IVideoDecoder;
 
-/// The viewing side of a running session: decodes the packets of the video channel. Main thread.
-class ViewerStream {
-public:
-    ViewerStream();
-    ~ViewerStream();
+/// The viewing side of a running session: decodes the packets of the video channel and asks for a
+/// key frame where one was lost. Main thread.
+class ViewerStream : public QObject {
+    Q_OBJECT
 
-    /// The packet's picture, or null when none came out. Opens the decoder on first use.
-    std::shared_ptr<DecodedFrame> decode(ByteSpan packet);
+public:
+    explicit ViewerStream(QObject* parent = nullptr);
+    ~ViewerStream() override;
+
+    /// A message of either channel, with its sender's counter, was opened.
+    void onMessage(uint64_t counter) { m_recovery.onMessage(counter); }
+
+    /// The packet's picture, or null when none came out: it makes no sense, or it was overtaken by
+    /// a later one. Opens the decoder on first use.
+    std::shared_ptr<DecodedFrame> decode(uint64_t counter, ByteSpan packet);
 
     void stop();
 
+Q_SIGNALS:
+    void keyframeNeeded();
+
 private:
     std::unique_ptr<IVideoDecoder> m_decoder;
+    PictureRecovery m_recovery;
+    uint64_t m_nextCounter = 0; ///< the packets before it have had their turn
     StreamMeter m_meter;
 };
 

@@ -19,6 +19,7 @@ namespace corvane {
 namespace {
 
 constexpr int kStarSide = 28;
+constexpr int kWakeSide = 32;
 constexpr int kFavoritesHeight = 84; // three rows and a half, so that a fourth is noticed
 
 } // namespace
@@ -74,8 +75,12 @@ QLayout* ConnectCard::createPartnerRow() {
     m_star = createIconButton(QStringLiteral("favoriteButton"), QStringLiteral("star_border"),
                               tr("Add to favorites"), kStarSide, this);
     connect(m_star, &QPushButton::clicked, this, &ConnectCard::toggleFavorite);
+    auto* const wake = createIconButton(QStringLiteral("wakeButton"), QStringLiteral("power"),
+                                        tr("Wake-on-LAN"), kWakeSide, this);
+    connect(wake, &QPushButton::clicked, this, &ConnectCard::wakeRequested);
     row->addWidget(m_partner, 1);
     row->addWidget(m_star);
+    row->addWidget(wake);
     return row;
 }
 

@@ -35,6 +35,8 @@ public:
 Q_SIGNALS:
     void connectRequested();
     void disconnectRequested();
+    /// The user wants to wake the partner in the field.
+    void wakeRequested();
 
 private:
     QLayout* createPartnerRow();

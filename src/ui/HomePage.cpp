@@ -5,6 +5,7 @@
 #include "DeploymentConstants.h"
 #include "DeviceCard.h"
 #include "UiColors.h"
+#include "UpdateBanner.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -34,7 +35,9 @@ HomePage::HomePage(SettingsController* settings, QWidget* parent) : QWidget(pare
     version->setStyleSheet(
         QStringLiteral("color: %1; font-size: 10px;").arg(QLatin1String(colors::kCaption)));
 
+    m_updateBanner = new UpdateBanner(this);
     layout->addLayout(createHeader());
+    layout->addWidget(m_updateBanner);
     layout->addWidget(m_deviceCard);
     layout->addWidget(m_connectCard);
     layout->addWidget(createCaption(tr("PAIRING CODE"), this));
@@ -54,8 +57,13 @@ QLayout* HomePage::createHeader() {
     auto* const admin = createIconButton(QStringLiteral("adminButton"), QStringLiteral("admin"),
                                          tr("Admin Panel"), kHeaderButtonSide, this);
     connect(admin, &QPushButton::clicked, this, &HomePage::adminPanelRequested);
+    auto* const settings =
+        createIconButton(QStringLiteral("settingsButton"), QStringLiteral("settings"),
+                         tr("Settings"), kHeaderButtonSide, this);
+    connect(settings, &QPushButton::clicked, this, &HomePage::settingsRequested);
     row->addWidget(title, 1);
     row->addWidget(admin);
+    row->addWidget(settings);
     return row;
 }
 

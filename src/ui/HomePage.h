@@ -10,6 +10,7 @@ namespace corvane {
 class ConnectCard;
 class DeviceCard;
 class SettingsController;
+class UpdateBanner;
 
 /// Page shown while this side is not viewing a partner.
 class HomePage : public QWidget {
@@ -20,16 +21,19 @@ public:
 
     DeviceCard* deviceCard() const { return m_deviceCard; }
     ConnectCard* connectCard() const { return m_connectCard; }
+    UpdateBanner* updateBanner() const { return m_updateBanner; }
     void setPairingCode(const QString& code);
 
 Q_SIGNALS:
     void adminPanelRequested();
+    void settingsRequested();
 
 private:
     QLayout* createHeader();
     QLayout* createPairingRow();
     QLabel* createAdminLink();
 
+    UpdateBanner* m_updateBanner = nullptr;
     DeviceCard* m_deviceCard = nullptr;
     ConnectCard* m_connectCard = nullptr;
     QLabel* m_pairingCode = nullptr;

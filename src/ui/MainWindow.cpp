@@ -3,21 +3,31 @@
 #include "ApiClient.h"
 #include "AuthController.h"
 #include "ConnectCard.h"
+#include "ConnectionQualityMonitor.h"
 #include "DeploymentConstants.h"
 #include "DeviceCard.h"
 #include "HomePage.h"
+#include "ISystemIntegration.h"
 #include "MessageBoxes.h"
 #include "PartnerId.h"
+#include "QualityIndicator.h"
+#include "SessionDialogs.h"
 #include "SessionManager.h"
+#include "SessionSettings.h"
 #include "SettingsController.h"
+#include "SettingsDialog.h"
 #include "SignalingClient.h"
+#include "SystemTrayIcon.h"
 #include "UiColors.h"
+#include "UpdateBanner.h"
 #include "ViewerPage.h"
+#include "WakeOnLanAction.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QInputDialog>
+#include <QProcess>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QUrl>
@@ -49,20 +59,30 @@ QSize initialViewerSize() {
 } // namespace
 
 MainWindow::MainWindow(AuthController* auth, ApiClient* api, SignalingClient* signaling,
-                       SessionManager* session, SettingsController* settings)
-    : m_auth(auth), m_api(api), m_signaling(signaling), m_session(session), m_settings(settings) {
+                       SessionManager* session, SettingsController* settings,
+                       MainWindowPlatform platform)
+    : m_auth(auth), m_api(api), m_signaling(signaling), m_session(session), m_settings(settings),
+      m_platform(std::move(platform)) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(productTitle());
     setMinimumSize(kHomeMinimum);
     m_boxes = new MessageBoxes(this);
+    m_quality = new ConnectionQualityMonitor(this);
+    m_session->setQualityMonitor(m_quality);
+    m_dialogs = new SessionDialogs(m_session, m_quality, this);
+    m_wakeOnLan = new WakeOnLanAction(m_settings, m_boxes, this);
     createPages();
+    createTray();
     connectPages();
+    connectViewer();
     connectServices();
     m_home->setPairingCode(m_auth->pairingCode());
     m_connect->focusPartnerField();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    m_session->setQualityMonitor(nullptr);
+}
 
 void MainWindow::createPages() {
     m_pages = new QStackedWidget(this);
@@ -75,15 +95,45 @@ void MainWindow::createPages() {
     m_connect = m_home->connectCard();
 }
 
+void MainWindow::createTray() {
+    m_tray = new SystemTrayIcon(this);
+    connect(m_tray, &SystemTrayIcon::showWindowRequested, this, [this] {
+        show();
+        raise();
+        activateWindow();
+    });
+    connect(m_tray, &SystemTrayIcon::disconnectRequested, this, &MainWindow::onDisconnectClicked);
+    connect(m_tray, &SystemTrayIcon::quitRequested, this, &MainWindow::quitByTray);
+    m_tray->show();
+}
+
 void MainWindow::connectPages() {
     connect(m_home, &HomePage::adminPanelRequested, this,
             [] { QDesktopServices::openUrl(QUrl(QString::fromLatin1(deployment::kAdminUrl))); });
+    connect(m_home, &HomePage::settingsRequested, this, &MainWindow::onSettingsClicked);
+    connect(m_home->updateBanner(), &UpdateBanner::downloadRequested, this,
+            &MainWindow::updateRequested);
     connect(m_device, &DeviceCard::changePasswordRequested, this, &MainWindow::changePassword);
     connect(m_connect, &ConnectCard::connectRequested, this, &MainWindow::onConnectClicked);
     connect(m_connect, &ConnectCard::disconnectRequested, this, &MainWindow::onDisconnectClicked);
-    connect(m_viewer, &ViewerPage::disconnectRequested, this, &MainWindow::onDisconnectClicked);
-    connect(m_viewer, &ViewerPage::monitorSwitchRequested, m_session,
-            &SessionManager::requestMonitorSwitch);
+    connect(m_connect, &ConnectCard::wakeRequested, this, [this] {
+        const QString partner = barePartnerId(m_connect->partnerText());
+        if (partner.isEmpty()) {
+            m_boxes->warn(tr("Error"), tr("Please enter a partner Client ID."));
+        } else {
+            m_wakeOnLan->wake(partner);
+        }
+    });
+}
+
+void MainWindow::connectViewer() {
+    ViewerToolBar* const bar = m_viewer->toolBar();
+    connect(bar, &ViewerToolBar::infoRequested, m_dialogs, &SessionDialogs::openInfo);
+    connect(bar, &ViewerToolBar::filesRequested, m_dialogs, &SessionDialogs::openFiles);
+    connect(bar, &ViewerToolBar::chatRequested, m_dialogs, &SessionDialogs::openChat);
+    connect(m_dialogs, &SessionDialogs::chatWaiting, bar, &ViewerToolBar::setChatWaiting);
+    connect(bar, &ViewerToolBar::disconnectRequested, this, &MainWindow::onDisconnectClicked);
+    connect(bar, &ViewerToolBar::monitorChosen, m_session, &SessionManager::requestMonitorSwitch);
     connect(m_viewer->view(), &RemoteDesktopWidget::inputEvent, m_session,
             &SessionManager::sendInputEvent);
 }
@@ -105,6 +155,7 @@ void MainWindow::connectServices() {
     connect(m_session, &SessionManager::stateChanged, this, &MainWindow::onSessionStateChanged);
     connect(m_session, &SessionManager::sessionError, this, &MainWindow::onSessionError);
     connect(m_session, &SessionManager::frameDecoded, this, &MainWindow::onFrameDecoded);
+    connect(m_quality, &ConnectionQualityMonitor::statsUpdated, this, &MainWindow::onStatsUpdated);
 }
 
 void MainWindow::onAuthenticated(const QString& clientId) {
@@ -114,6 +165,7 @@ void MainWindow::onAuthenticated(const QString& clientId) {
     m_connect->setConnectEnabled(true);
     m_connect->setDisconnectEnabled(true);
     setStatus(tr("Ready"), colors::kStatusReady);
+    notify(tr("Ready. Your ID: %1").arg(formatPartnerId(clientId)));
 }
 
 void MainWindow::onLoggedOut() {
@@ -161,6 +213,17 @@ void MainWindow::onDisconnectClicked() {
     }
 }
 
+void MainWindow::onSettingsClicked() {
+    auto* const dialog =
+        new SettingsDialog(m_settings, m_platform.integration, m_platform.monitors(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &SettingsDialog::settingsChanged, this, [this] {
+        spdlog::info("Settings updated by user");
+        applySessionSettings(*m_session, *m_settings);
+    });
+    dialog->open();
+}
+
 void MainWindow::endSession(const QString& reason) {
     // While the partner still listens: whatever the user holds down must not stay down over there.
     m_viewer->view()->setViewingMode(false);
@@ -169,6 +232,9 @@ void MainWindow::endSession(const QString& reason) {
 
 void MainWindow::onSessionHandshakeRequest(const QString& sessionId, const QString& masterClientId,
                                            const QString& purpose) {
+    if (!isVisible()) {
+        m_tray->showConnectionRequest(formatPartnerId(masterClientId));
+    }
     showNormal();
     activateWindow();
     raise();
@@ -189,6 +255,7 @@ void MainWindow::onSessionAutoAccept(const QString& sessionId, const QString& ma
     spdlog::info("Auto-accepting session {} from {} (password verified)", sessionId.toStdString(),
                  masterClientId.toStdString());
     m_session->acceptSession(sessionId, masterClientId, masterEcdhPublicKey);
+    notify(tr("Incoming connection from %1").arg(formatPartnerId(masterClientId)));
 }
 
 void MainWindow::onSessionStateChanged(SessionState newState) {
@@ -211,9 +278,7 @@ void MainWindow::onSessionStateChanged(SessionState newState) {
         break;
     case SessionState::Connected:
         setStatus(tr("Connected"), colors::kStatusReady);
-        if (m_session->role() == SessionRole::Master) {
-            enterViewer();
-        }
+        enterSession();
         break;
     case SessionState::Closing:
         setStatus(tr("Disconnecting..."), colors::kStatusWaiting);
@@ -222,6 +287,7 @@ void MainWindow::onSessionStateChanged(SessionState newState) {
         setStatus(tr("Session failed"), colors::kStatusFailed);
         returnHome();
         restoreConnectButton();
+        notify(tr("Session failed."), QSystemTrayIcon::Warning);
         break;
     }
 }
@@ -232,7 +298,22 @@ void MainWindow::onSessionError(const QString& error) {
 }
 
 void MainWindow::onFrameDecoded(std::shared_ptr<DecodedFrame> frame) {
-    m_viewer->view()->updateFrame(std::move(frame));
+    if (frame) {
+        m_quality->countFrame();
+        m_viewer->view()->updateFrame(std::move(frame));
+    }
+}
+
+void MainWindow::onStatsUpdated(const ConnectionStats& stats) {
+    if (m_pages->currentWidget() != m_viewer) {
+        return;
+    }
+    setWindowTitle(tr("Corvane - %1 [%2 FPS]")
+                       .arg(formatPartnerId(m_session->peerClientId()))
+                       .arg(static_cast<int>(stats.fps)));
+    ViewerToolBar* const bar = m_viewer->toolBar();
+    bar->setSummary(m_quality->summaryText());
+    bar->qualityIndicator()->showQuality(m_quality->qualityLevel(), stats);
 }
 
 void MainWindow::onRequestError(const QString& endpoint, int statusCode, const QString& detail) {
@@ -252,18 +333,60 @@ void MainWindow::onRequestError(const QString& endpoint, int statusCode, const Q
     m_boxes->warn(tr("Connection Error"), message);
 }
 
+void MainWindow::showUpdateBanner(const QString& version, const QString& downloadUrl,
+                                  const QString&) {
+    m_home->updateBanner()->announce(version, downloadUrl);
+}
+
+void MainWindow::showUpdateProgress(int percent) {
+    m_home->updateBanner()->setProgress(percent);
+}
+
+void MainWindow::showUpdateError(const QString& error) {
+    m_home->updateBanner()->reset();
+    m_boxes->warn(tr("Update"), error);
+}
+
+void MainWindow::launchInstaller(const QString& installerPath) {
+    spdlog::info("Launching installer: {}", installerPath.toStdString());
+    if (!QProcess::startDetached(
+            installerPath, {QStringLiteral("/SILENT"), QStringLiteral("/SUPPRESSMSGBOXES")})) {
+        spdlog::error("The installer could not be started");
+        showUpdateError(tr("The installer could not be started."));
+        return;
+    }
+    QMetaObject::invokeMethod(this, &MainWindow::quitRequested, Qt::QueuedConnection);
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (isActive(m_session->state())) {
         endSession(QStringLiteral("user_closed_window"));
         returnHome();
         event->ignore();
-        return;
+    } else if (m_settings->minimizeToTray() && m_tray->isVisible() && m_platform.isTrayThere()) {
+        hide();
+        notify(tr("Application minimized to system tray."));
+        event->ignore();
+    } else {
+        event->accept();
+        Q_EMIT quitRequested();
     }
-    event->accept();
+}
+
+void MainWindow::quitByTray() {
+    if (isActive(m_session->state())) {
+        endSession(QStringLiteral("application_quit"));
+    }
+    Q_EMIT quitRequested();
 }
 
 void MainWindow::setStatus(const QString& text, const char* color) {
     m_device->setStatus(text, QLatin1String(color));
+    m_tray->setStatus(text);
+}
+
+void MainWindow::notify(const QString& text, QSystemTrayIcon::MessageIcon icon) {
+    m_tray->showNotification(QStringLiteral("Corvane"), text, icon);
 }
 
 bool MainWindow::isRegistered() const {
@@ -272,6 +395,17 @@ bool MainWindow::isRegistered() const {
 
 void MainWindow::restoreConnectButton() {
     m_connect->setConnectEnabled(isRegistered());
+}
+
+void MainWindow::enterSession() {
+    m_quality->start();
+    m_tray->setDisconnectEnabled(true);
+    m_dialogs->begin();
+    if (m_session->role() == SessionRole::Master) {
+        enterViewer();
+    } else {
+        notify(tr("Remote session active — sharing your screen."));
+    }
 }
 
 void MainWindow::enterViewer() {
@@ -287,6 +421,11 @@ void MainWindow::returnHome() {
     RemoteDesktopWidget* const view = m_viewer->view();
     view->setViewingMode(false);
     view->clearPicture();
+    m_quality->stop();
+    m_viewer->toolBar()->setSummary({});
+    m_viewer->toolBar()->qualityIndicator()->reset();
+    m_tray->setDisconnectEnabled(false);
+    m_dialogs->end();
     setWindowTitle(productTitle());
     if (isFullScreen()) {
         showNormal();

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "ConnectionStats.h"
 #include "DecodedFrame.h"
+#include "MainWindowPlatform.h"
 #include "SessionState.h"
 
 #include <QMainWindow>
+#include <QSystemTrayIcon>
 
 #include <memory>
 
@@ -14,13 +17,17 @@ namespace corvane {
 class ApiClient;
 class AuthController;
 class ConnectCard;
+class ConnectionQualityMonitor;
 class DeviceCard;
 class HomePage;
 class MessageBoxes;
+class SessionDialogs;
 class SessionManager;
 class SettingsController;
 class SignalingClient;
+class SystemTrayIcon;
 class ViewerPage;
+class WakeOnLanAction;
 
 /// The program's only top-level window: the home page with this device's identity and the way to a
 /// partner, and the viewer page while a partner is being viewed. Conducts between the user, the
@@ -29,9 +36,9 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// All five are borrowed and must outlive the window.
+    /// The five pointers are borrowed and must outlive the window.
     MainWindow(AuthController* auth, ApiClient* api, SignalingClient* signaling,
-               SessionManager* session, SettingsController* settings);
+               SessionManager* session, SettingsController* settings, MainWindowPlatform platform);
     ~MainWindow() override;
 
 public Q_SLOTS:
@@ -41,6 +48,7 @@ public Q_SLOTS:
     void onSignalingDisconnected();
     void onConnectClicked();
     void onDisconnectClicked();
+    void onSettingsClicked();
     void onSessionHandshakeRequest(const QString& sessionId, const QString& masterClientId,
                                    const QString& purpose);
     void onSessionAutoAccept(const QString& sessionId, const QString& masterClientId,
@@ -48,19 +56,39 @@ public Q_SLOTS:
     void onSessionStateChanged(corvane::SessionState newState);
     void onSessionError(const QString& error);
     void onFrameDecoded(std::shared_ptr<corvane::DecodedFrame> frame);
+    void onStatsUpdated(const corvane::ConnectionStats& stats);
     void onRequestError(const QString& endpoint, int statusCode, const QString& detail);
+
+    void showUpdateBanner(const QString& version, const QString& downloadUrl,
+                          const QString& releaseNotes);
+    void showUpdateProgress(int percent);
+    void showUpdateError(const QString& error);
+    /// Starts the installer on its own and asks for the end of the program.
+    void launchInstaller(const QString& installerPath);
+
+Q_SIGNALS:
+    void updateRequested(QString downloadUrl);
+    /// The program should end: the window was closed for good, the tray's Quit was chosen, or an
+    /// installer is waiting for it.
+    void quitRequested();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void createPages();
+    void createTray();
     void connectPages();
+    void connectViewer();
     void connectServices();
     void setStatus(const QString& text, const char* color);
     bool isRegistered() const;
     void restoreConnectButton();
+    void notify(const QString& text,
+                QSystemTrayIcon::MessageIcon icon = QSystemTrayIcon::Information);
     void endSession(const QString& reason);
+    void quitByTray();
+    void enterSession();
     void enterViewer();
     void returnHome();
     void changePassword();
@@ -70,7 +98,12 @@ private:
     SignalingClient* const m_signaling;
     SessionManager* const m_session;
     SettingsController* const m_settings;
+    const MainWindowPlatform m_platform;
     MessageBoxes* m_boxes = nullptr;
+    SystemTrayIcon* m_tray = nullptr;
+    ConnectionQualityMonitor* m_quality = nullptr;
+    SessionDialogs* m_dialogs = nullptr;
+    WakeOnLanAction* m_wakeOnLan = nullptr;
     QStackedWidget* m_pages = nullptr;
     HomePage* m_home = nullptr;
     ViewerPage* m_viewer = nullptr;

@@ -17,10 +17,24 @@ QString boundedText(const QString& text) {
 MessageBoxes::MessageBoxes(QWidget* window) : QObject(window), m_window(window) {}
 
 void MessageBoxes::warn(const QString& title, const QString& text) {
-    QMessageBox* const box = create(QMessageBox::Warning, title, text);
-    box->setObjectName(QStringLiteral("warningBox"));
+    tell(QMessageBox::Warning, QStringLiteral("warningBox"), title, text);
+}
+
+void MessageBoxes::inform(const QString& title, const QString& text, std::function<void()> closed) {
+    const QMessageBox* const box =
+        tell(QMessageBox::Information, QStringLiteral("informationBox"), title, text);
+    if (closed) {
+        connect(box, &QMessageBox::finished, this, std::move(closed), Qt::SingleShotConnection);
+    }
+}
+
+QMessageBox* MessageBoxes::tell(QMessageBox::Icon icon, const QString& objectName,
+                                const QString& title, const QString& text) {
+    QMessageBox* const box = create(icon, title, text);
+    box->setObjectName(objectName);
     box->setStandardButtons(QMessageBox::Ok);
     box->open();
+    return box;
 }
 
 void MessageBoxes::ask(const QString& title, const QString& text,

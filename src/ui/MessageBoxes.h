@@ -14,7 +14,7 @@ namespace corvane {
 /// network could see its sender torn down underneath. One box per title: a newer one replaces the
 /// older, so that a misbehaving peer or server cannot pile them up. Texts are shown literally.
 ///
-/// Object names: "warningBox" and "questionBox".
+/// Object names: "warningBox", "informationBox" and "questionBox".
 class MessageBoxes : public QObject {
     Q_OBJECT
 
@@ -23,10 +23,15 @@ public:
 
     void warn(const QString& title, const QString& text);
 
+    /// Calls `closed`, if there is one, once the box is gone.
+    void inform(const QString& title, const QString& text, std::function<void()> closed = {});
+
     /// Calls `answered` with true for Yes and false for anything else, a replaced box included.
     void ask(const QString& title, const QString& text, std::function<void(bool yes)> answered);
 
 private:
+    QMessageBox* tell(QMessageBox::Icon icon, const QString& objectName, const QString& title,
+                      const QString& text);
     QMessageBox* create(QMessageBox::Icon icon, const QString& title, const QString& text);
 
     QWidget* const m_window;

@@ -17,4 +17,11 @@ inline constexpr char kStatusInProgress[] = "#0077cc";
 inline constexpr char kStatusWaiting[] = "#cc7700"; ///< reconnecting, disconnecting, no server
 inline constexpr char kStatusFailed[] = "#cc0000";  ///< disconnected or failed
 
+inline constexpr char kQualityGood[] = "#10b981";
+inline constexpr char kQualityFair[] = "#f59e0b";
+inline constexpr char kQualityPoor[] = "#ef4444";
+
+inline constexpr char kBannerBackground[] = "#1e3a5e";
+inline constexpr char kBannerButtonText[] = "#0d1b2a";
+
 } // namespace corvane::colors

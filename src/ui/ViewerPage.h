@@ -1,14 +1,9 @@
 #pragma once
 
 #include "RemoteDesktopWidget.h"
+#include "ViewerToolBar.h"
 
-#include <QKeySequence>
 #include <QWidget>
-
-#include <functional>
-
-class QMenu;
-class QPushButton;
 
 namespace corvane {
 
@@ -20,19 +15,10 @@ public:
     explicit ViewerPage(QWidget* parent = nullptr);
 
     RemoteDesktopWidget* view() const { return m_view; }
-
-Q_SIGNALS:
-    void monitorSwitchRequested(int monitorIndex);
-    void disconnectRequested();
+    ViewerToolBar* toolBar() const { return m_toolBar; }
 
 private:
-    QWidget* createToolBar();
-    QPushButton* createButton(QWidget* bar, const QString& objectName, const QString& icon,
-                              const QString& toolTip);
-    void addShortcut(const QString& keys, std::function<void()> action);
-    QMenu* createScaleMenu(QWidget* parent);
-    QMenu* createMonitorMenu(QWidget* parent);
-
+    ViewerToolBar* m_toolBar = nullptr;
     RemoteDesktopWidget* m_view = nullptr;
 };
 

@@ -1,4 +1,5 @@
 #include "ScreenCaptureManager.h"
+#include "CaptureBackendCandidate.h"
 #include "LogCapture.h"
 
 #include <QTest>
@@ -122,7 +123,7 @@ TEST_F(ScreenCaptureManagerTest, PacesAndDeliversTheSameFrameTwice) {
     ASSERT_GE(called.size(), 6U);
     EXPECT_TRUE(std::equal(called.begin(), called.begin() + 6, signalled.begin()));
     EXPECT_GE(times[5] - times[0], 5 * 40ms - 10ms);
-    EXPECT_LT(times[5] - times[0], 1s);
+    EXPECT_LT(times[5] - times[0], 3s);
 }
 
 TEST_F(ScreenCaptureManagerTest, LimitsTheRateStopsAtOnceAndRunsAgain) {
@@ -271,6 +272,29 @@ TEST_F(ScreenCaptureManagerTest, TerminatesAThreadThatHangs) {
                         "terminating"),
               1);
     EXPECT_EQ(log.count("info|ScreenCaptureManager: stopped"), 1);
+}
+
+TEST(CapturableMonitors, AreThoseOfTheFirstCandidateThatFindsAny) {
+    const auto finding = [](std::vector<MonitorInfo> found) {
+        class Finder : public ScriptedBackend {
+        public:
+            explicit Finder(std::vector<MonitorInfo> monitors) : m_monitors(std::move(monitors)) {}
+            std::vector<MonitorInfo> monitors() override { return m_monitors; }
+
+        private:
+            const std::vector<MonitorInfo> m_monitors;
+        };
+        return CaptureBackendCandidate{
+            .create = [found] { return std::make_unique<Finder>(found); },
+            .readyText = {},
+            .unavailableText = {}};
+    };
+    const MonitorInfo first{.index = 0, .name = "first"};
+    const MonitorInfo second{.index = 0, .name = "second"};
+    const auto monitors = capturableMonitors({finding({}), finding({first}), finding({second})});
+    ASSERT_EQ(monitors.size(), 1U);
+    EXPECT_EQ(monitors[0].name, "first");
+    EXPECT_TRUE(capturableMonitors({finding({})}).empty());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "AuthController.h"
 #include "ApiClient.h"
 #include "DevServerTest.h"
+#include "HeartbeatService.h"
 #include "MachineFingerprint.h"
 #include "MatchesPattern.h"
 #include "ScratchSettings.h"
@@ -23,13 +24,14 @@ using namespace Qt::StringLiterals;
 /// The objects of one program run.
 struct ProgramRun {
     ProgramRun(const QUrl& server, AuthIntervals intervals)
-        : auth(&api, &signaling, &settings, nullptr, intervals) {
+        : auth(&api, &signaling, &heartbeat, &settings, nullptr, intervals) {
         api.setServerUrl(server);
     }
 
     SettingsController settings;
     ApiClient api;
     SignalingClient signaling;
+    HeartbeatService heartbeat{&api, nullptr, {.publicAddressUrl = {}, .natProbe = {u""_s}}};
     AuthController auth;
 };
 
@@ -55,22 +57,26 @@ protected:
         settings().setDeviceSecret(u"stale"_s);
     }
 
-    /// Waits until the server knows the password, or the pairing code, from this device.
-    bool serverHas(const QString& field, const QString& text) {
-        return eventually([&] {
-            const auto messages = m_server.signalingMessages(settings().clientId());
-            return std::any_of(messages.begin(), messages.end(),
-                               [&](const QJsonObject& message) { return message[field] == text; });
-        });
+    bool serverWasSent(const QString& field, const QString& text) {
+        const auto messages = m_server.signalingMessages(settings().clientId());
+        return std::any_of(messages.begin(), messages.end(),
+                           [&](const QJsonObject& message) { return message[field] == text; });
     }
 
-    bool serverHasPassword(const QString& password) { return serverHas(u"password"_s, password); }
-    bool serverHasCode(const QString& code) { return serverHas(u"code"_s, code); }
+    /// These wait until the server knows the password, or the pairing code, from this device.
+    bool serverHasPassword(const QString& password) {
+        return eventually([&] { return serverWasSent(u"password"_s, password); });
+    }
+    bool serverHasCode(const QString& code) {
+        return eventually([&] { return serverWasSent(u"code"_s, code); });
+    }
 
-    QStringList requestedPaths() const {
+    QStringList authRequests() const {
         QStringList paths;
         for (const auto& request : m_server.requests()) {
-            paths.append(request.path);
+            if (request.path.startsWith(u"/auth/")) {
+                paths.append(request.path);
+            }
         }
         return paths;
     }
@@ -85,6 +91,10 @@ const QString kRegistration = u"/auth/auto-register"_s;
 
 TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
     QSignalSpy authenticated(&auth(), &AuthController::authenticated);
+    QObject::connect(&auth(), &AuthController::authenticated, [this] {
+        EXPECT_EQ(m_log.count("info|Heartbeat service started (interval: 30000 ms)"), 1);
+        EXPECT_EQ(m_log.lines().back(), "info|Heartbeat service started (interval: 30000 ms)");
+    });
     ASSERT_TRUE(authenticates());
     const QString clientId = settings().clientId();
     EXPECT_EQ(authenticated.value(0).value(0), clientId);
@@ -100,7 +110,7 @@ TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
     newRun();
     ASSERT_TRUE(authenticates());
     EXPECT_EQ(settings().clientId(), clientId);
-    EXPECT_EQ(requestedPaths(), (QStringList{kRegistration, kLogin}));
+    EXPECT_EQ(authRequests(), (QStringList{kRegistration, kLogin}));
     EXPECT_TRUE(serverHasPassword(auth().sessionPassword()));
 
     for (const QString& secret : secrets) {
@@ -121,7 +131,7 @@ TEST_F(AuthControllerTest, CredentialErrorsClearAtOnce) {
                               ". Retrying in 20 seconds..."),
                   1);
     }
-    EXPECT_EQ(requestedPaths(), (QStringList{kLogin, kRegistration, kLogin, kRegistration}));
+    EXPECT_EQ(authRequests(), (QStringList{kLogin, kRegistration, kLogin, kRegistration}));
 }
 
 TEST_F(AuthControllerTest, OtherErrorsClearAtTheThirdFailureAndRegistrationIsRetried) {
@@ -134,7 +144,7 @@ TEST_F(AuthControllerTest, OtherErrorsClearAtTheThirdFailureAndRegistrationIsRet
     auth().start();
     ASSERT_TRUE(eventually([&] { return m_server.requests().size() >= 6; }));
     EXPECT_EQ(idsAtFailure.mid(0, 3), (QStringList{u"111111111"_s, u"111111111"_s, QString()}));
-    EXPECT_EQ(requestedPaths().mid(0, 5),
+    EXPECT_EQ(authRequests().mid(0, 5),
               (QStringList{kLogin, kLogin, kLogin, kRegistration, kRegistration}));
     EXPECT_EQ(m_log.count("info|Clearing stored credentials after 3 failures — will auto-register "
                           "on next retry"),
@@ -166,7 +176,8 @@ TEST_F(AuthControllerTest, ThePairingCodeChangesByItself) {
     newRun();
     EXPECT_EQ(m_log.count("info|Pairing code regenerated"), 2) << "once per run";
     ASSERT_TRUE(authenticates());
-    ASSERT_TRUE(serverHasCode(auth().pairingCode()));
+    // The code may change while the connection comes up.
+    ASSERT_TRUE(eventually([this] { return serverWasSent(u"code"_s, auth().pairingCode()); }));
     QSignalSpy changed(&auth(), &AuthController::pairingCodeChanged);
     ASSERT_TRUE(changed.wait());
     const QString code = changed.constLast().at(0).toString();

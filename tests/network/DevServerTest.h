@@ -6,14 +6,16 @@
 #include <QTest>
 #include <gmock/gmock.h>
 
+#include <chrono>
+
 namespace corvane::test {
 
-constexpr int kPatienceMs = 5000;
+constexpr std::chrono::seconds kPatience(5);
 
 /// Waits for `condition` with the event loop running; false after five seconds.
 template <typename Condition>
 bool eventually(Condition condition) {
-    return QTest::qWaitFor(condition, kPatienceMs);
+    return QTest::qWaitFor(condition, std::chrono::milliseconds(kPatience).count());
 }
 
 /// A test with a server of its own on free ports, and with the log captured.

@@ -47,6 +47,14 @@ TEST_F(SessionTest, CarriesPictureAndInput) {
     EXPECT_EQ(completed->body, QByteArrayLiteral(R"({"connection_method":"relay"})"));
 }
 
+TEST_F(SessionTest, ThePartnerMayBeQuickerThanTheServersAnswer) {
+    const auto target = createDevice();
+    const auto viewer = createDevice();
+    m_server.misbehaviour().setReply(QStringLiteral("/sessions/create"), {.delayMs = 300});
+    EXPECT_TRUE(connectDevices(*viewer, *target));
+    EXPECT_EQ(viewer->states, kViewerPath);
+}
+
 TEST_F(SessionTest, AStillScreenIsSeen) {
     const auto target = createDevice();
     const auto viewer = createDevice();

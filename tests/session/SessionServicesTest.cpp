@@ -94,7 +94,7 @@ TEST_F(SessionServicesTest, TheMonitorSeesTheTrafficOfItsSide) {
         return atViewer.stats().bytesReceived > 1000 && atTarget.stats().bytesReceived == 40;
     }));
     EXPECT_EQ(statsOf(atViewer).bytesSent, 24 + 1 + 10 + 5);
-    EXPECT_GE(statsOf(atTarget).bytesSent, statsOf(atViewer).bytesReceived);
+    EXPECT_TRUE(eventually([&] { return statsOf(atTarget).bytesSent > 1000; }));
     EXPECT_TRUE(eventually([&] { return statsOf(atTarget).fps > 0; }));
     EXPECT_EQ(statsOf(atViewer).framesDropped, 0);
     // A picture that nobody sealed.

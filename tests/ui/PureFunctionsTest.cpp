@@ -1,7 +1,12 @@
 #include "FitRectangle.h"
 #include "PartnerId.h"
+#include "RemotePath.h"
+#include "ShownNames.h"
+#include "ValueFormats.h"
 
 #include <gtest/gtest.h>
+
+#include <optional>
 
 namespace corvane {
 namespace {
@@ -64,6 +69,72 @@ TEST(PartnerId, IsFormattedAndValidated) {
     for (const auto& c : cases) {
         EXPECT_EQ(formatPartnerId(c.typed), c.shown) << c.typed.toStdString();
         EXPECT_EQ(isPartnerId(barePartnerId(c.typed)), c.valid) << c.typed.toStdString();
+    }
+}
+
+TEST(RemotePath, JoinsAndGoesUpWithEitherSeparator) {
+    const struct {
+        QString path, joined;
+        std::optional<QString> parent;
+    } cases[] = {
+        {u""_s, u"x"_s, std::nullopt},
+        {u"/"_s, u"/x"_s, u""_s},
+        {u"/home"_s, u"/home/x"_s, u""_s},
+        {u"/home/bob"_s, u"/home/bob/x"_s, u"/home"_s},
+        {uR"(C:\Users\bob)"_s, uR"(C:\Users\bob/x)"_s, uR"(C:\Users)"_s},
+        {u"C:/Users"_s, u"C:/Users/x"_s, u"C:"_s},
+        {u"C:"_s, u"C:/x"_s, u""_s},
+        {uR"(C:\)"_s, uR"(C:\x)"_s, u""_s},
+        {u"C:/Users\\bob/x"_s, u"C:/Users\\bob/x/x"_s, u"C:/Users\\bob"_s},
+        {u"C:bob"_s, u"C:bob/x"_s, u""_s},
+        {u"a:/b"_s, u"a:/b/x"_s, u"a:"_s},
+        {u"share"_s, u"share/x"_s, u""_s},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(joinRemotePath(c.path, u"x"_s), c.joined);
+        EXPECT_EQ(parentRemotePath(c.path), c.parent) << c.path.toStdString();
+    }
+}
+
+TEST(RemotePath, TakesOnlyNamesThatStayInTheirFolder) {
+    for (const QString& name : {u"a"_s, u"..a"_s, u"a b…ü.txt"_s, u"12:30.log"_s, u"..."_s}) {
+        EXPECT_TRUE(isPlainFileName(name)) << name.toStdString();
+    }
+    for (const QString& name : {u""_s, u"."_s, u".."_s, u"/etc/passwd"_s, u"../x"_s, u"a/b"_s,
+                                uR"(..\x)"_s, QString(u'a') + QChar(0) + u'b'}) {
+        EXPECT_FALSE(isPlainFileName(name)) << name.toStdString();
+    }
+}
+
+TEST(ShownNames, FitOnTheScreen) {
+    EXPECT_EQ(shownNames({u"a\nb\u202e"_s, u"<b>"_s}), u"a b\n<b>"_s);
+    EXPECT_EQ(shownName(u"😀.txt"_s), u"😀.txt"_s);
+    EXPECT_EQ(shownName(QString(100, u'W')).size(), 61);
+    const QString many = shownNames(QStringList(500, QString(1000, u'W')));
+    EXPECT_EQ(many.count(u'\n'), 12);
+    EXPECT_TRUE(many.endsWith(u"\n… (+488)"));
+}
+
+TEST(ValueFormats, RoundAsShown) {
+    const std::pair<quint64, QString> sizes[] = {
+        {0, u"0 B"_s},
+        {1023, u"1023 B"_s},
+        {1024, u"1.0 KB"_s},
+        {1536, u"1.5 KB"_s},
+        {1'048'576, u"1.0 MB"_s},
+        {1'073'741'824, u"1.00 GB"_s},
+        {1'000'000, u"976.6 KB"_s},
+        {~quint64{0}, u"17179869184.00 GB"_s},
+    };
+    for (const auto& [bytes, shown] : sizes) {
+        EXPECT_EQ(formatByteSize(bytes), shown);
+    }
+    const std::pair<quint64, QString> durations[] = {{0, u"00:00:00"_s},
+                                                     {3725, u"01:02:05"_s},
+                                                     {90'000, u"25:00:00"_s},
+                                                     {360'000, u"100:00:00"_s}};
+    for (const auto& [seconds, shown] : durations) {
+        EXPECT_EQ(formatDuration(seconds), shown);
     }
 }
 

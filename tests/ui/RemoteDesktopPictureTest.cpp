@@ -141,5 +141,25 @@ TEST_F(RemoteDesktopPictureTest, IsBlackWithoutPictureAndShowsOnlyTheNewest) {
     expectQuarters(QRect(50, 0, 300, 300), "after clearing");
 }
 
+/// Runs on an OpenGL that is held down to 2.1, too old for either pair of shaders.
+TEST(RemoteDesktopOnOldOpenGlTest, StaysBlackAndSaysWhy) {
+    if (qgetenv("MESA_GLSL_VERSION_OVERRIDE") != "120") {
+        GTEST_SKIP() << "is run as RemoteDesktopPictureTest.NoShaders";
+    }
+    test::LogCapture log;
+    RemoteDesktopWidget view;
+    view.resize(kViewSize);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    view.updateFrame(quarters(QSize(64, 64), 64, 64));
+    const QImage seen = view.grabFramebuffer().convertToFormat(QImage::Format_RGB32);
+    EXPECT_TRUE(log.contains("error|Vertex shader 1.30 failed: ") ||
+                log.contains("error|Shader 1.30 link failed: "))
+        << testing::PrintToString(log.lines());
+    QImage black(seen.size(), QImage::Format_RGB32);
+    black.fill(Qt::black);
+    EXPECT_EQ(seen, black);
+}
+
 } // namespace
 } // namespace corvane

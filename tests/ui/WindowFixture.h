@@ -1,6 +1,8 @@
 #pragma once
 
 #include "AuthController.h"
+#include "HeartbeatService.h"
+#include "ISystemIntegration.h"
 #include "MainWindow.h"
 #include "ScratchSettings.h"
 #include "SessionTest.h"
@@ -59,10 +61,23 @@ protected:
     SettingsController m_settings;
     ApiClient m_api;
     SignalingClient m_signaling;
-    AuthController m_auth{&m_api, &m_signaling, &m_settings};
+    HeartbeatService m_heartbeat{&m_api};
+    AuthController m_auth{&m_api, &m_signaling, &m_heartbeat, &m_settings};
     std::shared_ptr<Machine> m_machine = std::make_shared<Machine>();
     SessionManager m_session{&m_api, &m_signaling, createTestPlatform(m_machine)};
-    MainWindow m_window{&m_auth, &m_api, &m_signaling, &m_session, &m_settings};
+    bool m_isTrayThere = false;
+    std::unique_ptr<ISystemIntegration> m_integration = createSystemIntegration();
+    MainWindow m_window{&m_auth,
+                        &m_api,
+                        &m_signaling,
+                        &m_session,
+                        &m_settings,
+                        {.integration = m_integration.get(),
+                         .monitors = [] { return std::vector<MonitorInfo>(); },
+                         .isTrayThere =
+                             [this] {
+                                 return m_isTrayThere;
+                             }}};
 };
 
 } // namespace corvane::test

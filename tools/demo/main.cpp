@@ -1,6 +1,7 @@
 #include "DemoReport.h"
 #include "LiveSession.h"
 #include "PictureComparison.h"
+#include "WineHost.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <sys/signalfd.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -91,11 +93,14 @@ void checkRoundTrip(harness::LiveSession& session, demo::DemoReport& report) {
                            .arg(milliseconds.back()));
 }
 
-void saveScreenshot(harness::LiveSession& session, const QString& folder,
-                    demo::DemoReport& report) {
+void saveScreenshots(harness::LiveSession& session, const QString& folder,
+                     demo::DemoReport& report) {
     QDir().mkpath(folder);
-    const QString path = QDir(folder).absoluteFilePath(QStringLiteral("viewer.png"));
-    report.check(QStringLiteral("screenshot"), session.viewerScreen().save(path), path);
+    for (const auto& [name, screen] : {std::pair{"viewer.png", session.viewerScreen()},
+                                       std::pair{"target.png", session.targetScreen()}}) {
+        const QString path = QDir(folder).absoluteFilePath(QLatin1String(name));
+        report.check(QStringLiteral("screenshot"), screen.save(path), path);
+    }
 }
 
 void watch(harness::LiveSession& session) {
@@ -115,17 +120,29 @@ int main(int argc, char** argv) {
         QStringLiteral("Show the viewer on this X display instead of a virtual one."),
         QStringLiteral("name"));
     const QCommandLineOption output(QStringLiteral("output"),
-                                    QStringLiteral("Folder for the screenshot."),
+                                    QStringLiteral("Folder for the screenshots."),
                                     QStringLiteral("folder"), QStringLiteral("."));
     const QCommandLineOption watching(QStringLiteral("watch"),
                                       QStringLiteral("Keep the session open at the end."));
     const QCommandLineOption relay(
         QStringLiteral("relay"),
         QStringLiteral("Keep the two from meeting directly, so that the relay carries them."));
-    parser.addOptions({display, output, relay, watching});
+    const QCommandLineOption windowsTarget(
+        QStringLiteral("windows-target"),
+        QStringLiteral("Share a Windows machine: the packaged program under Wine."));
+    parser.addOptions({display, output, relay, watching, windowsTarget});
     parser.process(application);
 
-    harness::LiveSession live({.viewerDisplay = parser.value(display), .stillDesktop = false});
+    const bool onWindows = parser.isSet(windowsTarget);
+    if (const QString obstacle = harness::WineHost::obstacle(); onWindows && !obstacle.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(obstacle));
+        return EXIT_FAILURE;
+    }
+    harness::LiveSession live(
+        {.viewerDisplay = parser.value(display),
+         .stillDesktop = false,
+         .target = onWindows ? harness::Platform::Windows : harness::Platform::Linux,
+         .viewer = harness::Platform::Linux});
     live.server().misbehaviour().setWithholdIce(parser.isSet(relay));
     endOnInterrupt(live);
     demo::DemoReport report;
@@ -143,7 +160,7 @@ int main(int argc, char** argv) {
     checkPicture(live, report);
     checkStream(live, report);
     checkRoundTrip(live, report);
-    saveScreenshot(live, parser.value(output), report);
+    saveScreenshots(live, parser.value(output), report);
     if (parser.isSet(watching)) {
         watch(live);
     }

@@ -3,6 +3,7 @@
 #include "MovingShape.h"
 #include "ScrollingText.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QTime>
 #include <QVBoxLayout>
@@ -31,6 +32,11 @@ DemoDesktop::DemoDesktop(QWidget* parent) : QWidget(parent) {
     connect(m_field, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_echo->setText(QStringLiteral("Typed: ") + text);
         std::printf("typed: %s\n", text.toUtf8().constData());
+        std::fflush(stdout);
+    });
+
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) {
+        std::printf("focus: %s\n", now == m_field ? "field" : "elsewhere");
         std::fflush(stdout);
     });
 

@@ -14,8 +14,9 @@ class ScrollingText;
 /// text, a moving shape and a field to type into.
 ///
 /// Reports on standard output: "field: x y width height" and "echo: x y width height", where the
-/// field and the label that repeats its text lie on the screen, and "typed: text" each time the
-/// text changes.
+/// field and the label that repeats its text lie on the screen, "focus: field" and "focus:
+/// elsewhere" as the field gets and loses the keyboard, and "typed: text" each time the text
+/// changes.
 class DemoDesktop : public QWidget {
     Q_OBJECT
 

@@ -2,11 +2,11 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QSocketNotifier>
 
-#include <cstdio>
-#include <string_view>
-#include <unistd.h>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <thread>
 
 // corvane-demo-desktop [--still]
 //
@@ -18,15 +18,15 @@ int main(int argc, char** argv) {
     desktop.setRunning(!QApplication::arguments().contains(QLatin1String("--still")));
     desktop.setGeometry(QApplication::primaryScreen()->geometry());
 
-    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
-    QObject::connect(&input, &QSocketNotifier::activated, &desktop, [&] {
-        char line[64];
-        if (std::fgets(line, sizeof line, stdin) == nullptr) {
-            input.setEnabled(false);
-            return;
+    // Not every system can wait for a pipe in the event loop.
+    std::thread([&desktop] {
+        for (std::string line; std::getline(std::cin, line);) {
+            QMetaObject::invokeMethod(
+                &desktop, [&desktop, run = line == "run"] { desktop.setRunning(run); },
+                Qt::QueuedConnection);
         }
-        desktop.setRunning(std::string_view(line) == "run\n");
-    });
+    }).detach();
     desktop.show();
-    return QApplication::exec();
+    // The thread may still wait for a line: nothing that it uses is destroyed.
+    std::_Exit(QApplication::exec());
 }

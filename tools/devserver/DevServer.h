@@ -69,6 +69,7 @@ public:
 
     Misbehaviour& misbehaviour() { return m_misbehaviour; }
     RelayNode& relay() { return *m_relay; }
+    StunResponder& stun() { return *m_stun; }
 
 private:
     Answer answer(const Request& request);

@@ -31,19 +31,6 @@ bool isBindingRequest(const QByteArray& message) {
            qFromBigEndian<quint32>(message.constData() + 4) == kMagicCookie;
 }
 
-QByteArray bindingSuccess(const QByteArray& request, const QHostAddress& sender, quint16 port) {
-    QByteArray response;
-    append(response, kBindingSuccess);
-    append(response, kAttributeBytes);
-    response.append(request.mid(4, kHeaderBytes - 4));
-    append(response, kXorMappedAddress);
-    append(response, kAttributeValueBytes);
-    append(response, kFamilyIpv4);
-    append(response, static_cast<quint16>(port ^ (kMagicCookie >> 16)));
-    append(response, sender.toIPv4Address() ^ kMagicCookie);
-    return response;
-}
-
 } // namespace
 
 StunResponder::StunResponder(QObject* parent) : QObject(parent), m_socket(new QUdpSocket(this)) {
@@ -58,14 +45,32 @@ quint16 StunResponder::port() const {
     return m_socket->localPort();
 }
 
+QByteArray StunResponder::bindingSuccess(const QByteArray& request, const QHostAddress& address,
+                                         quint16 port) {
+    QByteArray response;
+    append(response, kBindingSuccess);
+    append(response, kAttributeBytes);
+    response.append(request.mid(4, kHeaderBytes - 4));
+    append(response, kXorMappedAddress);
+    append(response, kAttributeValueBytes);
+    append(response, kFamilyIpv4);
+    append(response, static_cast<quint16>(port ^ (kMagicCookie >> 16)));
+    append(response, address.toIPv4Address() ^ kMagicCookie);
+    return response;
+}
+
 void StunResponder::onReadable() {
     while (m_socket->hasPendingDatagrams()) {
         const QNetworkDatagram datagram = m_socket->receiveDatagram();
         const auto senderPort = static_cast<quint16>(datagram.senderPort());
-        if (isBindingRequest(datagram.data())) {
-            m_socket->writeDatagram(
-                bindingSuccess(datagram.data(), datagram.senderAddress(), senderPort),
-                datagram.senderAddress(), senderPort);
+        if (!isBindingRequest(datagram.data())) {
+            continue;
+        }
+        const QList<QByteArray> answers =
+            m_script ? m_script(datagram.data(), senderPort)
+                     : QList{bindingSuccess(datagram.data(), datagram.senderAddress(), senderPort)};
+        for (const QByteArray& answer : answers) {
+            m_socket->writeDatagram(answer, datagram.senderAddress(), senderPort);
         }
     }
 }

@@ -2,9 +2,7 @@
 
 #include "XvfbServer.h"
 
-#include <QDir>
 #include <QFile>
-#include <QSettings>
 
 namespace corvane::harness {
 
@@ -19,21 +17,8 @@ void tieToParent(QProcess& process) {
     process.setChildProcessModifier(test::endWithParent);
 }
 
-ClientProcess::ClientProcess(const QString& display) {
-    const QString home = m_home.path();
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), home);
-    for (const auto& [variable, folder] :
-         {std::pair{"XDG_CONFIG_HOME", "config"}, std::pair{"XDG_DATA_HOME", "data"},
-          std::pair{"XDG_CACHE_HOME", "cache"}, std::pair{"XDG_RUNTIME_DIR", "runtime"}}) {
-        const QString path = home + QLatin1Char('/') + QLatin1String(folder);
-        QDir().mkpath(path);
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        environment.insert(QLatin1String(variable), path);
-    }
-    environment.insert(QStringLiteral("DISPLAY"), display);
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    m_process.setProcessEnvironment(environment);
+ClientProcess::ClientProcess(const QString& display, Platform platform)
+    : m_host(createHost(platform, m_home.path(), display)) {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     tieToParent(m_process);
 }
@@ -43,30 +28,29 @@ ClientProcess::~ClientProcess() {
 }
 
 void ClientProcess::presetPassword(const QString& password) {
-    QSettings(settingsPath(), QSettings::NativeFormat)
-        .setValue(QStringLiteral("auth/sessionPassword"), password);
+    m_host->presetSetting(QStringLiteral("auth/sessionPassword"), password);
 }
 
 void ClientProcess::presetCredentials(const QString& clientId, const QString& secret) {
-    QSettings settings(settingsPath(), QSettings::NativeFormat);
-    settings.setValue(QStringLiteral("auth/clientId"), clientId);
-    settings.setValue(QStringLiteral("auth/deviceSecret"), secret);
+    m_host->presetSetting(QStringLiteral("auth/clientId"), clientId);
+    m_host->presetSetting(QStringLiteral("auth/deviceSecret"), secret);
 }
 
 bool ClientProcess::start(const QStringList& arguments) {
-    QFile::remove(logPath());
-    m_process.start(QStringLiteral(CORVANE_CLIENT_PATH),
+    QFile::remove(m_host->logPath());
+    m_host->prepare(m_process, Program::Client,
                     QStringList{QStringLiteral("--log-level"), QStringLiteral("debug")} +
                         arguments);
+    m_process.start();
     return m_process.waitForStarted(kStartTimeoutMs);
 }
 
 int ClientProcess::runSecondCopy(const QStringList& arguments) const {
     QProcess copy;
-    copy.setProcessEnvironment(m_process.processEnvironment());
     copy.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     tieToParent(copy);
-    copy.start(QStringLiteral(CORVANE_CLIENT_PATH), arguments);
+    m_host->prepare(copy, Program::Client, arguments);
+    copy.start();
     const bool ended = copy.waitForFinished(kStartTimeoutMs);
     return ended && copy.exitStatus() == QProcess::NormalExit ? copy.exitCode() : -1;
 }
@@ -80,7 +64,7 @@ bool ClientProcess::stop() {
     if (m_process.state() == QProcess::NotRunning) {
         return true;
     }
-    m_process.terminate();
+    m_host->requestEnd(m_process);
     if (m_process.waitForFinished(kStopTimeoutMs)) {
         return m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0;
     }
@@ -90,9 +74,7 @@ bool ClientProcess::stop() {
 }
 
 QString ClientProcess::clientId() const {
-    return QSettings(settingsPath(), QSettings::NativeFormat)
-        .value(QStringLiteral("auth/clientId"))
-        .toString();
+    return m_host->setting(QStringLiteral("auth/clientId"));
 }
 
 QString ClientProcess::homePath(const QString& relative) const {
@@ -100,20 +82,13 @@ QString ClientProcess::homePath(const QString& relative) const {
 }
 
 QString ClientProcess::log() const {
-    QFile file(logPath());
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    QFile file(m_host->logPath());
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll())
+                                                            : QString();
 }
 
 QStringList ClientProcess::logLines(const QString& part) const {
     return log().split(QLatin1Char('\n')).filter(part);
-}
-
-QString ClientProcess::logPath() const {
-    return homePath(QStringLiteral("data/Corvane/CorvaneClient/CorvaneClient.log"));
-}
-
-QString ClientProcess::settingsPath() const {
-    return homePath(QStringLiteral("config/Corvane/CorvaneClient.conf"));
 }
 
 } // namespace corvane::harness

@@ -1,16 +1,20 @@
 #pragma once
 
+#include "IHost.h"
+
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
 
+#include <memory>
+
 namespace corvane::harness {
 
-/// One user of the program: a home, a settings file, a display and the running client.
+/// One user of the program: a home, settings, a display and the running client.
 class ClientProcess {
 public:
     /// `display` is the X display that the client's window appears on.
-    explicit ClientProcess(const QString& display);
+    explicit ClientProcess(const QString& display, Platform platform = Platform::Linux);
     ~ClientProcess();
 
     /// Stores the session password before the first start.
@@ -46,13 +50,12 @@ public:
     /// The lines of the log that hold `part`.
     QStringList logLines(const QString& part) const;
 
-    QProcessEnvironment environment() const { return m_process.processEnvironment(); }
+    /// Where other programs of the same user run.
+    const IHost& host() const { return *m_host; }
 
 private:
-    QString logPath() const;
-    QString settingsPath() const;
-
     QTemporaryDir m_home;
+    std::unique_ptr<IHost> m_host;
     QProcess m_process;
 };
 

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kStartTimeout = 30s;
+constexpr auto kStartTimeout = 60s;
 constexpr auto kConnectTimeout = 30s;
 constexpr auto kInputTimeout = 10s;
 constexpr auto kPictureTimeout = 8s;
@@ -59,7 +59,7 @@ void LiveSession::end() {
 }
 
 bool LiveSession::start() {
-    return startServer() && startDisplays() && startDesktop() && startClients();
+    return startServer() && startUsers() && startDesktop() && startClients();
 }
 
 bool LiveSession::startServer() {
@@ -71,7 +71,7 @@ bool LiveSession::startServer() {
     return m_server.start(config, &error) || fail(QStringLiteral("devserver: ") + error);
 }
 
-bool LiveSession::startDisplays() {
+bool LiveSession::startUsers() {
     const auto startServer = [](std::unique_ptr<test::XvfbServer>& server) {
         server = std::make_unique<test::XvfbServer>();
         return server->display();
@@ -81,8 +81,11 @@ bool LiveSession::startDisplays() {
                                                                  : m_options.viewerDisplay;
     m_targetDisplay = std::make_unique<XDisplay>(targetName);
     m_viewerDisplay = std::make_unique<XDisplay>(viewerName);
-    m_target = std::make_unique<ClientProcess>(targetName);
-    m_viewer = std::make_unique<ClientProcess>(viewerName);
+    m_target = std::make_unique<ClientProcess>(targetName, m_options.target);
+    m_viewer = std::make_unique<ClientProcess>(viewerName, m_options.viewer);
+    m_target->presetPassword(m_targetPassword);
+    const devserver::Device viewerDevice = m_server.registerDevice();
+    m_viewer->presetCredentials(viewerDevice.clientId, viewerDevice.secret);
     return (m_targetDisplay->isConnected() && m_viewerDisplay->isConnected()) ||
            fail(QStringLiteral("no X display"));
 }
@@ -90,24 +93,26 @@ bool LiveSession::startDisplays() {
 bool LiveSession::startDesktop() {
     QObject::connect(&m_desktop, &QProcess::readyReadStandardOutput, &m_desktop,
                      [this] { readDesktop(); });
-    m_desktop.setProcessEnvironment(m_target->environment());
     m_desktop.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     tieToParent(m_desktop);
-    m_desktop.start(QStringLiteral(CORVANE_DEMO_DESKTOP_PATH),
-                    m_options.stillDesktop ? QStringList{QStringLiteral("--still")}
-                                           : QStringList());
+    m_target->host().prepare(m_desktop, Program::DemoDesktop,
+                             m_options.stillDesktop ? QStringList{QStringLiteral("--still")}
+                                                    : QStringList());
+    m_desktop.start();
     return waitFor([this] { return m_field.isValid() && m_echo.isValid(); }, kStartTimeout) ||
            fail(QStringLiteral("the demo desktop did not come up"));
 }
 
 void LiveSession::readDesktop() {
     while (m_desktop.canReadLine()) {
-        const QString line = QString::fromUtf8(m_desktop.readLine()).chopped(1);
+        const QString line = QString::fromUtf8(m_desktop.readLine()).trimmed();
         const QString value = line.section(QLatin1Char(' '), 1);
         if (line.startsWith(u"field: ")) {
             m_field = parseRectangle(value);
         } else if (line.startsWith(u"echo: ")) {
             m_echo = parseRectangle(value);
+        } else if (line.startsWith(u"focus: ")) {
+            m_fieldHasFocus = value == u"field";
         } else if (line.startsWith(u"typed: ")) {
             m_typed = value;
         }
@@ -115,9 +120,6 @@ void LiveSession::readDesktop() {
 }
 
 bool LiveSession::startClients() {
-    m_target->presetPassword(m_targetPassword);
-    const devserver::Device viewerDevice = m_server.registerDevice();
-    m_viewer->presetCredentials(viewerDevice.clientId, viewerDevice.secret);
     const auto isOnline = [this](const ClientProcess& client) {
         const QString id = client.clientId();
         return !id.isEmpty() && m_server.isOnline(id);
@@ -136,7 +138,7 @@ bool LiveSession::enterPartner(const QString& password) {
         return fail(QStringLiteral("the viewer's main window is not on its display"));
     }
     // A click beside all widgets gives the window the keyboard; the partner field has the focus.
-    m_viewerDisplay->click(home->topLeft() + QPoint(8, 8));
+    m_viewerDisplay->click(home->bottomLeft() + QPoint(12, -12));
     m_viewerDisplay->pressKey('a', {kKeyControl});
     m_viewerDisplay->type(m_target->clientId());
     m_viewerDisplay->pressKey(kKeyTab);
@@ -164,6 +166,9 @@ bool LiveSession::waitUntilConnected() {
 bool LiveSession::typeRemotely(const QString& word) {
     const QString shown = m_typed + word;
     m_viewerDisplay->click(onViewer(m_field).center());
+    if (!waitFor([&] { return m_fieldHasFocus; }, kInputTimeout)) {
+        return fail(QStringLiteral("a click did not give the target's text field the keyboard"));
+    }
     m_viewerDisplay->type(word);
     return waitFor([&] { return m_typed == shown; }, kInputTimeout) ||
            fail(QStringLiteral("typed \"%1\" but the target shows \"%2\"").arg(shown, m_typed));
@@ -252,15 +257,16 @@ QString LiveSession::stateChanges(const ClientProcess& client) {
 std::optional<QRect> LiveSession::pictureRectangle() {
     static const QRegularExpression kResized(
         QStringLiteral("RemoteDesktopWidget resized to (\\d+)x(\\d+)"));
-    const auto window = m_viewerDisplay->findWindow(QStringLiteral("Corvane - Connected to"));
+    const auto window = m_viewerDisplay->findWindow(QStringLiteral("Corvane - "));
     const QStringList resizes = m_viewer->logLines(QStringLiteral("RemoteDesktopWidget resized"));
     if (!window || resizes.isEmpty()) {
         return std::nullopt;
     }
     const auto match = kResized.match(resizes.last());
     const QSize view(match.captured(1).toInt(), match.captured(2).toInt());
-    // The view fills the window below the tool bar.
-    const QPoint origin = window->bottomLeft() + QPoint(0, 1 - view.height());
+    // The view fills the window below the tool bar, within the border that Wine draws by itself.
+    const int border = (window->width() - view.width()) / 2;
+    const QPoint origin = window->bottomLeft() + QPoint(border, 1 - view.height() - border);
     return fitRectangle(m_targetDisplay->size(), view).translated(origin);
 }
 

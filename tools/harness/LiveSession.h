@@ -34,6 +34,8 @@ public:
     struct Options {
         QString viewerDisplay; ///< empty: a virtual display of its own
         bool stillDesktop = false;
+        Platform target = Platform::Linux;
+        Platform viewer = Platform::Linux;
     };
 
     explicit LiveSession(Options options);
@@ -92,7 +94,7 @@ public:
 
 private:
     bool startServer();
-    bool startDisplays();
+    bool startUsers();
     bool startDesktop();
     bool startClients();
     bool fail(const QString& error);
@@ -112,6 +114,7 @@ private:
     QRect m_field; ///< the demo desktop's text field, target pixels
     QRect m_echo;  ///< what it shows of the typed text, target pixels
     QString m_typed;
+    bool m_fieldHasFocus = false;
     std::unique_ptr<ClientProcess> m_target;
     std::unique_ptr<ClientProcess> m_viewer;
 };

@@ -107,7 +107,7 @@ void SettingsController::setAutoReconnect(bool enabled) {
 }
 
 int SettingsController::maxReconnectAttempts() const {
-    return m_settings.value(kMaxReconnectAttempts, 10).toInt();
+    return m_settings.value(kMaxReconnectAttempts, kDefaultMaxReconnectAttempts).toInt();
 }
 
 void SettingsController::setMaxReconnectAttempts(int attempts) {

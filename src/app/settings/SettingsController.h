@@ -54,7 +54,7 @@ public:
     bool autoReconnect() const;
     void setAutoReconnect(bool enabled);
 
-    /// Default 10.
+    static constexpr int kDefaultMaxReconnectAttempts = 10;
     int maxReconnectAttempts() const;
     void setMaxReconnectAttempts(int attempts);
 

@@ -3,18 +3,24 @@
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
 
+#include <thread>
+
 #include <windows.h>
 
 namespace corvane {
 
 namespace {
 
-/// Waits for the end of the user's log-on session, which every window is told of.
+bool endsSession(UINT message, WPARAM word) {
+    return message == WM_ENDSESSION && word != FALSE;
+}
+
+/// Ends the event loop at the end of the user's log-on session, which every window is told of.
 class SessionEndFilter : public QAbstractNativeEventFilter {
 public:
     bool nativeEventFilter(const QByteArray&, void* message, qintptr* result) override {
         const auto* const event = static_cast<const MSG*>(message);
-        const bool ends = event->message == WM_ENDSESSION && event->wParam != FALSE;
+        const bool ends = endsSession(event->message, event->wParam);
         if (ends) {
             // Unlike `quit`, asks no window: the main one stays open to end a session.
             QCoreApplication::exit();
@@ -24,11 +30,41 @@ public:
     }
 };
 
+/// Window procedure of a window that makes the system wait for the end of this process.
+LRESULT CALLBACK holdSystem(HWND window, UINT message, WPARAM word, LPARAM data) {
+    if (!endsSession(message, word)) {
+        return DefWindowProcW(window, message, word, data);
+    }
+    if (auto* const application = QCoreApplication::instance(); application != nullptr) {
+        QMetaObject::invokeMethod(application, [] { QCoreApplication::exit(); });
+    }
+    constexpr DWORD kPatienceMs = 5000; // the system's own, after which it ends the process anyway
+    WaitForSingleObject(GetCurrentProcess(), kPatienceMs);
+    return 0;
+}
+
+/// The system ends a process as soon as all of its windows have answered. The loop can only end
+/// after its own windows have, so one window in a thread of its own answers last, if at all.
+void runHoldingWindow() {
+    WNDCLASSW type = {};
+    type.lpfnWndProc = holdSystem;
+    type.hInstance = GetModuleHandleW(nullptr);
+    type.lpszClassName = L"CorvaneSessionEnd";
+    RegisterClassW(&type);
+    CreateWindowExW(0, type.lpszClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                    type.hInstance, nullptr);
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        DispatchMessageW(&message);
+    }
+}
+
 } // namespace
 
 void quitOnSystemRequest(QCoreApplication& application) {
     static SessionEndFilter filter;
     application.installNativeEventFilter(&filter);
+    std::thread(runHoldingWindow).detach();
 }
 
 } // namespace corvane

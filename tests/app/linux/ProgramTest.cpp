@@ -1,10 +1,12 @@
 #include "Autostart.h"
+#include "ISystemIntegration.h"
 #include "QuitOnRequest.h"
 #include "SingleInstanceGuard.h"
 #include "XvfbServer.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
@@ -88,6 +90,24 @@ TEST_F(ProgramTest, StartsWithTheDesktopFromAnyPath) {
     const QString exec =
         u"Exec=\""_s + m_home.path() + uR"(/a \\"b\\" \\$c \\`d\\` 100%% e\\\\f ü")"_s;
     EXPECT_TRUE(QString::fromUtf8(entry.readAll()).split(u'\n').contains(exec));
+}
+
+TEST_F(ProgramTest, StartsWithTheDesktopAsChosen) {
+    const auto integration = createSystemIntegration();
+    const auto startsAfter = [&](bool chosen) {
+        EXPECT_TRUE(integration->apply({.startAtLogon = chosen, .runService = false}).result());
+        return integration->startsAtLogon().result();
+    };
+    EXPECT_FALSE(integration->startsAtLogon().result());
+    for (const bool chosen : {false, true, true, false}) {
+        EXPECT_EQ(startsAfter(chosen), chosen);
+    }
+    EXPECT_FALSE(integration->hasService());
+    const QString folder = m_home.filePath(u"autostart"_s);
+    ASSERT_TRUE(QDir().rmdir(folder));
+    QFile inTheWay(folder);
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    EXPECT_FALSE(integration->apply({.startAtLogon = true, .runService = false}).result());
 }
 
 TEST_F(ProgramTest, EndsOnTheSystemsRequestWhateverTheWindowWants) {

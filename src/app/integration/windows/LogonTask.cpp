@@ -24,4 +24,8 @@ bool LogonTask::remove() const {
                          QStringLiteral("/f")}) == 0;
 }
 
+bool LogonTask::exists() const {
+    return m_run(kTool, {QStringLiteral("/query"), QStringLiteral("/tn"), kTaskName}) == 0;
+}
+
 } // namespace corvane

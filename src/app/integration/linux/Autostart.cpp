@@ -1,5 +1,7 @@
 #include "Autostart.h"
 
+#include "AutostartEntry.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -13,10 +15,6 @@ namespace {
 QString autostartFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/autostart");
-}
-
-QString entryPath() {
-    return autostartFolder() + QStringLiteral("/CorvaneClient.desktop");
 }
 
 /// The value of an Exec key: quoted, with the characters escaped that stay special in quotes, and
@@ -38,9 +36,13 @@ QByteArray execValue(const QString& program) {
 
 } // namespace
 
+QString autostartEntryPath() {
+    return autostartFolder() + QStringLiteral("/CorvaneClient.desktop");
+}
+
 bool installAutostart() {
     QDir().mkpath(autostartFolder());
-    QSaveFile entry(entryPath());
+    QSaveFile entry(autostartEntryPath());
     if (!entry.open(QIODevice::WriteOnly)) {
         return false;
     }
@@ -53,7 +55,7 @@ bool installAutostart() {
 }
 
 bool uninstallAutostart() {
-    return QFile::remove(entryPath());
+    return QFile::remove(autostartEntryPath());
 }
 
 } // namespace corvane

@@ -10,8 +10,8 @@ namespace corvane {
 /// could not be started or crashed.
 using RunProgram = int (*)(const QString& program, const QStringList& arguments);
 
-/// The scheduled task that starts the program at log-on with the highest privileges. Both return
-/// true when the scheduler's tool returned 0.
+/// The scheduled task that starts the program at log-on with the highest privileges. Everything
+/// returns true when the scheduler's tool returned 0.
 class LogonTask {
 public:
     explicit LogonTask(RunProgram run = &QProcess::execute) : m_run(run) {}
@@ -20,6 +20,8 @@ public:
     bool create(const QString& executable) const;
 
     bool remove() const;
+
+    bool exists() const;
 
 private:
     RunProgram m_run;

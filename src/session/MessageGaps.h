@@ -1,0 +1,47 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+
+namespace corvane {
+
+/// Finds out which of the peer's sealed messages never arrive, from the counters of those that do.
+/// Messages of different channels overtake each other, so a missing one counts as lost only when it
+/// has been missing for `patience`.
+class MessageGaps {
+public:
+    using Time = std::chrono::steady_clock::time_point;
+
+    explicit MessageGaps(std::chrono::milliseconds patience) : m_patience(patience) {}
+
+    /// A message with this counter has arrived. The peer counts from 0.
+    void note(uint64_t counter, Time now);
+
+    /// Whether messages were lost since the last call. They are not reported again.
+    bool takeLoss(Time now);
+
+    /// Nothing sent before this message matters any more.
+    void forgetBefore(uint64_t counter);
+
+    bool isAnythingMissing() const { return !m_missing.empty(); }
+
+private:
+    struct Gap {
+        uint64_t end; ///< the first counter after the gap
+        Time since;
+    };
+
+    /// More than any disorder of a network leaves open; a peer that invents counters gets no
+    /// further.
+    static constexpr size_t kMostGaps = 256;
+
+    void close(uint64_t counter);
+
+    const std::chrono::milliseconds m_patience;
+    std::map<uint64_t, Gap> m_missing; ///< by the first counter missing
+    uint64_t m_next = 0;
+    bool m_overflowed = false;
+};
+
+} // namespace corvane

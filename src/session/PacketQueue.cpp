@@ -1,0 +1,56 @@
+#include "PacketQueue.h"
+
+#include <utility>
+
+namespace corvane {
+
+void PacketQueue::setFlowing(bool flowing) {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_flowing = flowing;
+    }
+    m_changed.notify_all();
+}
+
+void PacketQueue::close() {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_closed = true;
+        m_packets.clear();
+        m_bytes = 0;
+    }
+    m_changed.notify_all();
+}
+
+bool PacketQueue::waitForRoom() {
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_closed || (m_flowing && m_bytes < m_capacity); });
+    return !m_closed;
+}
+
+bool PacketQueue::push(ByteVector packet) {
+    const std::lock_guard lock(m_mutex);
+    if (m_closed) {
+        return false;
+    }
+    m_bytes += packet.size();
+    m_packets.push_back(std::move(packet));
+    return m_packets.size() == 1;
+}
+
+std::optional<ByteVector> PacketQueue::pop() {
+    std::optional<ByteVector> packet;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_packets.empty()) {
+            return std::nullopt;
+        }
+        packet = std::move(m_packets.front());
+        m_packets.pop_front();
+        m_bytes -= packet->size();
+    }
+    m_changed.notify_all();
+    return packet;
+}
+
+} // namespace corvane

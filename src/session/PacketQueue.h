@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ByteVector.h"
+
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <mutex>
+#include <optional>
+
+namespace corvane {
+
+/// Sealed packets on their way from the capture thread to the main thread, with the gate that holds
+/// the capture thread back while they cannot leave. One per stream, so no packet outlives a
+/// session.
+///
+/// Packets build on one another: none is dropped while the queue is open. A main thread that stalls
+/// pauses the capture thread instead, once `capacity` bytes wait.
+class PacketQueue {
+public:
+    /// Many seconds of video, and room for the largest key frame.
+    static constexpr size_t kDefaultCapacity = 32 * 1024 * 1024;
+
+    explicit PacketQueue(size_t capacity = kDefaultCapacity) : m_capacity(capacity) {}
+
+    /// Whether packets can leave at all. Off at first.
+    void setFlowing(bool flowing);
+
+    /// Drops what waits and releases the capture thread. Final.
+    void close();
+
+    /// Capture thread: waits until packets flow and fewer than `capacity` bytes wait, however large
+    /// the next packet is. False once closed.
+    bool waitForRoom();
+
+    /// Capture thread: appends a packet; does not wait. True when the main thread must be woken:
+    /// nothing waited before.
+    bool push(ByteVector packet);
+
+    /// Main thread: the oldest packet; no value when none waits.
+    std::optional<ByteVector> pop();
+
+private:
+    const size_t m_capacity;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::deque<ByteVector> m_packets;
+    size_t m_bytes = 0; ///< of all `m_packets`
+    bool m_flowing = false;
+    bool m_closed = false;
+};
+
+} // namespace corvane

@@ -1,0 +1,85 @@
+#include "PictureRecovery.h"
+
+#include <spdlog/spdlog.h>
+
+namespace corvane {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+} // namespace
+
+PictureRecovery::PictureRecovery(Timings timings, QObject* parent)
+    : QObject(parent), m_timings(timings), m_gaps(timings.patience) {
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &PictureRecovery::look);
+}
+
+void PictureRecovery::start() {
+    m_running = true;
+    m_whole = false;
+    m_notBefore = {};
+    schedule(m_timings.firstPicture);
+}
+
+void PictureRecovery::stop() {
+    m_running = false;
+    m_timer.stop();
+}
+
+void PictureRecovery::onMessage(uint64_t counter) {
+    m_gaps.note(counter, Clock::now());
+    if (m_gaps.isAnythingMissing()) {
+        schedule(m_timings.patience);
+    }
+}
+
+void PictureRecovery::onPicture(uint64_t counter, bool keyframe) {
+    if (keyframe) {
+        m_gaps.forgetBefore(counter);
+        m_whole = true;
+    }
+}
+
+void PictureRecovery::onDecodeFailure() {
+    miss();
+    look();
+}
+
+void PictureRecovery::miss() {
+    if (m_whole) {
+        spdlog::debug("Video packet lost, asking for a key frame");
+    }
+    m_whole = false;
+}
+
+/// Asks where something is missing, and comes back as long as something may be.
+void PictureRecovery::look() {
+    const auto now = Clock::now();
+    if (m_gaps.takeLoss(now)) {
+        miss();
+    }
+    if (!m_running) {
+        return;
+    }
+    if (!m_whole) {
+        if (now >= m_notBefore) {
+            m_notBefore = now + m_timings.interval;
+            Q_EMIT keyframeNeeded();
+        }
+        schedule(std::chrono::ceil<std::chrono::milliseconds>(m_notBefore - now));
+    } else if (m_gaps.isAnythingMissing()) {
+        schedule(m_timings.patience);
+    }
+}
+
+/// A look that is due earlier stays due.
+void PictureRecovery::schedule(std::chrono::milliseconds delay) {
+    if (m_running && (!m_timer.isActive() || m_timer.remainingTimeAsDuration() > delay)) {
+        m_timer.start(delay);
+    }
+}
+
+} // namespace corvane

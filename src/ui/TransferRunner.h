@@ -1,0 +1,67 @@
+#pragma once
+
+#include "TransferQueue.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+namespace corvane {
+
+class FileTransferService;
+
+/// Has a service list folders and copy batches of files, one file at a time: all waiting downloads
+/// first, then the uploads. Files added while a batch runs join it. Whoever receives the service's
+/// signals reports them here.
+///
+/// An error of a transfer ends both batches: whatever answer comes in late finds nothing left to
+/// start. A folder that cannot be listed leaves them alone.
+class TransferRunner : public QObject {
+    Q_OBJECT
+
+public:
+    /// The service is borrowed, may be null and may die first; then nothing is requested.
+    explicit TransferRunner(FileTransferService* service, QObject* parent = nullptr);
+
+    bool hasService() const;
+
+    void list(const QString& remotePath);
+    void download(const QList<FileTransfer>& transfers);
+    void upload(const QList<FileTransfer>& transfers);
+
+    void folderListed();
+    void downloadComplete(const QString& localPath);
+    void uploadComplete();
+    void transferFailed();
+
+    /// Forgets what waits and what is under way.
+    void stop();
+
+Q_SIGNALS:
+    void batchStarted();
+    void statusChanged(QString text);
+    void uploadStarting(); ///< the event loop does not run from now on until `uploadEnded`
+    void uploadEnded();
+    void uploadsComplete();
+
+private:
+    /// What the partner owes an answer to. It answers in the order of the requests, which tells
+    /// whose error an error is.
+    enum class Request { Listing, Download };
+
+    void append(TransferQueue& queue, const QList<FileTransfer>& transfers);
+    void startNext();
+    void startNextLater();
+    void startDownload();
+    void startUpload();
+    void reportDownload();
+    void reportCurrent(const QString& text, const TransferQueue& queue);
+
+    const QPointer<FileTransferService> m_service;
+    QList<Request> m_unanswered;
+    TransferQueue m_downloads;
+    TransferQueue m_uploads;
+};
+
+} // namespace corvane

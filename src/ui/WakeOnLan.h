@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace corvane {
+
+/// The packet that wakes the machine whose network card has the address: six bytes 0xFF and sixteen
+/// times the address. `macAddress` is six pairs of hexadecimal digits, with or without colons,
+/// dashes or spaces between them; nothing for anything else.
+std::optional<QByteArray> wakeOnLanPacket(QString macAddress);
+
+/// Broadcasts the packet once on the local network. False when the system refuses.
+bool broadcastWakeOnLan(const QByteArray& packet);
+
+} // namespace corvane

@@ -1,0 +1,201 @@
+#include "UpdateServiceTest.h"
+#include "VersionComparison.h"
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+#include <algorithm>
+
+namespace corvane {
+namespace {
+
+using test::CannedServer;
+using test::httpAnswer;
+using test::UpdateServiceTest;
+using namespace Qt::StringLiterals;
+
+const std::string kTooSmall = "updateError|Downloaded file is too small — update aborted.";
+const std::string kNoInstaller = "updateError|Failed to extract installer from zip.";
+const std::string kCannotWrite = "updateError|Cannot write to temp directory.";
+
+/// A program that is on every machine and does nothing.
+Command nothing(const QString&, const QString&) {
+    return {QCoreApplication::applicationFilePath(), {u"--gtest_filter=-*"_s}};
+}
+
+/// Takes the archive itself for the installer in it.
+Command copied(const QString& archive, const QString& folder) {
+    QFile::copy(archive, folder + u"/CorvaneSetup.exe"_s);
+    return nothing(archive, folder);
+}
+
+TEST(VersionComparison, ComparesNumberByNumber) {
+    const struct {
+        QString candidate, current;
+        bool newer;
+    } cases[] = {
+        {u"1.32"_s, u"1.4"_s, true},
+        {u"1.4"_s, u"1.32"_s, false},
+        {u"1.32"_s, u"1.32"_s, false},
+        {u"1.32.0"_s, u"1.32"_s, false},
+        {u"1.32"_s, u"1.32.0"_s, false},
+        {u"1.32.1"_s, u"1.32"_s, true},
+        {u"1.32"_s, u"1.32.1"_s, false},
+        {u"2"_s, u"1.32"_s, true},
+        {u"01.033"_s, u"1.32"_s, true},
+        {u"1..1"_s, u"1.0.0"_s, true},
+        {u"..."_s, u""_s, false},
+        {u"1.33-beta"_s, u"1.32"_s, false},
+        {u"v2"_s, u"1.32"_s, false},
+        {u"-2"_s, u"0"_s, false},
+        {u"0"_s, u"-1"_s, true},
+        {u"4294967297.0"_s, u"1.32"_s, true},
+        {u"9223372036854775807"_s, u"-9223372036854775808"_s, true},
+        {u"99999999999999999999999"_s, u"1.32"_s, false},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(isNewerVersion(c.candidate, c.current), c.newer)
+            << c.candidate.toStdString() << " against " << c.current.toStdString();
+    }
+}
+
+TEST_F(UpdateServiceTest, OnlyANewerVersionIsAnnounced) {
+    const std::string same = "info|Update check: current=1.32, latest=";
+    const struct {
+        QByteArray body;
+        std::vector<std::string> log;
+        std::string announcement = {};
+    } cases[] = {
+        {R"({"version":"1.33","download_url":"http://x/y","release_notes":"New"})",
+         {same + "1.33", "info|Update available: v1.33"},
+         "updateAvailable|1.33|http://x/y|New"},
+        {R"({"version":"2","download_url":7})",
+         {same + "2", "info|Update available: v2"},
+         "updateAvailable|2||"},
+        {R"({"version":"1.32","download_url":"http://x/y"})", {same + "1.32"}},
+        {R"({"version":"1.4"})", {same + "1.4"}},
+        {R"({"download_url":"http://x/y"})", {same}},
+        {R"({"version":133})", {same}},
+        {"[]", {same}},
+        {R"({"version":"1.33"})" + QByteArray(65536, ' '),
+         {"warning|Update check failed: The server sends more than 65536 bytes."}},
+    };
+    for (const auto& expected : cases) {
+        const CannedServer server(httpAnswer(expected.body));
+        m_options.manifestUrl = server.url().resolved(QUrl(u"/download/CorvaneSetup.json"_s));
+        UpdateService service(nullptr, m_options);
+        test::SignalLines lines(service, &UpdateService::updateAvailable);
+        m_log.clear();
+        service.checkForUpdates();
+        auto log = expected.log;
+        log.insert(log.begin(), "info|Checking for updates at " +
+                                    m_options.manifestUrl.toString().toStdString());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return m_log.lines().size() >= log.size(); }));
+        EXPECT_EQ(m_log.lines(), log);
+        EXPECT_EQ(lines.isEmpty() ? "" : lines.next(), expected.announcement);
+        EXPECT_EQ(service.latestVersion().isEmpty(), expected.announcement.empty());
+    }
+}
+
+TEST_F(UpdateServiceTest, AFailedCheckIsOnlyLogged) {
+    const auto warningAfter = [this](const QByteArray& answer) {
+        const CannedServer server(answer);
+        m_options.manifestUrl = server.url();
+        UpdateService service(nullptr, m_options);
+        m_log.clear();
+        service.checkForUpdates();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return m_log.lines().size() == 2; }));
+        return m_log.lines().back();
+    };
+    EXPECT_THAT(warningAfter(httpAnswer("<html>")),
+                testing::StartsWith("warning|Update manifest parse error: "));
+    EXPECT_THAT(warningAfter("HTTP/1.1 500 Broken\r\n\r\n{\"version\":\"2\"}"),
+                testing::StartsWith("warning|Update check failed: "));
+}
+
+TEST_F(UpdateServiceTest, StoresUnpacksAndHandsOverTheInstaller) {
+    m_options.unpackCommand = copied;
+    write("CorvaneSetup.zip", "of an earlier run");
+    write("CorvaneSetup.exe", "of an earlier run");
+    const QByteArray archive(3'000'000, 'z');
+    const CannedServer server(httpAnswer(archive));
+    UpdateService service(nullptr, m_options);
+    QSignalSpy progress(&service, &UpdateService::downloadProgress);
+    test::SignalLines lines(service, &UpdateService::readyToInstall, &UpdateService::updateError);
+    for (int run = 0; run < 2; ++run) {
+        m_log.clear();
+        progress.clear();
+        service.downloadUpdate(server.url().toString());
+        service.downloadUpdate(server.url().toString());
+        EXPECT_EQ(lines.next(), "readyToInstall|" + installerPath());
+        EXPECT_TRUE(content("CorvaneSetup.exe") == archive);
+        std::vector<int> percents;
+        std::transform(progress.begin(), progress.end(), std::back_inserter(percents),
+                       [](const QVariantList& arguments) { return arguments[0].toInt(); });
+        ASSERT_FALSE(percents.empty());
+        EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end()));
+        EXPECT_EQ(percents.back(), 100);
+        EXPECT_EQ(m_log.lines(),
+                  (std::vector<std::string>{
+                      "info|Downloading update from " + server.url().toString().toStdString(),
+                      "debug|UpdateService: a download is under way already",
+                      "info|Update downloaded to " + path("CorvaneSetup.zip").toStdString(),
+                      "info|Installer extracted to " + installerPath()}));
+    }
+    EXPECT_TRUE(lines.isEmpty());
+
+    const CannedServer unmeasured("HTTP/1.1 200 OK\r\n\r\n" + archive);
+    progress.clear();
+    service.downloadUpdate(unmeasured.url().toString());
+    EXPECT_EQ(lines.next(), "readyToInstall|" + installerPath());
+    EXPECT_EQ(progress.count(QVariantList{100}), progress.count()) << "known at the end only";
+}
+
+TEST_F(UpdateServiceTest, RefusesWhatIsTooSmallTooLargeOrCutShort) {
+    m_options.unpackCommand = copied;
+    EXPECT_EQ(download(QByteArray(1023, 'z')), kTooSmall);
+    EXPECT_FALSE(QFile::exists(path("CorvaneSetup.zip")));
+    EXPECT_EQ(download(QByteArray(1024, 'z')), "readyToInstall|" + installerPath());
+
+    const CannedServer huge("HTTP/1.1 200 OK\r\nContent-Length: 268435457\r\n\r\n" +
+                            QByteArray(2000, 'z'));
+    EXPECT_EQ(downloadFrom(huge.url().toString()),
+              "updateError|The server sends more than 268435456 bytes.");
+    const CannedServer cutShort("HTTP/1.1 200 OK\r\nContent-Length: 3000\r\n\r\n" +
+                                QByteArray(2000, 'z'));
+    EXPECT_EQ(downloadFrom(cutShort.url().toString()), "updateError|Connection closed");
+    EXPECT_EQ(m_log.count("error|Update download failed: Connection closed"), 1);
+    EXPECT_FALSE(QFile::exists(path("CorvaneSetup.zip"))) << "half an archive is left behind";
+}
+
+TEST_F(UpdateServiceTest, FollowsHttpOnly) {
+    const CannedServer redirecting("HTTP/1.1 302 Found\r\nLocation: file:///tmp/a.zip\r\n\r\n");
+    EXPECT_EQ(downloadFrom(redirecting.url().toString()),
+              "updateError|The server redirects to an address that is not safe to follow: "
+              "file:///tmp/a.zip");
+    EXPECT_EQ(downloadFrom(u"file:///tmp/a.zip"_s),
+              "updateError|Not an HTTP or HTTPS address: file:///tmp/a.zip");
+    EXPECT_EQ(m_log.count("error|Update download failed: Not an HTTP or HTTPS address: "
+                          "file:///tmp/a.zip"),
+              1);
+}
+
+TEST_F(UpdateServiceTest, NoInstallerIsAnError) {
+    const QByteArray archive(2000, 'z');
+    m_options.unpackCommand = nothing;
+    write("CorvaneSetup.exe", "of an earlier run");
+    EXPECT_EQ(download(archive), kNoInstaller);
+    m_options.unpackCommand = [](const QString&, const QString&) -> Command {
+        return {u"no-such-program"_s, {}};
+    };
+    EXPECT_EQ(download(archive), kNoInstaller);
+    EXPECT_TRUE(m_log.contains("warning|UpdateService: cannot run no-such-program: "));
+
+    QDir(m_folder.path()).mkpath(u"CorvaneSetup.exe/in the way"_s);
+    EXPECT_EQ(download(archive), kCannotWrite);
+    m_options.folder = path("no/such/folder");
+    EXPECT_EQ(download(archive), kCannotWrite);
+}
+
+} // namespace
+} // namespace corvane

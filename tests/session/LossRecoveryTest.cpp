@@ -1,0 +1,103 @@
+#include "DesktopScene.h"
+#include "FrameConverter.h"
+#include "SessionDataPlane.h"
+#include "TestPlatform.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <functional>
+
+namespace corvane::test {
+namespace {
+
+/// Carries messages straight to the other side, but for video that `loses` says is lost.
+class LossyTransport : public ITransport {
+public:
+    bool connect(const std::string&, uint16_t) override { return true; }
+    void disconnect() override {}
+    bool isConnected() const override { return true; }
+    bool send(ChannelType channel, const uint8_t* data, size_t size) override {
+        if (channel == ChannelType::Video && loses(videoMessages++)) {
+            return true;
+        }
+        const QByteArray message(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+        QMetaObject::invokeMethod(
+            peer, [this, channel, message] { peer->receive(channel, message); },
+            Qt::QueuedConnection);
+        return true;
+    }
+    qint64 bytesQueued() const override { return 0; }
+    bool waitUntilQueued(qint64) override { return true; }
+    std::optional<double> roundTripMilliseconds() const override { return std::nullopt; }
+
+    SessionDataPlane* peer = nullptr;
+    std::function<bool(int)> loses = [](int) {
+        return false;
+    };
+    int videoMessages = 0;
+};
+
+/// Mean difference of the picture's luma from the scene's, of 255.
+double difference(const DecodedFrame& picture, int step) {
+    const ByteVector scene = desktopScene(picture.width, picture.height, step);
+    ByteVector nv12 = allocateNV12(picture.width, picture.height);
+    FrameConverter().convert(scene.data(), picture.width, picture.height, picture.width * 4,
+                             nv12.data(), 0);
+    double sum = 0;
+    for (size_t i = 0; i < picture.yPlane.size(); ++i) {
+        sum += std::abs(int(picture.yPlane[i]) - int(nv12[i]));
+    }
+    return sum / static_cast<double>(picture.yPlane.size());
+}
+
+TEST(LossRecoveryTest, APictureThatLostPacketsIsMadeWholeThoughTheScreenStandsStill) {
+    constexpr int kFrames = 4;
+    const struct {
+        const char* what;
+        std::function<bool(int)> loses;
+    } cases[] = {
+        {"the first picture",
+         [](int message) {
+             return message == 0;
+         }},
+        {"the last pictures",
+         [](int message) {
+             return message >= 2 && message < kFrames;
+         }},
+        {"the key frame asked for, too",
+         [](int message) {
+             return message >= 1 && message <= kFrames;
+         }},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        LossyTransport toViewer, toTarget;
+        const auto machine = std::make_shared<Machine>();
+        machine->framesToShow = kFrames;
+        SessionDataPlane target(SessionRole::Target, ByteVector(32, 1), ByteVector(12, 2));
+        SessionDataPlane viewer(SessionRole::Master, ByteVector(32, 1), ByteVector(12, 2));
+        toViewer.peer = &viewer;
+        toTarget.peer = &target;
+        toViewer.loses = c.loses;
+        std::shared_ptr<DecodedFrame> picture;
+        QObject::connect(&viewer, &SessionDataPlane::frameDecoded,
+                         [&](const std::shared_ptr<DecodedFrame>& frame) { picture = frame; });
+        const auto platform = createTestPlatform(machine);
+        for (auto [plane, transport] : {std::pair{&target, &toViewer}, {&viewer, &toTarget}}) {
+            plane->setTransport(transport);
+            plane->startStreaming({.captureFrameRate = 30}, platform);
+            plane->setState(SessionState::Connected);
+        }
+        const auto isWhole = [&] {
+            return picture && difference(*picture, kFrames - 1) < 8;
+        };
+        ASSERT_TRUE(QTest::qWaitFor([&] { return toViewer.videoMessages >= kFrames; }, 10'000));
+        EXPECT_FALSE(isWhole());
+        EXPECT_TRUE(QTest::qWaitFor(isWhole, 10'000));
+    }
+}
+
+} // namespace
+} // namespace corvane::test

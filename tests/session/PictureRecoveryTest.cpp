@@ -1,0 +1,103 @@
+#include "PictureRecovery.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 200ms;
+
+TEST(MessageGapsTest, AMissingMessageIsLostWhenItStaysAwayTooLong) {
+    const MessageGaps::Time start{};
+    MessageGaps gaps(kPatience);
+    for (const uint64_t counter : {0U, 1U, 4U, 3U}) { // 2 is missing, 3 was overtaken
+        gaps.note(counter, start);
+    }
+    EXPECT_FALSE(gaps.takeLoss(start + kPatience - 1ms));
+    EXPECT_TRUE(gaps.takeLoss(start + kPatience));
+    EXPECT_FALSE(gaps.takeLoss(start + 2 * kPatience)) << "reported twice";
+
+    gaps.note(9, start);
+    for (const uint64_t counter : {6U, 8U, 5U, 7U, 7U, 2U}) {
+        gaps.note(counter, start + 10ms);
+    }
+    EXPECT_FALSE(gaps.isAnythingMissing());
+
+    gaps.note(20, start);
+    gaps.forgetBefore(20);
+    EXPECT_FALSE(gaps.isAnythingMissing());
+}
+
+TEST(MessageGapsTest, TheFirstMessagesCanBeMissingToo) {
+    MessageGaps gaps(kPatience);
+    gaps.note(1, {});
+    EXPECT_TRUE(gaps.takeLoss(MessageGaps::Time{} + kPatience));
+}
+
+TEST(MessageGapsTest, InventedCountersCostNeitherMemoryNorTime) {
+    MessageGaps gaps(kPatience);
+    for (uint64_t i = 0; i < 100'000; ++i) {
+        gaps.note(2 * i + 1, {});
+    }
+    gaps.note(std::numeric_limits<uint64_t>::max(), {});
+    gaps.note(std::numeric_limits<uint64_t>::max(), {});
+    EXPECT_TRUE(gaps.takeLoss({}));
+}
+
+class PictureRecoveryTest : public testing::Test {
+protected:
+    PictureRecovery m_recovery{{.patience = 20ms, .interval = 50ms, .firstPicture = 100ms}};
+    QSignalSpy m_requests{&m_recovery, &PictureRecovery::keyframeNeeded};
+};
+
+TEST_F(PictureRecoveryTest, AsksUntilAKeyFrameIsThere) {
+    m_recovery.start();
+    QElapsedTimer clock;
+    clock.start();
+    ASSERT_TRUE(m_requests.wait());
+    EXPECT_GE(clock.elapsed(), 95);
+    clock.start();
+    ASSERT_TRUE(m_requests.wait()); // nothing came, ask again
+    EXPECT_GE(clock.elapsed(), 45);
+
+    m_recovery.onMessage(0);
+    m_recovery.onPicture(0, true);
+    EXPECT_FALSE(m_requests.wait(150));
+
+    m_requests.clear();
+    m_recovery.onMessage(2); // 1 is lost
+    m_recovery.onPicture(2, false);
+    ASSERT_TRUE(m_requests.wait());
+    for (int i = 0; i < 100; ++i) {
+        m_recovery.onDecodeFailure();
+    }
+    EXPECT_EQ(m_requests.count(), 1) << "asks no more than once in an interval";
+    m_recovery.onMessage(5); // 3 and 4 are lost, but this one starts afresh
+    m_recovery.onPicture(5, true);
+    m_requests.clear();
+    EXPECT_FALSE(m_requests.wait(150));
+    m_recovery.onDecodeFailure();
+    EXPECT_EQ(m_requests.count(), 1);
+    m_recovery.stop();
+    EXPECT_FALSE(m_requests.wait(150));
+}
+
+TEST_F(PictureRecoveryTest, WhatWasOnlyOvertakenCostsNothing) {
+    m_recovery.start();
+    m_recovery.onMessage(0);
+    m_recovery.onPicture(0, true);
+    for (uint64_t counter = 2; counter < 40; counter += 2) {
+        m_recovery.onMessage(counter);
+        m_recovery.onMessage(counter - 1);
+    }
+    EXPECT_FALSE(m_requests.wait(150));
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,465 @@
+#include "FileManagerDialog.h"
+#include "FileTransferService.h"
+#include "LogCapture.h"
+#include "TransferRunner.h"
+
+#include <QDir>
+#include <QFileSystemModel>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <memory>
+
+namespace corvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void writeFile(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+}
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject {
+public:
+    explicit PaintCounter(QWidget* widget) : QObject(widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+/// The dialog in front of a service whose peer is another one, on two folders of this machine.
+/// Messages wait until `settle` delivers them.
+class FileManagerDialogTest : public ::testing::Test {
+protected:
+    struct Message {
+        bool toPeer;
+        ByteVector bytes;
+    };
+
+    FileManagerDialogTest() {
+        for (const QString& folder : {m_remote, m_local, m_remote + u"/sub dir"_s}) {
+            EXPECT_TRUE(QDir().mkpath(folder));
+        }
+        writeFile(m_remote + u"/a.txt"_s, "remote a");
+        writeFile(m_remote + u"/ü <b>.bin"_s, m_large);
+        writeFile(m_remote + u"/empty"_s, {});
+        writeFile(m_local + u"/up 1"_s, m_large);
+        writeFile(m_local + u"/up 2"_s, "2");
+        m_dialog->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(m_dialog.get()));
+    }
+
+    SendFunction sender(bool toPeer) {
+        return [this, toPeer](const ByteVector& bytes) {
+            m_messages.push_back({toPeer, bytes});
+            return m_isConnected;
+        };
+    }
+
+    void deliver() {
+        const Message message = m_messages.front();
+        m_messages.pop_front();
+        (message.toPeer ? m_peer : m_service)->handleMessage(message.bytes);
+    }
+
+    void settle() {
+        do {
+            QCoreApplication::processEvents();
+            while (!m_messages.empty()) {
+                deliver();
+            }
+            QCoreApplication::processEvents();
+        } while (!m_messages.empty());
+    }
+
+    /// Goes to the remote folder by a click on a drive of that name.
+    void openRemoteFolder() {
+        settle();
+        m_dialog->onRemoteDirectoryListed(QString(), {{m_remote, true, 0}});
+        const QRect drive = m_tree->visualItemRect(m_tree->topLevelItem(0));
+        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, drive.center());
+        QTest::mouseDClick(m_tree->viewport(), Qt::LeftButton, {}, drive.center());
+        settle();
+        m_statuses.clear();
+    }
+
+    /// Names, or sizes or types, from top to bottom.
+    QStringList column(int column) const {
+        QStringList texts;
+        for (int row = 0; row < m_tree->topLevelItemCount(); ++row) {
+            texts << m_tree->topLevelItem(row)->text(column);
+        }
+        return texts;
+    }
+
+    void selectRemote(const QStringList& names) const {
+        m_tree->clearSelection();
+        for (const QString& name : names) {
+            m_tree->findItems(name, Qt::MatchExactly).first()->setSelected(true);
+        }
+    }
+
+    void selectLocal(const QStringList& paths) const {
+        auto* const view = m_dialog->findChild<QTreeView*>(u"localTree"_s);
+        const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
+        view->clearSelection();
+        for (const QString& path : paths) {
+            view->selectionModel()->select(model->index(path),
+                                           QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        }
+    }
+
+    void click(const char* button) const {
+        QTest::mouseClick(m_dialog->findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+    }
+
+    void download(const QStringList& names) const {
+        selectRemote(names);
+        click("downloadButton");
+    }
+
+    void upload(const QStringList& names) const {
+        QStringList paths;
+        for (const QString& name : names) {
+            paths << m_local + u'/' + name;
+        }
+        selectLocal(paths);
+        click("uploadButton");
+    }
+
+    QString label(const char* name) const {
+        return m_dialog->findChild<QLabel*>(QLatin1String(name))->text();
+    }
+    QString status() const { return label("transferStatus"); }
+    int percent() const { return m_dialog->findChild<QProgressBar*>()->value(); }
+
+    /// The open question; null without one.
+    QMessageBox* question() const { return m_dialog->findChild<QMessageBox*>(); }
+
+    void answer(QMessageBox::StandardButton button) const {
+        ASSERT_NE(question(), nullptr);
+        QTest::mouseClick(question()->button(button), Qt::LeftButton);
+    }
+
+    const test::LogCapture m_log;
+    const QTemporaryDir m_folder;
+    const QString m_remote = m_folder.filePath(u"remote"_s);
+    const QString m_local = m_folder.filePath(u"local"_s);
+    const QByteArray m_large{3 * 65'536 + 1, 'x'};
+    std::deque<Message> m_messages;
+    bool m_isConnected = true;
+    std::unique_ptr<FileTransferService> m_service =
+        std::make_unique<FileTransferService>(sender(true), 1 << 20);
+    std::unique_ptr<FileTransferService> m_peer =
+        std::make_unique<FileTransferService>(sender(false), 1 << 20);
+    std::unique_ptr<FileManagerDialog> m_dialog =
+        std::make_unique<FileManagerDialog>(m_service.get());
+    QTreeWidget* const m_tree = m_dialog->findChild<QTreeWidget*>();
+    QSignalSpy m_statuses{m_dialog->findChild<TransferRunner*>(), &TransferRunner::statusChanged};
+};
+
+TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
+    EXPECT_EQ(m_dialog->windowTitle(), u"File Manager"_s);
+    EXPECT_EQ(m_dialog->size(), QSize(1000, 600));
+    EXPECT_EQ(label("remotePathLabel"), u"<b>Remote: </b>/"_s);
+    EXPECT_EQ(status(), u"Loading remote directory..."_s);
+    settle();
+    EXPECT_EQ(status(), QString::number(m_tree->topLevelItemCount()) + u" items"_s);
+
+    openRemoteFolder();
+    EXPECT_EQ(status(), u"4 items"_s);
+    EXPECT_EQ(column(0), QStringList({u"a.txt"_s, u"empty"_s, u"sub dir"_s, u"ü <b>.bin"_s}));
+    EXPECT_EQ(column(1), QStringList({u"8 B"_s, u""_s, u""_s, u"192.0 KB"_s}));
+    EXPECT_EQ(column(2), QStringList({u"File"_s, u"File"_s, u"Folder"_s, u"File"_s}));
+    m_tree->sortByColumn(1, Qt::DescendingOrder);
+    EXPECT_EQ(column(1), QStringList({u"192.0 KB"_s, u"8 B"_s, u""_s, u""_s}));
+    EXPECT_EQ(column(2).last(), u"Folder"_s);
+
+    m_dialog->activateWindow(); // keys are shortcuts
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_dialog.get()));
+    m_tree->setFocus();
+    m_tree->setCurrentItem(m_tree->findItems(u"a.txt"_s, Qt::MatchExactly).first());
+    QTest::keyClick(m_tree, Qt::Key_Return);
+    EXPECT_TRUE(m_messages.empty());
+    m_tree->setCurrentItem(m_tree->findItems(u"sub dir"_s, Qt::MatchExactly).first());
+    QTest::keyClick(m_tree, Qt::Key_Return);
+    EXPECT_EQ(column(0), QStringList());
+    QTest::keyClick(m_tree, Qt::Key_Backspace);
+    ASSERT_EQ(m_messages.size(), 2U);
+    deliver();
+    deliver();
+    deliver(); // the answer about "sub dir", which is no longer shown
+    EXPECT_EQ(column(0), QStringList());
+    EXPECT_EQ(status(), u"Loading remote directory..."_s);
+    settle();
+    EXPECT_EQ(status(), u"4 items"_s);
+
+    m_dialog->onRemoteDirectoryListed(m_remote, {{u"<i>&"_s + QString(500, u'x'), true, 0}});
+    Q_EMIT m_tree->itemDoubleClicked(m_tree->topLevelItem(0), 0);
+    EXPECT_TRUE(label("remotePathLabel").startsWith(u"<b>Remote: </b>…xxx"));
+    settle();
+    EXPECT_TRUE(status().startsWith(u"Error: Directory does not exist: "));
+    EXPECT_LT(status().size(), 400);
+    click("remoteBackButton");
+    settle();
+    EXPECT_EQ(status(), u"4 items"_s);
+    EXPECT_EQ(m_dialog->width(), 1000);
+    QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(m_dialog->isVisible());
+}
+
+TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
+    openRemoteFolder();
+    click("downloadButton");
+    EXPECT_EQ(status(), u"Select one or more remote files to download."_s);
+    download({u"sub dir"_s});
+    EXPECT_EQ(status(), u"No files selected (folders are skipped)."_s);
+
+    selectLocal({m_local});
+    download({u"a.txt"_s, u"sub dir"_s, u"ü <b>.bin"_s});
+    EXPECT_EQ(percent(), 0);
+    deliver();
+    download({u"empty"_s}); // joins the batch
+    EXPECT_EQ(m_messages.size(), 1U);
+    settle();
+    QStringList statuses;
+    for (const auto& signal : m_statuses) {
+        statuses << signal.first().toString();
+    }
+    EXPECT_EQ(statuses,
+              QStringList({u"Downloading 1 of 2: a.txt"_s, u"Downloading 1 of 3: a.txt"_s,
+                           u"Downloaded: a.txt — 2 remaining"_s, u"Downloading 2 of 3: ü <b>.bin"_s,
+                           u"Downloaded: ü <b>.bin — 1 remaining"_s, u"Downloading 3 of 3: empty"_s,
+                           u"Downloaded: empty — 0 remaining"_s, u"All downloads complete."_s}));
+    EXPECT_EQ(percent(), 100);
+    EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "remote a");
+    EXPECT_EQ(contentOf(m_local + u"/ü <b>.bin"_s), m_large);
+    EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
+
+    // A selected file stands for its folder.
+    selectLocal({m_local + u"/up 2"_s});
+    EXPECT_TRUE(QFile::remove(m_local + u"/empty"_s));
+    download({u"empty"_s});
+    EXPECT_EQ(status(), u"Downloading 1 of 1: empty"_s);
+    settle();
+    EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
+}
+
+TEST_F(FileManagerDialogTest, UploadsUnderVisibleProgress) {
+    openRemoteFolder();
+    click("uploadButton");
+    EXPECT_EQ(status(), u"Select one or more local files to upload."_s);
+    upload({u""_s});
+    EXPECT_EQ(status(), u"Select one or more local files to upload."_s);
+
+    const auto* const bar = new PaintCounter(m_dialog->findChild<QProgressBar*>());
+    const auto* const line = new PaintCounter(m_dialog->findChild<QLabel*>(u"transferStatus"_s));
+    QStringList seen;
+    int barBefore = bar->count;
+    m_service->setPacing([&] { // inside the upload, without an event loop
+        if (line->count > 0 && bar->count > barBefore) {
+            seen << status();
+        }
+        barBefore = bar->count;
+        return true;
+    });
+    upload({u"up 1"_s, u"up 2"_s});
+    settle();
+    const QString first = u"Uploading 1 of 2: up 1"_s;
+    EXPECT_EQ(seen, QStringList({first, first, first, first, u"Uploading 2 of 2: up 2"_s}));
+    EXPECT_EQ(status(), u"All uploads complete."_s);
+    EXPECT_EQ(percent(), 100);
+    EXPECT_EQ(m_dialog->findChild<QProgressBar*>()->text(), u"100%"_s);
+    EXPECT_EQ(contentOf(m_remote + u"/up 1"_s), m_large);
+    EXPECT_EQ(contentOf(m_remote + u"/up 2"_s), "2");
+    EXPECT_TRUE(column(0).contains(u"up 1"_s));
+}
+
+TEST_F(FileManagerDialogTest, AsksBeforeItOverwrites) {
+    openRemoteFolder();
+    writeFile(m_local + u"/a.txt"_s, "local a");
+    writeFile(m_local + u"/empty"_s, "not empty");
+    writeFile(m_local + u"/sub dir"_s, "a file here, a folder there");
+    selectLocal({m_local});
+    for (const auto button : {QMessageBox::NoButton, QMessageBox::No, QMessageBox::Yes}) {
+        download({u"a.txt"_s, u"empty"_s, u"ü <b>.bin"_s});
+        ASSERT_NE(question(), nullptr);
+        EXPECT_EQ(question()->windowTitle(), u"Overwrite?"_s);
+        EXPECT_EQ(question()->text(), u"These files already exist locally and will be "
+                                      "overwritten:\na.txt\nempty\n\nContinue?"_s);
+        EXPECT_EQ(question()->defaultButton(), question()->button(QMessageBox::No));
+        if (button == QMessageBox::NoButton) {
+            QTest::keyClick(question(), Qt::Key_Escape);
+        } else {
+            answer(button);
+        }
+        EXPECT_EQ(m_messages.empty(), button != QMessageBox::Yes);
+        settle();
+    }
+    EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "remote a");
+    EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
+
+    writeFile(m_local + u"/a.txt"_s, "local a");
+    upload({u"sub dir"_s, u"up 2"_s, u"a.txt"_s});
+    EXPECT_EQ(question()->text(), u"These files already exist on the remote and will be "
+                                  "overwritten:\na.txt\n\nContinue?"_s);
+    answer(QMessageBox::No);
+    settle();
+    EXPECT_FALSE(QFile::exists(m_remote + u"/up 2"_s));
+    upload({u"a.txt"_s});
+    answer(QMessageBox::Yes);
+    settle();
+    EXPECT_EQ(contentOf(m_remote + u"/a.txt"_s), "local a");
+}
+
+TEST_F(FileManagerDialogTest, StaysInTheChosenFolderWhateverTheNames) {
+    openRemoteFolder();
+    QList<FileEntry> entries;
+    QStringList names;
+    for (const QString& name : {u"../up 1"_s, m_local + u"/up 1"_s, u".."_s, uR"(..\up 1)"_s,
+                                QString(u'a') + QChar(0), u"\n2026 forged"_s + QChar(0)}) {
+        entries.append({name, false, 1});
+        names << name;
+    }
+    m_dialog->onRemoteDirectoryListed(m_remote, entries);
+    selectLocal({m_local});
+    download(names);
+    EXPECT_EQ(status(), u"No files selected (folders are skipped)."_s);
+    EXPECT_TRUE(m_messages.empty());
+    int skipped = 0;
+    for (const std::string& line : m_log.lines()) {
+        skipped += line.starts_with("warning|FileManagerDialog: skipping '") ? 1 : 0;
+        EXPECT_EQ(line.find('\n'), std::string::npos);
+    }
+    EXPECT_EQ(skipped, 6);
+
+    // A question about hundreds of long names still fits on the screen.
+    entries.clear();
+    names.clear();
+    for (int i = 0; i < 300; ++i) {
+        names << QString::number(i) + QString(200, u'W');
+        entries.append({names.back(), false, 1});
+        writeFile(m_local + u'/' + names.back(), {});
+    }
+    m_dialog->onRemoteDirectoryListed(m_remote, entries);
+    download(names);
+    ASSERT_NE(question(), nullptr);
+    const QSize screen = m_dialog->screen()->size();
+    EXPECT_LT(question()->height(), screen.height());
+    EXPECT_LT(question()->width(), screen.width());
+    EXPECT_TRUE(question()->text().endsWith(u"\n… (+288)\n\nContinue?"));
+}
+
+TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
+    openRemoteFolder();
+    selectLocal({m_local});
+    EXPECT_TRUE(QFile::remove(m_remote + u"/a.txt"_s));
+    download({u"a.txt"_s, u"empty"_s});
+    upload({u"up 2"_s}); // waits for the downloads
+    settle();
+    EXPECT_EQ(status(), u"Error: Cannot open file: "_s + m_remote + u"/a.txt"_s);
+    EXPECT_FALSE(QFile::exists(m_local + u"/empty"_s));
+    EXPECT_FALSE(QFile::exists(m_remote + u"/up 2"_s));
+    m_dialog->onDownloadComplete(m_local + u"/a.txt"_s); // late
+    m_dialog->onUploadComplete();
+    settle();
+    EXPECT_TRUE(status().startsWith(u"Error: "));
+
+    selectLocal({m_local + u"/up 2"_s});
+    EXPECT_TRUE(QFile::remove(m_local + u"/up 2"_s));
+    click("uploadButton");
+    settle();
+    EXPECT_TRUE(status().startsWith(u"Error: Cannot open local file: ")) << status().toStdString();
+
+    selectLocal({m_local});
+    download({u"empty"_s}); // a new batch, counted anew
+    EXPECT_EQ(status(), u"Downloading 1 of 1: empty"_s);
+    settle();
+    EXPECT_EQ(status(), u"All downloads complete."_s);
+    m_isConnected = false;
+    download({u"ü <b>.bin"_s});
+    m_messages.clear();
+    settle();
+    EXPECT_TRUE(status().startsWith(u"Error: The request could not be sent"))
+        << status().toStdString();
+}
+
+TEST_F(FileManagerDialogTest, GoesOnWhenOnlyAFolderCannotBeListed) {
+    openRemoteFolder();
+    selectLocal({m_local});
+    EXPECT_TRUE(QDir(m_remote).rmdir(u"sub dir"_s));
+    Q_EMIT m_tree->itemDoubleClicked(m_tree->findItems(u"sub dir"_s, Qt::MatchExactly).first(), 0);
+    click("remoteBackButton");
+    m_dialog->onRemoteDirectoryListed(m_remote, {{u"a.txt"_s, false, 1}, {u"empty"_s, false, 1}});
+    download({u"a.txt"_s, u"empty"_s});
+    settle();
+    EXPECT_EQ(status(), u"All downloads complete."_s);
+    EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
+}
+
+TEST_F(FileManagerDialogTest, OutlivesItsService) {
+    openRemoteFolder();
+    selectLocal({m_local});
+    writeFile(m_local + u"/a.txt"_s, "local a");
+    download({u"empty"_s, u"ü <b>.bin"_s});
+    download({u"a.txt"_s});
+    m_service.reset();
+    EXPECT_EQ(status(), u"The session has ended."_s);
+    answer(QMessageBox::Yes);
+    upload({u"up 2"_s});
+    click("remoteBackButton");
+    m_messages.clear();
+    settle();
+    EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "local a");
+    EXPECT_EQ(status(), u"The session has ended."_s);
+
+    FileManagerDialog unconnected(nullptr);
+    unconnected.show();
+    EXPECT_EQ(unconnected.findChild<QLabel*>(u"transferStatus"_s)->text(), QString());
+}
+
+TEST_F(FileManagerDialogTest, MayDieInTheMiddleOfAnything) {
+    openRemoteFolder();
+    selectLocal({m_local});
+    writeFile(m_local + u"/a.txt"_s, "local a");
+    download({u"empty"_s, u"ü <b>.bin"_s});
+    download({u"a.txt"_s});
+    ASSERT_NE(question(), nullptr);
+    m_dialog.reset();
+    settle();
+    EXPECT_EQ(contentOf(m_local + u"/empty"_s), ""); // what was asked for arrives
+    EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "local a");
+    EXPECT_FALSE(QFile::exists(m_local + u"/ü <b>.bin"_s));
+
+    m_dialog = std::make_unique<FileManagerDialog>(m_service.get());
+    m_service->setPacing([this] {
+        m_dialog.reset();
+        return true;
+    });
+    upload({u"up 1"_s});
+    settle();
+    EXPECT_EQ(m_dialog, nullptr);
+    EXPECT_EQ(m_log.contains("FileTransfer: upload complete"), true);
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,168 @@
+#include "PartnerId.h"
+#include "SystemTrayIcon.h"
+#include "WakeOnLan.h"
+#include "WindowFixture.h"
+
+#include <QComboBox>
+#include <QInputDialog>
+#include <QListWidget>
+#include <QMenu>
+
+namespace corvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::eventually;
+
+class HomeWindowTest : public test::WindowFixture {
+protected:
+    QString partner() const { return widget<QLineEdit>("partnerEdit")->text(); }
+    void typePartner(const QString& text) const {
+        widget<QLineEdit>("partnerEdit")->clear();
+        QTest::keyClicks(widget<QLineEdit>("partnerEdit"), text);
+    }
+
+    QAction* trayAction(const QString& text) const {
+        for (QAction* const action :
+             m_window.findChild<SystemTrayIcon*>()->contextMenu()->actions()) {
+            if (action->text() == text) {
+                return action;
+            }
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(HomeWindowTest, KeepsFavoritesAtHand) {
+    start();
+    const auto* const list = widget<QListWidget>("favoritesList");
+    for (const QString& text : {u"12345678"_s, u"123 456 789"_s, u"987654321"_s}) {
+        typePartner(text);
+        click("favoriteButton");
+    }
+    EXPECT_EQ(m_settings.favorites(), (QStringList{u"123456789"_s, u"987654321"_s}));
+    ASSERT_EQ(list->count(), 2);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualItemRect(list->item(0)).center());
+    EXPECT_EQ(partner(), u"123 456 789"_s);
+    EXPECT_EQ(m_window.focusWidget(), widget<QLineEdit>("partnerPasswordEdit"));
+    click("favoriteButton");
+    EXPECT_EQ(m_settings.favorites(), QStringList(u"987654321"_s));
+    EXPECT_EQ(list->count(), 1);
+}
+
+TEST_F(HomeWindowTest, WakesAPartnerWhoseAddressItAsksForOnce) {
+    start();
+    typePartner(u"123 456 789"_s);
+    const struct {
+        QString typed; ///< empty: nothing is asked
+        QString box;
+    } cases[] = {
+        {u"01:02:03"_s, u"WoL|Invalid MAC address."_s},
+        {u"01-02-03-0a-0B-0c"_s, u"WoL|Wake-on-LAN packet sent to 01-02-03-0a-0B-0c"_s},
+        {{}, u"WoL|Wake-on-LAN packet sent to 01-02-03-0a-0B-0c"_s},
+    };
+    QString stored;
+    for (const auto& c : cases) {
+        click("wakeButton");
+        auto* const dialog = m_window.findChild<QInputDialog*>();
+        ASSERT_EQ(dialog != nullptr, !c.typed.isEmpty());
+        if (dialog != nullptr) {
+            EXPECT_EQ(dialog->textValue(), stored);
+            dialog->setTextValue(c.typed);
+            QTest::keyClick(dialog, Qt::Key_Return);
+            stored = c.typed;
+            EXPECT_EQ(m_settings.wakeOnLanAddress(u"123456789"_s), stored);
+            EXPECT_TRUE(eventually([&] { return m_window.findChild<QInputDialog*>() == nullptr; }));
+        }
+        const QStringList shown = takeBoxes();
+        // A machine without a network refuses the broadcast.
+        EXPECT_TRUE(shown == QStringList(c.box) || shown.value(0).endsWith(u"could not be sent."_s))
+            << shown.join(u'\n').toStdString();
+    }
+}
+
+TEST_F(HomeWindowTest, HidesInTheTrayOnlyWhereThereIsOne) {
+    start();
+    int quits = 0;
+    QObject::connect(&m_window, &MainWindow::quitRequested, [&] { ++quits; });
+    auto* const tray = m_window.findChild<SystemTrayIcon*>();
+    m_isTrayThere = true;
+    EXPECT_FALSE(m_window.close());
+    EXPECT_FALSE(m_window.isVisible());
+    EXPECT_EQ(quits, 0);
+    Q_EMIT tray->showWindowRequested();
+    EXPECT_TRUE(m_window.isVisible());
+
+    m_settings.setMinimizeToTray(false);
+    EXPECT_TRUE(m_window.close());
+    EXPECT_EQ(quits, 1);
+    m_window.show();
+    m_settings.setMinimizeToTray(true);
+    m_isTrayThere = false;
+    EXPECT_TRUE(m_window.close());
+    EXPECT_EQ(quits, 2);
+}
+
+TEST_F(HomeWindowTest, MirrorsTheSessionInTheTrayMenu) {
+    start();
+    ASSERT_NE(trayAction(u"Online (Ready)"_s), nullptr);
+    EXPECT_FALSE(trayAction(u"Online (Ready)"_s)->isEnabled());
+    EXPECT_FALSE(trayAction(u"Disconnect"_s)->isEnabled());
+    ASSERT_NE(viewNewDevice(), nullptr);
+    EXPECT_NE(trayAction(u"Connected"_s), nullptr);
+    trayAction(u"Disconnect"_s)->trigger();
+    EXPECT_TRUE(is(SessionState::Idle));
+    EXPECT_FALSE(trayAction(u"Disconnect"_s)->isEnabled());
+
+    ASSERT_NE(viewNewDevice(), nullptr);
+    bool quits = false;
+    QObject::connect(&m_window, &MainWindow::quitRequested, [&] { quits = true; });
+    trayAction(u"Quit"_s)->trigger();
+    EXPECT_TRUE(quits);
+    EXPECT_TRUE(eventually([this] {
+        return closeReasons() == (QStringList{u"user_disconnect"_s, u"application_quit"_s});
+    }));
+}
+
+TEST_F(HomeWindowTest, OffersAnUpdateAndStartsItsInstaller) {
+    start();
+    auto* const banner = widget<QWidget>("updateBanner");
+    EXPECT_FALSE(banner->isVisible());
+    m_window.showUpdateBanner(u"<b>9</b>"_s, u"http://127.0.0.1/setup"_s, {});
+    EXPECT_TRUE(banner->isVisible());
+    EXPECT_EQ(label("updateText"), u"Update available: v<b>9</b>"_s);
+    auto* const button = banner->findChild<QPushButton*>();
+    QStringList requested;
+    QObject::connect(&m_window, &MainWindow::updateRequested,
+                     [&](const QString& url) { requested << url; });
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(requested, QStringList(u"http://127.0.0.1/setup"_s));
+    EXPECT_EQ(button->text(), u"Downloading..."_s);
+    EXPECT_FALSE(button->isEnabled());
+    m_window.showUpdateError(u"gone"_s);
+    EXPECT_EQ(takeBoxes(), QStringList(u"Update|gone"_s));
+    EXPECT_TRUE(button->isEnabled());
+
+    bool quits = false;
+    QObject::connect(&m_window, &MainWindow::quitRequested, [&] { quits = true; });
+    m_window.launchInstaller(u"/nonexistent/CorvaneSetup.exe"_s);
+    EXPECT_EQ(takeBoxes(), QStringList(u"Update|The installer could not be started."_s));
+    EXPECT_FALSE(quits);
+}
+
+TEST(WakeOnLanTest, RepeatsTheAddressSixteenTimes) {
+    const QByteArray address = QByteArray::fromHex("01020aff0b10");
+    for (const QString& text : {u"01:02:0a:ff:0b:10"_s, u"01-02-0A-FF-0B-10"_s, u"01020aFF0b10"_s,
+                                u"01 02 0a ff 0b 10"_s}) {
+        EXPECT_EQ(wakeOnLanPacket(text), QByteArray(6, '\xff') + address.repeated(16));
+    }
+    for (const QString& text : {u""_s, u"01:02:03"_s, u"01020aff0b1"_s, u"01020aff0b1g"_s,
+                                u"01020aff0b10\n"_s, u"01020aff0b1000"_s}) {
+        EXPECT_EQ(wakeOnLanPacket(text), std::nullopt) << text.toStdString();
+    }
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,193 @@
+#include "ApiClient.h"
+#include "ChatDialog.h"
+#include "ConnectionInfoDialog.h"
+#include "ConnectionQualityMonitor.h"
+#include "SessionManager.h"
+#include "SignalingClient.h"
+
+#include <QDateTime>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBrowser>
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace corvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ChatDialogTest : public ::testing::Test {
+protected:
+    ChatDialogTest() {
+        m_dialog.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_dialog));
+    }
+
+    QString transcript() const { return m_transcript->toPlainText(); }
+
+    const QDateTime m_time{{2026, 1, 2}, {3, 4}};
+    ChatDialog m_dialog;
+    QTextBrowser* const m_transcript = m_dialog.findChild<QTextBrowser*>();
+    QLineEdit* const m_input = m_dialog.findChild<QLineEdit*>();
+    QPushButton* const m_send = m_dialog.findChild<QPushButton*>();
+    QSignalSpy m_sent{&m_dialog, &ChatDialog::messageSent};
+};
+
+TEST_F(ChatDialogTest, SendsWhatWasTyped) {
+    EXPECT_EQ(m_dialog.windowTitle(), u"Chat"_s);
+    EXPECT_EQ(m_dialog.size(), QSize(340, 460));
+    EXPECT_TRUE(m_dialog.isWindow());
+    EXPECT_TRUE(m_dialog.windowFlags() & Qt::WindowStaysOnTopHint);
+    EXPECT_EQ(m_dialog.focusWidget(), m_input);
+
+    const QString longest(ChatDialog::kLongestMessage, u'x');
+    const struct {
+        QString typed;
+        std::optional<QString> sent;
+    } cases[] = {
+        {u"hello"_s, u"hello"_s},
+        {u"\t <b>&amp;</b> ü  "_s, u"<b>&amp;</b> ü"_s},
+        {u"    "_s, std::nullopt},
+        {longest, longest},
+        {u"  "_s + longest + u"yz"_s, longest},
+    };
+    for (const bool byKey : {true, false}) {
+        for (const auto& c : cases) {
+            m_input->setText(c.typed);
+            if (byKey) {
+                QTest::keyClick(m_input, Qt::Key_Return);
+            } else {
+                QTest::mouseClick(m_send, Qt::LeftButton);
+            }
+            EXPECT_EQ(m_sent.size(), c.sent ? 1 : 0);
+            EXPECT_EQ(m_sent.value(0).value(0).toString(), c.sent.value_or(QString()));
+            EXPECT_EQ(m_input->text(), c.sent ? QString() : c.typed);
+            m_sent.clear();
+        }
+    }
+    EXPECT_TRUE(transcript().isEmpty()); // its creator decides what was said
+
+    m_input->setText(u"half"_s);
+    QTest::keyClick(&m_dialog, Qt::Key_Escape);
+    EXPECT_FALSE(m_dialog.isVisible());
+    m_dialog.show();
+    QCoreApplication::processEvents();
+    QTest::keyClicks(m_dialog.focusWidget(), u" done"_s);
+    EXPECT_EQ(m_input->text(), u"half done"_s);
+}
+
+TEST_F(ChatDialogTest, ShowsEverythingLiterally) {
+    const QString markup = u"<img src='x'> &lt; <a href='file:///'>\"%1\"</a>"_s;
+    m_dialog.appendMessage(ChatDialog::ownName(), markup, m_time);
+    m_dialog.appendMessage(u"<i>Remote</i> %4"_s, u"%2"_s, m_time);
+    EXPECT_EQ(transcript(), u"Me 03:04\n"_s + markup + u"\n<i>Remote</i> %4 03:04\n%2"_s);
+    const QString html = m_transcript->toHtml();
+    EXPECT_FALSE(html.contains(u"<a "));
+    for (const QString& colour : {u"#4da6ff"_s, u"#66bb6a"_s, u"#666666"_s, u"#e0e0e0"_s}) {
+        EXPECT_TRUE(html.contains(colour)) << colour.toStdString();
+    }
+}
+
+TEST_F(ChatDialogTest, KeepsTheLatestInView) {
+    QScrollBar* const bar = m_transcript->verticalScrollBar();
+    for (int i = 0; i < ChatDialog::kMostMessages + 20; ++i) {
+        if (i == 40) {
+            bar->setValue(0);
+        }
+        m_dialog.appendMessage(u"Remote"_s, QString::number(i), m_time);
+        EXPECT_EQ(bar->value(), bar->maximum());
+    }
+    EXPECT_GT(bar->maximum(), 0);
+    EXPECT_EQ(m_transcript->document()->blockCount(), ChatDialog::kMostMessages);
+    EXPECT_TRUE(transcript().startsWith(u"Remote 03:04\n20\n"));
+
+    m_dialog.hide();
+    m_dialog.appendMessage(u"Remote"_s, u"while hidden"_s, m_time);
+    m_dialog.show();
+    EXPECT_EQ(bar->value(), bar->maximum());
+}
+
+class ConnectionInfoDialogTest : public ::testing::Test {
+protected:
+    /// "caption value" of each row.
+    static QStringList rows(const ConnectionInfoDialog& dialog) {
+        QStringList rows;
+        for (const QFormLayout* form : dialog.findChildren<QFormLayout*>()) {
+            for (int row = 0; row < form->rowCount(); ++row) {
+                const auto text = [&](QFormLayout::ItemRole role) {
+                    return qobject_cast<QLabel*>(form->itemAt(row, role)->widget())->text();
+                };
+                rows << text(QFormLayout::LabelRole) + u' ' + text(QFormLayout::FieldRole);
+            }
+        }
+        return rows;
+    }
+
+    ApiClient m_api;
+    SignalingClient m_signaling;
+    SessionManager m_session{&m_api, &m_signaling};
+};
+
+TEST_F(ConnectionInfoDialogTest, ShowsTheSessionAndItsQuality) {
+    m_session.acceptSession(u"<b>s-1</b>"_s, u"123 456789"_s, QString());
+    ConnectionInfoDialog dialog(&m_session, nullptr);
+    EXPECT_EQ(dialog.windowTitle(), u"Connection Information"_s);
+    EXPECT_EQ(dialog.minimumWidth(), 360);
+    const QStringList session{u"Session ID: <b>s-1</b>"_s, u"Remote ID: 123 456 789"_s,
+                              u"Role: Target (Sharing)"_s, u"Transport: "_s};
+    EXPECT_EQ(rows(dialog),
+              session + QStringList({u"FPS: —"_s, u"Latency: —"_s, u"Bandwidth: —"_s, u"Sent: —"_s,
+                                     u"Received: —"_s, u"Dropped Frames: —"_s, u"Uptime: —"_s}));
+    const std::pair<ConnectionStats, QStringList> cases[] = {
+        {{},
+         {u"FPS: 0.0"_s, u"Latency: 0.0 ms"_s, u"Bandwidth: 0 Kbps"_s, u"Sent: 0 B"_s,
+          u"Received: 0 B"_s, u"Dropped Frames: 0"_s, u"Uptime: 00:00:00"_s}},
+        {{29.96, 12.34, 1000, 1023, 1536, 7, 3725},
+         {u"FPS: 30.0"_s, u"Latency: 12.3 ms"_s, u"Bandwidth: 1000 Kbps"_s, u"Sent: 1023 B"_s,
+          u"Received: 1.5 KB"_s, u"Dropped Frames: 7"_s, u"Uptime: 01:02:05"_s}},
+        {{4, 250, 1000.5, 1'048'576, -1, 1'234'567, 90'000},
+         {u"FPS: 4.0"_s, u"Latency: 250.0 ms"_s, u"Bandwidth: 1.0 Mbps"_s, u"Sent: 1.0 MB"_s,
+          u"Received: 0 B"_s, u"Dropped Frames: 1234567"_s, u"Uptime: 25:00:00"_s}},
+    };
+    for (const auto& [stats, shown] : cases) {
+        dialog.showStats(stats);
+        EXPECT_EQ(rows(dialog), session + shown);
+    }
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+        EXPECT_TRUE(label->buddy() || label->textFormat() == Qt::PlainText);
+    }
+    dialog.show();
+    QTest::mouseClick(dialog.findChild<QPushButton*>(), Qt::LeftButton);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(ConnectionInfoDialogTest, FollowsTheMonitorWhileThereIsOne) {
+    auto monitor = std::make_unique<ConnectionQualityMonitor>();
+    ConnectionInfoDialog dialog(&m_session, monitor.get());
+    auto* const timer = dialog.findChild<QTimer*>();
+    ASSERT_NE(timer, nullptr);
+    EXPECT_EQ(timer->interval(), 1000);
+    EXPECT_TRUE(timer->isActive());
+    const auto sent = [&] {
+        return dialog.findChild<QLabel*>(u"sentValue"_s)->text();
+    };
+    EXPECT_EQ(sent(), u"0 B"_s); // refreshed at once
+    timer->setInterval(1);
+    monitor->addBytesSent(2048);
+    monitor->onUpdateTick();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sent() == u"2.0 KB"; }));
+    monitor.reset();
+    QSignalSpy ticks(timer, &QTimer::timeout);
+    EXPECT_TRUE(ticks.wait());
+    EXPECT_EQ(sent(), u"2.0 KB"_s);
+}
+
+} // namespace
+} // namespace corvane
