@@ -38,7 +38,8 @@ PeerBridge::PeerBridge() {
                     {{u"event"_s, u"candidate"_s}, {u"candidate"_s, candidate}, {u"mid"_s, mid}});
             });
     connect(&m_transport, &ITransport::connected, this, [this] {
-        Q_EMIT event({{u"event"_s, u"connected"_s}});
+        Q_EMIT event({{u"event"_s, u"connected"_s},
+                      {u"limit"_s, static_cast<int>(P2PTransport::kMaxMessageSize)}});
     });
     connect(&m_transport, &ITransport::disconnected, this, [this] {
         Q_EMIT event({{u"event"_s, u"disconnected"_s}});

@@ -11,8 +11,8 @@ namespace corvane::test {
 ///
 /// Commands: {"do": "offer" | "answer" | "description" (type, sdp) | "candidate" (candidate, mid) |
 /// "send" (channel, size, seed)}. Events: {"event": "description" (type, sdp) | "candidate"
-/// (candidate, mid) | "connected" | "disconnected" | "data" (channel, size, sum) | "sent" (ok,
-/// sum)}.
+/// (candidate, mid) | "connected" (limit) | "disconnected" | "data" (channel, size, sum) | "sent"
+/// (ok, sum)}.
 class PeerBridge : public QObject {
     Q_OBJECT
 

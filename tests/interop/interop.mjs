@@ -1,5 +1,6 @@
 // Connects this project's transport with a WebRTC implementation of somebody else's, as either
 // side, and exchanges messages. Usage: node interop.mjs <bridge> node | chromium [<browser>]
+// With `bridge <command>` the other side is a second bridge, such as that of another platform.
 import assert from 'node:assert/strict';
 import { BridgePeer, ChromiumPeer, NodePeer } from './peers.mjs';
 
@@ -8,7 +9,13 @@ const SIZES = [1, 1200, 65_535, 65_536, 262_144, 262_145, 1_000_000, 2_000_000];
 const USUAL_LIMIT = 262_144; // of a peer that does not tell one
 const CHANNELS = ['control', 'video'];
 
-const [bridgeProgram, kind, browser = 'chromium'] = process.argv.slice(2);
+const [bridgeProgram, kind, ...command] = process.argv.slice(2);
+
+const FOREIGN = {
+  node: () => new NodePeer(),
+  chromium: () => new ChromiumPeer(command[0] ?? 'chromium'),
+  bridge: () => new BridgePeer(...command),
+};
 
 // Collects what a peer reports, for `next` to take in order.
 class Inbox {
@@ -85,18 +92,19 @@ async function exchange(from, fromInbox, toInbox, channel, size) {
 
 async function run(weOffer) {
   const bridge = new BridgePeer(bridgeProgram);
-  const foreign = kind === 'node' ? new NodePeer() : new ChromiumPeer(browser);
+  const foreign = FOREIGN[kind]();
   const ours = link(bridge, foreign, 'bridge');
   const theirs = link(foreign, bridge, kind);
   await foreign.start();
   if (weOffer) {
+    await foreign.obey({ do: 'answer' });
     bridge.obey({ do: 'offer' });
   } else {
     bridge.obey({ do: 'answer' });
     await foreign.obey({ do: 'offer' });
   }
   await ours.next('connected');
-  const { ordered, maxRetransmits, limit } = await theirs.next('connected');
+  const { ordered = false, maxRetransmits = 0, limit } = await theirs.next('connected');
   assert.deepEqual([ordered, maxRetransmits], [false, 0], 'settings of the video channel');
   const { sdp } = await theirs.next('description');
   const takes = Number(/a=max-message-size:(\d+)/.exec(sdp)?.[1] ?? USUAL_LIMIT);

@@ -9,8 +9,8 @@ import './foreign-peer.js';
 
 // This project's transport, in a program of its own.
 export class BridgePeer {
-  constructor(program) {
-    this.process = spawn(program, { stdio: ['pipe', 'pipe', 'inherit'] });
+  constructor(program, ...rest) {
+    this.process = spawn(program, rest, { stdio: ['pipe', 'pipe', 'inherit'] });
     createInterface({ input: this.process.stdout }).on(
       'line', (line) => this.onEvent(JSON.parse(line)));
   }

@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 using Messages = std::vector<std::pair<ChannelType, QByteArray>>;
 
-constexpr int kPatienceMs = 60'000;
+constexpr int kPatienceMs = 100'000;
 
 QByteArray randomBytes(size_t size) {
     std::minstd_rand random(static_cast<unsigned>(size));
