@@ -45,7 +45,12 @@ QGroupBox::title {
     subcontrol-origin: margin; subcontrol-position: top left;
     left: 10px; padding: 0 4px; color: $secondary;
 }
-QMessageBox { background-color: $raised; }
+QMessageBox {
+    background-color: $raised;
+    messagebox-warning-icon: url(:/icons/warning);
+    messagebox-information-icon: url(:/icons/information);
+    messagebox-question-icon: url(:/icons/question);
+}
 QMessageBox QLabel { color: $text; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QToolTip {
@@ -187,6 +192,8 @@ QTabBar::tab {
 }
 QTabBar::tab:hover { background-color: $button; color: $text; }
 QTabBar::tab:selected { background-color: $raised; color: $text; border-top: 2px solid $accent; }
+QTabBar { outline: none; }
+QTabBar::tab:selected:focus { color: $accent; }
 QTabBar::tab:disabled { color: $disabled; }
 QTreeView, QListView {
     background-color: $field; alternate-background-color: $muted; color: $text;
