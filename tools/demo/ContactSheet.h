@@ -18,8 +18,6 @@ public:
     /// All pictures in the order of their coming, none enlarged.
     QImage draw() const;
 
-    int count() const { return static_cast<int>(m_pictures.size()); }
-
 private:
     struct Picture {
         QString caption;

@@ -66,7 +66,6 @@ void FileExchange::run() {
 }
 
 void FileExchange::copyBothWays() {
-    harness::DisplayUser& user = m_stage.viewer;
     const harness::ClientProcess& viewer = m_stage.session.viewer();
     const QString remoteFolder = m_stage.session.target().homePath(QStringLiteral("exchange"));
     const QString offered = remoteFolder + u'/' + kFromTarget;
@@ -75,21 +74,25 @@ void FileExchange::copyBothWays() {
     writeRandomFile(viewer.homePath(kFromViewer));
 
     // Nothing is selected on the local side, so the copy goes to the user's home.
-    const bool chosen = openRemoteFolder(foldersOf(remoteFolder)) && selectRow(kFromTarget);
-    user.display().pressKey(harness::kKeyTab);
-    user.display().pressKey(' ');
-    checkCopy(QStringLiteral("download"), chosen, offered, viewer.homePath(kFromTarget));
+    const bool offeredFound =
+        openRemoteFolder(foldersOf(remoteFolder)) && selectRow(kFromTarget) && pressNext({});
+    checkCopy(QStringLiteral("download"), offeredFound, offered, viewer.homePath(kFromTarget));
 
-    const bool picked = expandLocalFolder(foldersOf(viewer.homePath({}))) && selectRow(kFromViewer);
-    user.display().pressKey(harness::kKeyTab, {harness::kKeyShift});
-    user.display().pressKey(' ');
-    checkCopy(QStringLiteral("upload"), picked, viewer.homePath(kFromViewer),
+    const bool ownFound = expandLocalFolder(foldersOf(viewer.homePath({}))) &&
+                          selectRow(kFromViewer) && pressNext({harness::kKeyShift});
+    checkCopy(QStringLiteral("upload"), ownFound, viewer.homePath(kFromViewer),
               remoteFolder + u'/' + kFromViewer);
+}
+
+bool FileExchange::pressNext(const std::vector<xcb_keysym_t>& held) {
+    m_stage.viewer.display().pressKey(harness::kKeyTab, held);
+    m_stage.viewer.display().pressKey(' ');
+    return true;
 }
 
 bool FileExchange::openRemoteFolder(const QStringList& folders) {
     QString path = m_remoteRoot;
-    bool there = m_stage.viewer.clickInto(kFileManagerTitle, kRemoteList) &&
+    bool there = isListed({}) && m_stage.viewer.clickInto(kFileManagerTitle, kRemoteList) &&
                  selectFirstRow(m_remoteRoot) && enter(path);
     for (const QString& folder : folders) {
         path += (path.endsWith(u'/') ? QString() : QStringLiteral("/")) + folder;
@@ -99,21 +102,33 @@ bool FileExchange::openRemoteFolder(const QStringList& folders) {
 }
 
 bool FileExchange::enter(const QString& expectedPath) {
-    const QString listed = QStringLiteral("received listing for '%1'").arg(expectedPath);
     m_stage.viewer.display().pressKey(harness::kKeyReturn);
-    return harness::waitFor([&] { return !m_stage.session.viewer().logLines(listed).isEmpty(); },
+    return isListed(expectedPath);
+}
+
+bool FileExchange::isListed(const QString& path) const {
+    const QString line = QStringLiteral("received listing for '%1'").arg(path);
+    return harness::waitFor([&] { return !m_stage.session.viewer().logLines(line).isEmpty(); },
                             10s);
 }
 
 bool FileExchange::expandLocalFolder(const QStringList& folders) {
-    bool there = m_stage.viewer.clickInto(kFileManagerTitle, kLocalList) &&
-                 selectFirstRow(QStringLiteral("/"));
-    m_stage.viewer.display().pressKey(harness::kKeyRight);
+    const QString root = QStringLiteral("/");
+    bool there = m_stage.viewer.clickInto(kFileManagerTitle, kLocalList) && selectFirstRow(root) &&
+                 moveInto(root);
     for (const QString& folder : folders) {
-        there = there && selectRow(folder);
-        m_stage.viewer.display().pressKey(harness::kKeyRight);
+        there = there && selectRow(folder) && moveInto(folder);
     }
     return there;
+}
+
+bool FileExchange::moveInto(const QString& row) {
+    return harness::waitFor(
+        [&] {
+            m_stage.viewer.display().pressKey(harness::kKeyRight);
+            return m_stage.viewer.copied() != row;
+        },
+        10s);
 }
 
 bool FileExchange::selectFirstRow(const QString& row) {
@@ -123,13 +138,13 @@ bool FileExchange::selectFirstRow(const QString& row) {
 
 bool FileExchange::selectRow(const QString& row) {
     constexpr int kAttempts = 10;
-    constexpr auto kSearchForgets = 600ms; // what was typed before
+    constexpr auto kSearchForgets = 500ms; // what was typed before
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        harness::waitFor([] { return false; }, kSearchForgets);
         m_stage.viewer.display().type(row);
         if (m_stage.viewer.copied() == row) {
             return true;
         }
-        harness::waitFor([] { return false; }, kSearchForgets);
     }
     return false;
 }

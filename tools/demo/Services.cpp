@@ -3,6 +3,8 @@
 #include "Stage.h"
 #include "WaitFor.h"
 
+#include <utility>
+
 namespace corvane::demo {
 
 using namespace std::chrono_literals;
@@ -13,8 +15,10 @@ namespace {
 constexpr auto kPatience = 10s;
 const QString kChatTitle = QStringLiteral("Chat");
 
+constexpr QPoint kInput(60, -26);
+constexpr QPoint kTranscript(60, 120);
+
 bool say(DisplayUser& user, const QString& text) {
-    constexpr QPoint kInput(60, -26);
     if (!user.clickInto(kChatTitle, kInput)) {
         return false;
     }
@@ -25,7 +29,6 @@ bool say(DisplayUser& user, const QString& text) {
 
 /// Whether the transcript comes to hold the text.
 bool reads(DisplayUser& user, const QString& text) {
-    constexpr QPoint kTranscript(60, 120);
     return user.sees(kChatTitle) && user.clickInto(kChatTitle, kTranscript) &&
            harness::waitFor(
                [&] {
@@ -59,10 +62,12 @@ void exchangeChat(Stage& stage) {
     checkText(stage, QStringLiteral("chat to the target"), asked, question);
     const bool answered = asked && say(stage.target, answer) && reads(stage.viewer, answer);
     checkText(stage, QStringLiteral("chat to the viewer"), answered, answer);
-    stage.sheet.add(QStringLiteral("Chat, viewer"), stage.viewer.look(kChatTitle));
-    stage.sheet.add(QStringLiteral("Chat, target"), stage.target.look(kChatTitle));
-    stage.viewer.escape(kChatTitle);
-    stage.target.escape(kChatTitle);
+    for (const auto& [user, caption] :
+         {std::pair{&stage.viewer, "Chat, viewer"}, std::pair{&stage.target, "Chat, target"}}) {
+        user->clickInto(kChatTitle, kTranscript); // which unselects what was copied
+        stage.sheet.add(QLatin1String(caption), user->look(kChatTitle));
+        user->escape(kChatTitle);
+    }
 }
 
 void exchangeClipboard(Stage& stage) {

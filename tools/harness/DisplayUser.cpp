@@ -63,13 +63,18 @@ bool DisplayUser::hasKeyboard(const QString& title) const {
 }
 
 QString DisplayUser::copied() {
-    m_clipboard.clear();
+    constexpr int kAttempts = 3;
     QString text;
-    achieve([&] { m_display.pressKey('c', {kKeyControl}); },
+    m_clipboard.clear();
+    for (int attempt = 0; attempt < kAttempts && text.isEmpty(); ++attempt) {
+        m_display.pressKey('c', {kKeyControl});
+        waitFor(
             [&] {
                 text = m_clipboard.text().value_or(QString());
                 return !text.isEmpty();
-            });
+            },
+            1s);
+    }
     return text;
 }
 
