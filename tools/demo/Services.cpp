@@ -17,6 +17,7 @@ const QString kChatTitle = QStringLiteral("Chat");
 
 constexpr QPoint kInput(60, -26);
 constexpr QPoint kTranscript(60, 120);
+constexpr QPoint kTranscriptEnd(60, -90);
 
 bool say(DisplayUser& user, const QString& text) {
     if (!user.clickInto(kChatTitle, kInput)) {
@@ -64,7 +65,7 @@ void exchangeChat(Stage& stage) {
     checkText(stage, QStringLiteral("chat to the viewer"), answered, answer);
     for (const auto& [user, caption] :
          {std::pair{&stage.viewer, "Chat, viewer"}, std::pair{&stage.target, "Chat, target"}}) {
-        user->clickInto(kChatTitle, kTranscript); // which unselects what was copied
+        user->clickInto(kChatTitle, kTranscriptEnd); // which unselects what was copied
         stage.sheet.add(QLatin1String(caption), user->look(kChatTitle));
         user->escape(kChatTitle);
     }
