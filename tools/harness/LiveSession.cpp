@@ -8,7 +8,6 @@
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QUrl>
-#include <qtestsupport_core.h>
 
 #include <algorithm>
 
@@ -37,10 +36,6 @@ QRect parseRectangle(const QString& numbers) {
 }
 
 } // namespace
-
-bool waitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout) {
-    return QTest::qWaitFor(condition, static_cast<int>(timeout.count()));
-}
 
 LiveSession::LiveSession(Options options)
     : m_options(std::move(options)), m_targetPassword(createPassword()) {}

@@ -2,6 +2,7 @@
 
 #include "ClientProcess.h"
 #include "DevServer.h"
+#include "WaitFor.h"
 #include "XDisplay.h"
 #include "XvfbServer.h"
 
@@ -11,14 +12,10 @@
 #include <QString>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace corvane::harness {
-
-/// Waits, with the event loop running, until `condition` holds. False when it never did.
-bool waitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout);
 
 /// What arrived of the target's screen at the viewer over a while.
 struct StreamFigures {
@@ -87,6 +84,7 @@ public:
 
     ClientProcess& target() { return *m_target; }
     ClientProcess& viewer() { return *m_viewer; }
+    XDisplay& targetDisplay() { return *m_targetDisplay; }
     XDisplay& viewerDisplay() { return *m_viewerDisplay; }
     devserver::DevServer& server() { return m_server; }
     QString targetPassword() const { return m_targetPassword; }
