@@ -6,6 +6,20 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(AOM REQUIRED IMPORTED_TARGET aom)
 pkg_check_modules(DAV1D REQUIRED IMPORTED_TARGET dav1d)
 
+set(CORVANE_WITH_P2P AUTO CACHE STRING "Connect peers directly, with libdatachannel: AUTO, ON, OFF")
+set_property(CACHE CORVANE_WITH_P2P PROPERTY STRINGS AUTO ON OFF)
+if(CORVANE_WITH_P2P STREQUAL "AUTO")
+    find_package(LibDataChannel 0.20 QUIET)
+elseif(CORVANE_WITH_P2P)
+    find_package(LibDataChannel 0.20 REQUIRED)
+endif()
+if(TARGET LibDataChannel::LibDataChannel)
+    message(STATUS "Peer-to-peer transport: with libdatachannel ${LibDataChannel_VERSION}")
+else()
+    message(STATUS "Peer-to-peer transport: left out, sessions use the relay "
+        "(libdatachannel not found, or CORVANE_WITH_P2P=OFF)")
+endif()
+
 if(CORVANE_PLATFORM STREQUAL "linux")
     pkg_check_modules(XCB REQUIRED IMPORTED_TARGET
         xcb xcb-shm xcb-xfixes xcb-damage xcb-randr xcb-xtest)

@@ -20,6 +20,7 @@ set(licences
     "^lib(crypto|ssl)-|OpenSSL|libssl3"
     "^libaom|AOM|libaom3"
     "^libdav1d|dav1d|libdav1d6"
+    "^libdatachannel|libdatachannel|libdatachannel-dev"
     "^lib(stdc|gcc)|GCC runtime|gcc-mingw-w64-x86-64-posix-runtime"
     "^libwinpthread|MinGW-w64|mingw-w64-x86-64-dev"
 )

@@ -2,8 +2,9 @@
 # Shows a live session: a server, a shared machine and a viewer, all on this machine.
 #
 # The viewer appears on your display, or on a virtual one where there is none (or with --headless).
-# --watch keeps the session open at the end. With --windows the shared machine is a Windows one: the
-# packaged program under Wine. Exits 0 only if everything that it shows held.
+# --relay keeps the two from connecting directly, --watch keeps the session open at the end. With
+# --windows the shared machine is a Windows one: the packaged program under Wine. Exits 0 only if
+# everything that it shows held.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -12,14 +13,14 @@ windows=no
 display=${DISPLAY:-}
 for argument in "$@"; do
     case $argument in
-    --watch) arguments+=(--watch) ;;
+    --relay | --watch) arguments+=("$argument") ;;
     --headless) display= ;;
     --windows)
         arguments+=(--windows-target)
         windows=yes
         ;;
     *)
-        echo "usage: scripts/demo.sh [--watch] [--headless] [--windows]" >&2
+        echo "usage: scripts/demo.sh [--relay] [--watch] [--headless] [--windows]" >&2
         exit 2
         ;;
     esac

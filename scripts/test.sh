@@ -30,3 +30,13 @@ if [ $windows = yes ]; then
 elif [ "$preset" = dev ]; then
     echo "skipped: no Windows prefix"
 fi
+
+# Where the peer-to-peer transport is built in, the variant without it has to build as well.
+if [ "$preset" = dev ] && grep -q '^LibDataChannel_DIR:PATH=/' build/dev/CMakeCache.txt; then
+    cmake --preset relay-only
+    cmake --build --preset relay-only --target CorvaneClient test_transport test_p2p_transport
+    ctest --preset relay-only --parallel "$(nproc)" \
+        --tests-regex '^(RelayTransport|TransportManager|P2PTransport)Test'
+elif [ "$preset" = dev ]; then
+    echo "skipped: no libdatachannel, so only the variant without peer-to-peer was tested"
+fi

@@ -30,10 +30,22 @@ settings='Windows Registry Editor Version 5.00
 "Tahoma"="DejaVu Sans"
 '
 
+# Wine's own services may outlive their server: each waits for the end of a pipe that another holds.
+kill_leftovers() {
+    local environment process
+    for environment in $(grep -lzxF "WINEPREFIX=$1" /proc/[0-9]*/environ 2>/dev/null); do
+        process=${environment%/environ}
+        case $(readlink "$process/exe") in
+        */wine*) kill -KILL "${process#/proc/}" 2>/dev/null || true ;;
+        esac
+    done
+}
+
 stop_server() {
     local name
     WINEPREFIX=$1 wineserver --kill || true
     WINEPREFIX=$1 wineserver --wait || true
+    kill_leftovers "$1"
     # Debian's Wine notes the name of the folder of the server's socket here, and leaves both.
     name=$(cat "$1/wineserver" 2>/dev/null || true)
     case $name in

@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Odpojit</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Oblíbené</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>ID partnera</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Pokračovat?</translation>
         <translation>Kopírovat párovací kód</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Přidejte toto zařízení na </translation>
+        <source>Add this device at %1</source>
+        <translation>Přidejte toto zařízení na %1</translation>
     </message>
 </context>
 <context>

@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Trennen</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>Partner-ID</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Fortfahren?</translation>
         <translation>Kopplungscode kopieren</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Dieses Gerät hinzufügen unter </translation>
+        <source>Add this device at %1</source>
+        <translation>Dieses Gerät hinzufügen unter %1</translation>
     </message>
 </context>
 <context>

@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Desconectar</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>ID remoto</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Continue?</source>
         <translation>Copiar código de emparejamiento</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Añada este equipo en </translation>
+        <source>Add this device at %1</source>
+        <translation>Añada este equipo en %1</translation>
     </message>
 </context>
 <context>

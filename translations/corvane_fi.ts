@@ -212,7 +212,7 @@
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation>Kumppanin tunnus  (XXX XXX XXX)</translation>
+        <translation>Tunnus  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
@@ -229,6 +229,14 @@
     <message>
         <source>Disconnect</source>
         <translation>Katkaise</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Suosikit</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>Kumppanin tunnus</translation>
     </message>
 </context>
 <context>
@@ -544,8 +552,8 @@ Jatketaanko?</translation>
         <translation>Kopioi pariliitoskoodi</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Lisää tämä laite osoitteessa </translation>
+        <source>Add this device at %1</source>
+        <translation>Lisää tämä laite osoitteessa %1</translation>
     </message>
 </context>
 <context>

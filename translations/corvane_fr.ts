@@ -212,7 +212,7 @@
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation>ID du partenaire  (XXX XXX XXX)</translation>
+        <translation>ID partenaire  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
@@ -229,6 +229,14 @@
     <message>
         <source>Disconnect</source>
         <translation>Déconnecter</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>ID du partenaire</translation>
     </message>
 </context>
 <context>
@@ -544,8 +552,8 @@ Continuer&#xa0;?</translation>
         <translation>Copier le code d&apos;appairage</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Ajoutez cet appareil sur </translation>
+        <source>Add this device at %1</source>
+        <translation>Ajoutez cet appareil sur %1</translation>
     </message>
 </context>
 <context>

@@ -212,7 +212,7 @@
     </message>
     <message>
         <source>Partner ID  (XXX XXX XXX)</source>
-        <translation>Partnerazonosító  (XXX XXX XXX)</translation>
+        <translation>Azonosító  (XXX XXX XXX)</translation>
     </message>
     <message>
         <source>Add to favorites</source>
@@ -229,6 +229,14 @@
     <message>
         <source>Disconnect</source>
         <translation>Bontás</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Kedvencek</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>Partnerazonosító</translation>
     </message>
 </context>
 <context>
@@ -544,8 +552,8 @@ Folytatja?</translation>
         <translation>Párosító kód másolása</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Az eszköz hozzáadása itt: </translation>
+        <source>Add this device at %1</source>
+        <translation>Az eszköz hozzáadása itt: %1</translation>
     </message>
 </context>
 <context>

@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Disconnetti</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Preferiti</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>ID remoto</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Continuare?</translation>
         <translation>Copia codice di associazione</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Aggiungi questo dispositivo su </translation>
+        <source>Add this device at %1</source>
+        <translation>Aggiungi questo dispositivo su %1</translation>
     </message>
 </context>
 <context>

@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Koble fra</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoritter</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>Partner-ID</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Vil du fortsette?</translation>
         <translation>Kopier paringskode</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Legg til denne enheten på </translation>
+        <source>Add this device at %1</source>
+        <translation>Legg til denne enheten på %1</translation>
     </message>
 </context>
 <context>

@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Rozłącz</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Ulubione</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>ID partnera</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Kontynuować?</translation>
         <translation>Kopiuj kod parowania</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Dodaj to urządzenie na stronie </translation>
+        <source>Add this device at %1</source>
+        <translation>Dodaj to urządzenie na stronie %1</translation>
     </message>
 </context>
 <context>

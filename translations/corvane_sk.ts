@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Odpojiť</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Obľúbené</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>ID partnera</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Pokračovať?</translation>
         <translation>Kopírovať párovací kód</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Pridajte toto zariadenie na </translation>
+        <source>Add this device at %1</source>
+        <translation>Pridajte toto zariadenie na %1</translation>
     </message>
 </context>
 <context>

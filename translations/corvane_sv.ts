@@ -230,6 +230,14 @@
         <source>Disconnect</source>
         <translation>Koppla från</translation>
     </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoriter</translation>
+    </message>
+    <message>
+        <source>Partner ID</source>
+        <translation>Partner-ID</translation>
+    </message>
 </context>
 <context>
     <name>corvane::ConnectionDialog</name>
@@ -544,8 +552,8 @@ Vill du fortsätta?</translation>
         <translation>Kopiera parkopplingskod</translation>
     </message>
     <message>
-        <source>Add this device at </source>
-        <translation>Lägg till den här enheten på </translation>
+        <source>Add this device at %1</source>
+        <translation>Lägg till den här enheten på %1</translation>
     </message>
 </context>
 <context>

@@ -45,7 +45,12 @@ QGroupBox::title {
     subcontrol-origin: margin; subcontrol-position: top left;
     left: 10px; padding: 0 4px; color: $secondary;
 }
-QMessageBox { background-color: $raised; }
+QMessageBox {
+    background-color: $raised;
+    messagebox-warning-icon: url(:/icons/warning);
+    messagebox-information-icon: url(:/icons/information);
+    messagebox-question-icon: url(:/icons/question);
+}
 QMessageBox QLabel { color: $text; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QToolTip {
@@ -62,7 +67,7 @@ QSplitter::handle:vertical { height: 3px; }
 constexpr const char* kButtons = R"(
 QPushButton {
     background-color: $button; color: $text;
-    border: 1px solid $border; border-radius: 5px; padding: 6px 14px;
+    border: 1px solid $border; border-radius: 5px; padding: 6px 14px; outline: none;
 }
 QPushButton:hover { background-color: $border; }
 QPushButton:focus { border-color: $accent; }
@@ -111,6 +116,9 @@ QMenu { background-color: $raised; border: 1px solid $border; padding: 4px; }
 QMenu::item { background-color: transparent; padding: 5px 22px; border-radius: 3px; }
 QMenu::item:selected { background-color: $accent; color: $field; }
 QMenu::item:disabled { color: $disabled; }
+QMenu::indicator { width: 14px; height: 14px; left: 6px; }
+QMenu::indicator:checked { image: url(:/icons/menu_check); }
+QMenu::indicator:checked:selected { image: url(:/icons/check); }
 QMenu::separator { background-color: $border; height: 1px; margin: 4px 6px; }
 )";
 
@@ -151,7 +159,7 @@ QSpinBox::up-arrow, QDoubleSpinBox::up-arrow {
 QSpinBox::down-arrow, QDoubleSpinBox::down-arrow {
     image: url(:/icons/arrow_down); width: 9px; height: 9px;
 }
-QCheckBox, QRadioButton { spacing: 7px; }
+QCheckBox, QRadioButton { spacing: 7px; outline: none; }
 QCheckBox::indicator, QRadioButton::indicator {
     width: 16px; height: 16px; background-color: $field; border: 1px solid $border;
 }
@@ -162,6 +170,7 @@ QCheckBox::indicator:focus, QRadioButton::indicator:focus { border-color: $accen
 QCheckBox::indicator:checked {
     background-color: $accent; border-color: $accent; image: url(:/icons/check);
 }
+QCheckBox::indicator:checked:focus { border-color: $text; }
 QRadioButton::indicator:checked {
     width: 8px; height: 8px; background-color: $field; border: 5px solid $accent;
 }
@@ -187,6 +196,8 @@ QTabBar::tab {
 }
 QTabBar::tab:hover { background-color: $button; color: $text; }
 QTabBar::tab:selected { background-color: $raised; color: $text; border-top: 2px solid $accent; }
+QTabBar { outline: none; }
+QTabBar::tab:selected:focus { color: $accent; }
 QTabBar::tab:disabled { color: $disabled; }
 QTreeView, QListView {
     background-color: $field; alternate-background-color: $muted; color: $text;

@@ -270,7 +270,8 @@ void FileTransferService::onUploadEnd(ByteSpan) {
         spdlog::warn("FileTransfer: upload truncated ({} < {})", upload->receivedSize(),
                      upload->announcedSize());
     }
-    if (!upload->commit()) {
+    // A peer that looks at the volumes names no folder, and means none of this program's.
+    if (QDir::isRelativePath(upload->destination()) || !upload->commit()) {
         sendError(QStringLiteral("Cannot write file: ") + upload->destination());
         return;
     }

@@ -18,6 +18,7 @@ std::shared_ptr<DecodedFrame> ViewerStream::decode(uint64_t counter, ByteSpan pa
     if (!m_decoder->isInitialized() && !m_decoder->initialize(0, 0)) {
         return nullptr;
     }
+    m_meter.count(packet.size());
     // What came after an overtaken packet was decoded without it: too late to make up for that.
     std::shared_ptr<DecodedFrame> frame;
     if (counter >= m_nextCounter) {

@@ -3,6 +3,7 @@
 #include "ByteVector.h"
 #include "DecodedFrame.h"
 #include "PictureRecovery.h"
+#include "StreamMeter.h"
 
 #include <QObject>
 
@@ -36,6 +37,7 @@ Q_SIGNALS:
 private:
     std::unique_ptr<IVideoDecoder> m_decoder;
     PictureRecovery m_recovery;
+    StreamMeter m_meter;
     uint64_t m_nextCounter = 0; ///< the packets before it have had their turn
 };
 

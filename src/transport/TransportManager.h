@@ -29,9 +29,8 @@ class TransportManager : public QObject {
 public:
     static constexpr std::chrono::milliseconds kPeerTimeout{5000};
 
-    explicit TransportManager(QObject* parent = nullptr,
-                              PeerTransportFactory peerFactory = createPeerTransport,
-                              std::chrono::milliseconds peerTimeout = kPeerTimeout);
+    TransportManager(QObject* parent, PeerTransportFactory peerFactory,
+                     std::chrono::milliseconds peerTimeout = kPeerTimeout);
     ~TransportManager() override;
 
     /// Gives up whatever was there and starts over. The result arrives as `connectionEstablished`

@@ -35,7 +35,8 @@ ConnectCard::ConnectCard(SettingsController* settings, QWidget* parent)
 
     m_favorites = new QListWidget(this);
     m_favorites->setObjectName(QStringLiteral("favoritesList"));
-    m_favorites->setMaximumHeight(kFavoritesHeight);
+    m_favorites->setAccessibleName(tr("Favorites"));
+    m_favorites->setFixedHeight(kFavoritesHeight);
     m_favorites->setStyleSheet(QStringLiteral("QListWidget { background-color: %1; }")
                                    .arg(QLatin1String(colors::kListBackground)));
     connect(m_favorites, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
@@ -48,6 +49,7 @@ ConnectCard::ConnectCard(SettingsController* settings, QWidget* parent)
     m_password->setObjectName(QStringLiteral("partnerPasswordEdit"));
     m_password->setPlaceholderText(tr("Password"));
     m_password->setEchoMode(QLineEdit::Password);
+    m_password->setAccessibleName(m_password->placeholderText());
     connect(m_password, &QLineEdit::returnPressed, this, [this] {
         if (m_connect->isEnabled()) {
             Q_EMIT connectRequested();
@@ -71,6 +73,8 @@ QLayout* ConnectCard::createPartnerRow() {
     m_partner->setInsertPolicy(QComboBox::NoInsert);
     m_partner->lineEdit()->setObjectName(QStringLiteral("partnerEdit"));
     m_partner->lineEdit()->setPlaceholderText(tr("Partner ID  (XXX XXX XXX)"));
+    m_partner->setAccessibleName(tr("Partner ID"));
+    m_partner->lineEdit()->setAccessibleName(tr("Partner ID"));
     connect(m_partner, &QComboBox::editTextChanged, this, &ConnectCard::updateStar);
     m_star = createIconButton(QStringLiteral("favoriteButton"), QStringLiteral("star_border"),
                               tr("Add to favorites"), kStarSide, this);

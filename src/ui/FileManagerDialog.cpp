@@ -57,9 +57,10 @@ FileManagerDialog::FileManagerDialog(FileTransferService* service, QWidget* pare
 QWidget* FileManagerDialog::createTransferButtons() {
     constexpr int kPaneWidth = 100;
     auto* const pane = new QWidget(this);
-    pane->setMinimumWidth(kPaneWidth);
+    constexpr int kMargin = 2;
     auto* const layout = new QVBoxLayout(pane);
-    layout->setContentsMargins(2, 0, 2, 0);
+    layout->setContentsMargins(kMargin, 0, kMargin, 0);
+    layout->addStrut(kPaneWidth - 2 * kMargin); // longer words make it wider
     layout->addStretch();
     const auto addButton = [&](const QString& icon, const QString& text, const QString& toolTip) {
         auto* const button = new QPushButton(QIcon(QStringLiteral(":/icons/") + icon), text, pane);

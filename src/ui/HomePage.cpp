@@ -8,6 +8,7 @@
 #include "UpdateBanner.h"
 
 #include <QClipboard>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -89,13 +90,22 @@ QLabel* HomePage::createAdminLink() {
     const QUrl url(QString::fromLatin1(deployment::kAdminUrl));
     const QString link = QStringLiteral("<a href=\"%1\" style=\"color: %2;\">%3</a>")
                              .arg(url.toString(), QLatin1String(colors::kAccent), url.host());
-    auto* const label = new QLabel(tr("Add this device at ") + link, this);
+    auto* const label = new QLabel(tr("Add this device at %1").arg(link), this);
     label->setObjectName(QStringLiteral("adminLink"));
     label->setTextFormat(Qt::RichText);
+    label->setWordWrap(true);
     label->setStyleSheet(
         QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kCaption)));
     connect(label, &QLabel::linkActivated, this, &HomePage::adminPanelRequested);
     return label;
+}
+
+bool HomePage::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest) {
+        Q_EMIT minimumHeightChanged(minimumSizeHint().height());
+    }
+    return handled;
 }
 
 void HomePage::setPairingCode(const QString& code) {

@@ -27,6 +27,11 @@ public:
 Q_SIGNALS:
     void adminPanelRequested();
     void settingsRequested();
+    /// What the page shows now needs at least this height, in pixels.
+    void minimumHeightChanged(int height);
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     QLayout* createHeader();

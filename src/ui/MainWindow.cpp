@@ -88,6 +88,8 @@ void MainWindow::createPages() {
     m_pages = new QStackedWidget(this);
     m_home = new HomePage(m_settings, m_pages);
     m_viewer = new ViewerPage(m_pages);
+    // Its tool bar is wider than the home page may be.
+    m_viewer->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     m_pages->addWidget(m_home);
     m_pages->addWidget(m_viewer);
     setCentralWidget(m_pages);
@@ -110,6 +112,11 @@ void MainWindow::createTray() {
 void MainWindow::connectPages() {
     connect(m_home, &HomePage::adminPanelRequested, this,
             [] { QDesktopServices::openUrl(QUrl(QString::fromLatin1(deployment::kAdminUrl))); });
+    connect(m_home, &HomePage::minimumHeightChanged, this, [this](int height) {
+        if (m_pages->currentWidget() == m_home) {
+            resize(size().expandedTo({0, height}));
+        }
+    });
     connect(m_home, &HomePage::settingsRequested, this, &MainWindow::onSettingsClicked);
     connect(m_home->updateBanner(), &UpdateBanner::downloadRequested, this,
             &MainWindow::updateRequested);

@@ -81,6 +81,9 @@ void RemoteFilePane::createTree() {
     m_tree->setHeaderLabels({tr("Name"), tr("Size"), tr("Type")});
     m_tree->setColumnWidth(kNameColumn, 250);
     m_tree->setColumnWidth(kSizeColumn, 80);
+    // A last column that kept its default width would make the pane scroll sideways.
+    m_tree->header()->setMinimumSectionSize(40);
+    m_tree->header()->setSectionResizeMode(kTypeColumn, QHeaderView::Stretch);
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);
     m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);

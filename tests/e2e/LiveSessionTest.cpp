@@ -1,4 +1,5 @@
 #include "LiveSession.h"
+#include "IPeerTransport.h"
 
 #include <gtest/gtest.h>
 
@@ -41,6 +42,7 @@ protected:
 
 TEST_F(LiveSessionTest, OnePersonSeesAndDrivesAnothersDesktop) {
     ASSERT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
+    EXPECT_EQ(m_live.transport(), createPeerTransport() ? u"p2p"_qs : u"relay"_qs);
     EXPECT_GE(m_live.pictureFidelity(), 28.0);
     // Capitals, digits and a sign that takes Shift: the keyboard arrives key by key.
     EXPECT_TRUE(m_live.typeRemotely(QStringLiteral("Hello-World_42!")))
@@ -80,8 +82,10 @@ TEST_F(LiveSessionTest, AWrongPasswordIsToldAndTheNextTryConnects) {
     EXPECT_TRUE(m_live.waitUntilConnected()) << m_live.error().toStdString();
 }
 
-TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerHome) {
+TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) {
+    m_live.server().misbehaviour().setWithholdIce(true);
     ASSERT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
+    EXPECT_EQ(m_live.transport(), u"relay"_qs);
     m_live.target().crash();
     EXPECT_TRUE(isShown(kHomeTitle));
     EXPECT_TRUE(endsWith(m_live.viewer(), "Closing -> Idle"));

@@ -163,6 +163,8 @@ TEST_F(FileTransferServiceTest, WhatCannotBeDoneIsToldTheUser) {
          QStringLiteral("Cannot open local file: ") + missing},
         {[&] { m_service.uploadFile(existing, impossible); },
          QStringLiteral("Cannot write file: ") + impossible},
+        {[&] { m_service.uploadFile(existing, QStringLiteral("nowhere in particular")); },
+         QStringLiteral("Cannot write file: nowhere in particular")},
     };
     for (const auto& refused : cases) {
         m_errors.clear();
@@ -170,6 +172,7 @@ TEST_F(FileTransferServiceTest, WhatCannotBeDoneIsToldTheUser) {
         EXPECT_EQ(errors(), QStringList{refused.error});
     }
     EXPECT_FALSE(QFile::exists(path(QStringLiteral("x"))));
+    EXPECT_FALSE(QFile::remove(QStringLiteral("nowhere in particular")));
 }
 
 TEST_F(FileTransferServiceTest, AnUploadThatIsInterruptedEndsWithAnError) {

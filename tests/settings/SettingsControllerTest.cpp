@@ -1,9 +1,13 @@
 #include "SettingsController.h"
 #include "ScratchSettings.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <gtest/gtest.h>
 
+#include <list>
 #include <memory>
 
 namespace corvane {
@@ -14,9 +18,13 @@ class SettingsControllerTest : public testing::Test {
 protected:
     SettingsControllerTest() {
         m_settings = std::make_unique<SettingsController>();
-        m_raw =
-            std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
-                                        QStringLiteral("Corvane"), QStringLiteral("CorvaneClient"));
+        m_raw = openRaw();
+    }
+
+    static std::unique_ptr<QSettings> openRaw() {
+        return std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
+                                           QStringLiteral("Corvane"),
+                                           QStringLiteral("CorvaneClient"));
     }
 
     const test::ScratchSettings m_place;
@@ -75,6 +83,25 @@ TEST_F(SettingsControllerTest, EverySetterWritesItsKeyAndItsGetterReadsIt) {
     m_settings->setWakeOnLanAddress(QStringLiteral("123456789"), QStringLiteral("00:11"));
     EXPECT_EQ(m_raw->value(QStringLiteral("wol/123456789")), QStringLiteral("00:11"));
     EXPECT_EQ(m_settings->wakeOnLanAddress(QStringLiteral("123 456 789")), QStringLiteral("00:11"));
+}
+
+TEST_F(SettingsControllerTest, TheLanguageOutlivesTheProgram) {
+    std::list<test::ScratchSettings> places;
+    for (const QString& language : {QStringLiteral("de"), QStringLiteral("hu")}) {
+        m_settings->setLanguage(language);
+        const QString written = m_raw->fileName();
+        m_settings.reset();
+        if (!QFile::exists(written)) {
+            GTEST_SKIP() << "no settings file on this system";
+        }
+        // This process would not read a file again that it wrote itself, but a copy.
+        places.emplace_back();
+        m_raw = openRaw();
+        QDir().mkpath(QFileInfo(m_raw->fileName()).path());
+        ASSERT_TRUE(QFile::copy(written, m_raw->fileName()));
+        m_settings = std::make_unique<SettingsController>();
+        EXPECT_EQ(m_settings->language(), language);
+    }
 }
 
 TEST_F(SettingsControllerTest, CredentialsNeedBothHalves) {

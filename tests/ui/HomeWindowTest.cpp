@@ -51,6 +51,19 @@ TEST_F(HomeWindowTest, KeepsFavoritesAtHand) {
     EXPECT_EQ(list->count(), 1);
 }
 
+TEST_F(HomeWindowTest, HasRoomForAllThatItShows) {
+    start();
+    EXPECT_LE(m_window.centralWidget()->minimumSizeHint().width(), 420);
+    typePartner(u"123456789"_s);
+    click("favoriteButton");
+    m_window.showUpdateBanner(u"99.0"_s, {}, {});
+    const auto needed = [&] {
+        return m_window.centralWidget()->minimumSizeHint().height();
+    };
+    EXPECT_GT(needed(), 600);
+    EXPECT_TRUE(eventually([&] { return m_window.height() >= needed(); }));
+}
+
 TEST_F(HomeWindowTest, WakesAPartnerWhoseAddressItAsksForOnce) {
     start();
     typePartner(u"123 456 789"_s);

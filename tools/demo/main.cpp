@@ -1,11 +1,13 @@
-#include "DemoReport.h"
-#include "LiveSession.h"
+#include "FileExchange.h"
 #include "PictureComparison.h"
+#include "Services.h"
+#include "Stage.h"
+#include "WindowTour.h"
 #include "WineHost.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
 #include <QSocketNotifier>
 
 #include <algorithm>
@@ -37,6 +39,22 @@ void endOnInterrupt(harness::LiveSession& session) {
         session.end();
         std::_Exit(EXIT_FAILURE);
     });
+}
+
+void reportTransport(harness::LiveSession& session, bool relayWanted, demo::DemoReport& report) {
+    const QString transport = session.transport();
+    if (relayWanted) {
+        report.check(QStringLiteral("transport"), transport == u"relay", transport);
+    } else {
+        report.fact(QStringLiteral("transport"), transport);
+    }
+}
+
+void describeSession(harness::LiveSession& session, demo::DemoReport& report) {
+    report.fact(QStringLiteral("viewer's states"),
+                harness::LiveSession::stateChanges(session.viewer()));
+    report.fact(QStringLiteral("target's states"),
+                harness::LiveSession::stateChanges(session.target()));
 }
 
 void checkTyping(harness::LiveSession& session, demo::DemoReport& report) {
@@ -84,14 +102,15 @@ void checkRoundTrip(harness::LiveSession& session, demo::DemoReport& report) {
                            .arg(milliseconds.back()));
 }
 
-void saveScreenshots(harness::LiveSession& session, const QString& folder,
-                     demo::DemoReport& report) {
+void saveScreenshots(const demo::Stage& stage, const QString& folder) {
     QDir().mkpath(folder);
-    for (const auto& [name, screen] : {std::pair{"viewer.png", session.viewerScreen()},
-                                       std::pair{"target.png", session.targetScreen()}}) {
-        const QString path = QDir(folder).absoluteFilePath(QLatin1String(name));
-        report.check(QStringLiteral("screenshot"), screen.save(path), path);
-    }
+    const auto save = [&](const QString& name, const QString& file, const QImage& picture) {
+        const QString path = QDir(folder).absoluteFilePath(file);
+        stage.report.check(name, picture.save(path), path);
+    };
+    save(QStringLiteral("screenshot"), QStringLiteral("viewer.png"), stage.session.viewerScreen());
+    save(QStringLiteral("screenshot"), QStringLiteral("target.png"), stage.session.targetScreen());
+    save(QStringLiteral("contact sheet"), QStringLiteral("windows.png"), stage.sheet.draw());
 }
 
 void watch(harness::LiveSession& session) {
@@ -99,10 +118,44 @@ void watch(harness::LiveSession& session) {
     harness::waitFor([&] { return !session.viewer().isRunning(); }, std::chrono::hours(24));
 }
 
+/// All acts. False when the session did not come up.
+bool present(harness::LiveSession& session, bool onWindows, bool relayWanted, const QString& folder,
+             demo::DemoReport& report) {
+    session.server().setManifestVersion(QStringLiteral("9.0.0")); // for the update banner
+    if (!report.check(QStringLiteral("devices"), session.start(),
+                      session.error().isEmpty() ? QStringLiteral("online") : session.error())) {
+        return false;
+    }
+    demo::Stage stage{session, report};
+    demo::tourHome(stage);
+    const bool connected = session.connectToTarget();
+    if (!report.check(QStringLiteral("session"), connected,
+                      connected ? QStringLiteral("Connected") : session.error())) {
+        return false;
+    }
+    reportTransport(session, relayWanted, report);
+    describeSession(session, report);
+    checkTyping(session, report);
+    checkPicture(session, report);
+    checkStream(session, report);
+    checkRoundTrip(session, report);
+    session.setDesktopRunning(false);
+    demo::exchangeChat(stage);
+    demo::exchangeClipboard(stage);
+    demo::FileExchange(stage, onWindows ? QStringLiteral("Z:/") : QStringLiteral("/")).run();
+    demo::tourViewer(stage);
+    session.setDesktopRunning(true);
+    saveScreenshots(stage, folder);
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
+    // Needs fonts for the contact sheet, but no display of its own. What it starts does.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    qunsetenv("QT_QPA_PLATFORM");
 
     QCommandLineParser parser;
     parser.addHelpOption();
@@ -115,10 +168,13 @@ int main(int argc, char** argv) {
                                     QStringLiteral("folder"), QStringLiteral("."));
     const QCommandLineOption watching(QStringLiteral("watch"),
                                       QStringLiteral("Keep the session open at the end."));
+    const QCommandLineOption relay(
+        QStringLiteral("relay"),
+        QStringLiteral("Keep the two from meeting directly, so that the relay carries them."));
     const QCommandLineOption windowsTarget(
         QStringLiteral("windows-target"),
         QStringLiteral("Share a Windows machine: the packaged program under Wine."));
-    parser.addOptions({display, output, watching, windowsTarget});
+    parser.addOptions({display, output, relay, watching, windowsTarget});
     parser.process(application);
 
     const bool onWindows = parser.isSet(windowsTarget);
@@ -131,26 +187,11 @@ int main(int argc, char** argv) {
          .stillDesktop = false,
          .target = onWindows ? harness::Platform::Windows : harness::Platform::Linux,
          .viewer = harness::Platform::Linux});
+    live.server().misbehaviour().setWithholdIce(parser.isSet(relay));
     endOnInterrupt(live);
     demo::DemoReport report;
-    const bool connected = live.start() && live.connectToTarget();
-    if (!report.check(QStringLiteral("session"), connected,
-                      connected ? QStringLiteral("Connected") : live.error())) {
-        return EXIT_FAILURE;
-    }
-    const QString established =
-        live.viewer().logLines(QStringLiteral("Transport established via")).value(0);
-    report.fact(QStringLiteral("transport"), established.section(QLatin1Char(' '), -1));
-    report.fact(QStringLiteral("viewer's states"),
-                harness::LiveSession::stateChanges(live.viewer()));
-    report.fact(QStringLiteral("target's states"),
-                harness::LiveSession::stateChanges(live.target()));
-    checkTyping(live, report);
-    checkPicture(live, report);
-    checkStream(live, report);
-    checkRoundTrip(live, report);
-    saveScreenshots(live, parser.value(output), report);
-    if (parser.isSet(watching)) {
+    if (present(live, onWindows, parser.isSet(relay), parser.value(output), report) &&
+        parser.isSet(watching)) {
         watch(live);
     }
     return report.isGood() ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -48,7 +48,7 @@ DemoDesktop::DemoDesktop(QWidget* parent) : QWidget(parent) {
 
     auto* const layout = new QVBoxLayout(this);
     // Leaves the left free for the client's own window.
-    layout->setContentsMargins(460, 30, 40, 30);
+    layout->setContentsMargins(490, 30, 40, 30);
     layout->setSpacing(20);
     layout->addWidget(m_time, 0, Qt::AlignHCenter);
     layout->addWidget(m_field);

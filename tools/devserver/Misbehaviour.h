@@ -33,6 +33,10 @@ public:
     void setRejectAuth(bool reject) { m_rejectAuth = reject; }
     bool rejectsAuth() const { return m_rejectAuth; }
 
+    /// No description or candidate reaches the other peer, so that the two never meet directly.
+    void setWithholdIce(bool withhold) { m_withholdIce = withhold; }
+    bool withholdsIce() const { return m_withholdIce; }
+
     /// `state` text in the answers to a session's `operation`: "handshake-ack", "complete" or
     /// "close". An empty text restores the true one.
     void setStateText(const QString& operation, const QString& state);
@@ -50,6 +54,7 @@ private:
     QMap<QString, QString> m_stateTexts;
     QString m_sessionId;
     bool m_rejectAuth = false;
+    bool m_withholdIce = false;
 };
 
 } // namespace corvane::devserver

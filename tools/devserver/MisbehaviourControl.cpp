@@ -60,6 +60,15 @@ Effect readRejectAuth(const QJsonValue& value) {
     };
 }
 
+Effect readWithholdIce(const QJsonValue& value) {
+    if (!value.isBool()) {
+        return {};
+    }
+    return [withhold = value.toBool()](DevServer& server) {
+        server.misbehaviour().setWithholdIce(withhold);
+    };
+}
+
 Effect readStateText(const QJsonValue& value) {
     const QJsonObject texts = value.toObject();
     if (texts.isEmpty() || !hasOnlyKeys(texts, {u"handshake-ack"_s, u"complete"_s, u"close"_s})) {
@@ -141,12 +150,14 @@ struct Key {
     QString help;
 };
 
-const std::array<Key, 9>& keys() {
-    static const std::array<Key, 9> kKeys{{
+const std::array<Key, 10>& keys() {
+    static const std::array<Key, 10> kKeys{{
         {u"reply"_s, readReply,
          u"{\"path\": suffix, \"delay_ms\", \"status\", \"body\", \"drop\": true}"_s},
         {u"clear"_s, readClear, u"true: no scripted replies, texts or rejected AUTH any more"_s},
         {u"reject_auth"_s, readRejectAuth, u"true or false: answer AUTH with AUTH_FAIL"_s},
+        {u"withhold_ice"_s, readWithholdIce,
+         u"true or false: forward no description or candidate, so that the peers need the relay"_s},
         {u"state_text"_s, readStateText,
          u"{\"handshake-ack\" | \"complete\" | \"close\": state to report, \"\" for the true one}"_s},
         {u"session_id"_s, readSessionId, u"session ID to report there, \"\" for the true one"_s},

@@ -132,7 +132,7 @@ void SignalingHub::handle(const QString& clientId, Presence& presence, const QJs
         presence.password = message["password"_L1].toString();
     } else if (type == "SET_PAIRING_CODE"_L1) {
         presence.pairingCode = message["code"_L1].toString();
-    } else {
+    } else if (!m_misbehaviour.withholdsIce()) {
         forward(clientId, message);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "ClientProcess.h"
 #include "DevServer.h"
+#include "WaitFor.h"
 #include "XDisplay.h"
 #include "XvfbServer.h"
 
@@ -11,16 +12,12 @@
 #include <QString>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace corvane::harness {
 
-/// Waits, with the event loop running, until `condition` holds. False when it never did.
-bool waitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout);
-
-/// What the relay carried from the target to the viewer over a while.
+/// What arrived of the target's screen at the viewer over a while.
 struct StreamFigures {
     double framesPerSecond = 0.0;
     double kilobitsPerSecond = 0.0;
@@ -63,12 +60,13 @@ public:
     /// From a key press on the viewer's display to the letter in the viewer's picture.
     std::optional<std::chrono::milliseconds> inputRoundTrip();
 
+    /// Takes a few seconds at least: the viewer counts by the second.
     StreamFigures measureStream(std::chrono::milliseconds duration);
 
     /// Starts or stops what moves on the target's desktop.
     void setDesktopRunning(bool running);
 
-    /// How close the viewer's picture comes to the target's screen within a few seconds, in dB.
+    /// How close the viewer's picture comes to the target's screen in time, in dB.
     /// Means something while the desktop stands still.
     double pictureFidelity();
 
@@ -78,11 +76,15 @@ public:
     QImage targetScreen() const { return m_targetDisplay->grab(); }
     QImage viewerScreen() const { return m_viewerDisplay->grab(); }
 
+    /// "p2p" or "relay", whichever carries the viewer's session.
+    QString transport() const;
+
     /// "Idle -> Initiating -> …" as logged by a client.
     static QString stateChanges(const ClientProcess& client);
 
     ClientProcess& target() { return *m_target; }
     ClientProcess& viewer() { return *m_viewer; }
+    XDisplay& targetDisplay() { return *m_targetDisplay; }
     XDisplay& viewerDisplay() { return *m_viewerDisplay; }
     devserver::DevServer& server() { return m_server; }
     QString targetPassword() const { return m_targetPassword; }

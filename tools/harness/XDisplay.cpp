@@ -1,18 +1,12 @@
 #include "XDisplay.h"
 
-#include <xcb/xtest.h>
+#include "XReply.h"
 
-#include <cstdlib>
+#include <xcb/xtest.h>
 
 namespace corvane::harness {
 
 namespace {
-
-struct FreeReply {
-    void operator()(void* reply) const { std::free(reply); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, FreeReply>;
 
 constexpr uint8_t kLeftButton = 1;
 
@@ -30,7 +24,7 @@ xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
 } // namespace
 
 XDisplay::XDisplay(const QString& name)
-    : m_connection(xcb_connect(name.toLatin1().constData(), &m_screenNumber)) {
+    : m_name(name), m_connection(xcb_connect(name.toLatin1().constData(), &m_screenNumber)) {
     if (isConnected()) {
         m_screen = screenOf(m_connection.get(), m_screenNumber);
     }
@@ -50,7 +44,7 @@ QImage XDisplay::grab(const QRect& area) const {
     if (!isConnected() || visible.isEmpty()) {
         return {};
     }
-    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
+    const XReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
         m_connection.get(),
         xcb_get_image(m_connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root,
                       static_cast<int16_t>(visible.x()), static_cast<int16_t>(visible.y()),
@@ -68,7 +62,7 @@ QImage XDisplay::grab(const QRect& area) const {
 
 QString XDisplay::title(xcb_window_t window) const {
     constexpr uint32_t kLongestTitle = 256; // four-byte units
-    const Reply<xcb_get_property_reply_t> reply(
+    const XReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(m_connection.get(),
                                xcb_get_property(m_connection.get(), 0, window, XCB_ATOM_WM_NAME,
                                                 XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestTitle),
@@ -83,28 +77,10 @@ std::optional<QRect> XDisplay::findWindow(const QString& title) const {
 }
 
 std::optional<QRect> XDisplay::findWindow(xcb_window_t parent, const QString& wanted) const {
-    xcb_connection_t* const connection = m_connection.get();
-    const Reply<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(connection, xcb_query_tree(connection, parent), nullptr));
-    if (!tree) {
-        return std::nullopt;
-    }
-    const xcb_window_t* const children = xcb_query_tree_children(tree.get());
-    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
-        const xcb_window_t window = children[i];
-        const Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-            connection, xcb_get_window_attributes(connection, window), nullptr));
-        if (!attributes || attributes->map_state != XCB_MAP_STATE_VIEWABLE) {
-            continue;
-        }
+    for (const xcb_window_t window : visibleChildren(parent)) {
         if (title(window).startsWith(wanted)) {
-            const Reply<xcb_get_geometry_reply_t> geometry(
-                xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
-            const Reply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
-                connection, xcb_translate_coordinates(connection, window, m_screen->root, 0, 0),
-                nullptr));
-            if (geometry && origin) {
-                return QRect(origin->dst_x, origin->dst_y, geometry->width, geometry->height);
+            if (const auto found = rectangle(window)) {
+                return found;
             }
         }
         if (const auto found = findWindow(window, wanted)) {
@@ -112,6 +88,69 @@ std::optional<QRect> XDisplay::findWindow(xcb_window_t parent, const QString& wa
         }
     }
     return std::nullopt;
+}
+
+std::vector<xcb_window_t> XDisplay::visibleChildren(xcb_window_t parent) const {
+    xcb_connection_t* const connection = m_connection.get();
+    const XReply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(connection, xcb_query_tree(connection, parent), nullptr));
+    std::vector<xcb_window_t> visible;
+    for (int i = 0; tree && i < xcb_query_tree_children_length(tree.get()); ++i) {
+        const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
+        const XReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+            connection, xcb_get_window_attributes(connection, window), nullptr));
+        if (attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE) {
+            visible.push_back(window);
+        }
+    }
+    return visible;
+}
+
+std::optional<QRect> XDisplay::rectangle(xcb_window_t window) const {
+    xcb_connection_t* const connection = m_connection.get();
+    const XReply<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+    const XReply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
+        connection, xcb_translate_coordinates(connection, window, m_screen->root, 0, 0), nullptr));
+    return geometry && origin ? std::optional(QRect(origin->dst_x, origin->dst_y, geometry->width,
+                                                    geometry->height))
+                              : std::nullopt;
+}
+
+std::optional<QRect> XDisplay::findPopup(const QRect& area) const {
+    if (!isConnected()) {
+        return std::nullopt;
+    }
+    const std::vector<xcb_window_t> windows = visibleChildren(m_screen->root);
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) { // topmost first
+        const XReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+            m_connection.get(), xcb_get_window_attributes(m_connection.get(), *window), nullptr));
+        const auto found = rectangle(*window);
+        if (attributes && attributes->override_redirect != 0 && found && found->intersects(area)) {
+            return found;
+        }
+    }
+    return std::nullopt;
+}
+
+QString XDisplay::keyboardWindow() const {
+    if (!isConnected()) {
+        return {};
+    }
+    xcb_connection_t* const connection = m_connection.get();
+    const XReply<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    xcb_window_t window = focus ? focus->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+    // An inner window may have it, the title is the outer one's.
+    while (window > XCB_INPUT_FOCUS_POINTER_ROOT && window != m_screen->root) {
+        if (const QString found = title(window); !found.isEmpty()) {
+            return found;
+        }
+        const XReply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+        window = tree ? tree->parent : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+    }
+    return {};
 }
 
 void XDisplay::movePointer(QPoint position) {
@@ -157,7 +196,7 @@ XDisplay::Key XDisplay::findKey(xcb_keysym_t keysym) const {
     }
     const xcb_setup_t* const setup = xcb_get_setup(m_connection.get());
     const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-    const Reply<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
+    const XReply<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
         m_connection.get(), xcb_get_keyboard_mapping(m_connection.get(), setup->min_keycode, count),
         nullptr));
     if (!mapping) {

@@ -20,6 +20,9 @@ class XDisplay {
 public:
     explicit XDisplay(const QString& name);
 
+    /// As given, e.g. ":3".
+    const QString& name() const { return m_name; }
+
     bool isConnected() const;
     QSize size() const;
 
@@ -29,6 +32,13 @@ public:
 
     /// Where the first visible window whose title starts with `title` lies.
     std::optional<QRect> findWindow(const QString& title) const;
+
+    /// Where the topmost menu or the like that touches `area` lies: what windows show in front of
+    /// all others by themselves, without the window manager.
+    std::optional<QRect> findPopup(const QRect& area) const;
+
+    /// The title of the window that has the keyboard; empty where none has it.
+    QString keyboardWindow() const;
 
     void movePointer(QPoint position);
     void click(QPoint position);
@@ -52,14 +62,21 @@ private:
     void fake(uint8_t type, uint8_t detail, QPoint position = {}, uint32_t delayMs = 0);
     QString title(xcb_window_t window) const;
     std::optional<QRect> findWindow(xcb_window_t parent, const QString& title) const;
+    std::vector<xcb_window_t> visibleChildren(xcb_window_t parent) const;
+    std::optional<QRect> rectangle(xcb_window_t window) const;
 
+    const QString m_name;
     int m_screenNumber = 0;
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     xcb_screen_t* m_screen = nullptr;
 };
 
+inline constexpr xcb_keysym_t kKeyBackspace = 0xff08;
 inline constexpr xcb_keysym_t kKeyTab = 0xff09;
 inline constexpr xcb_keysym_t kKeyReturn = 0xff0d;
+inline constexpr xcb_keysym_t kKeyEscape = 0xff1b;
+inline constexpr xcb_keysym_t kKeyHome = 0xff50;
+inline constexpr xcb_keysym_t kKeyRight = 0xff53;
 inline constexpr xcb_keysym_t kKeyShift = 0xffe1;
 inline constexpr xcb_keysym_t kKeyControl = 0xffe3;
 

@@ -7,6 +7,8 @@ namespace corvane {
 namespace {
 
 const auto kLanguage = QStringLiteral("general/language");
+/// What becomes of it in a settings file, which spells this one group its own way.
+const auto kLanguageReadBack = QStringLiteral("General/language");
 const auto kClientId = QStringLiteral("auth/clientId");
 const auto kDeviceSecret = QStringLiteral("auth/deviceSecret");
 const auto kSessionPassword = QStringLiteral("auth/sessionPassword");
@@ -39,10 +41,11 @@ SettingsController::SettingsController(QObject* parent)
                                   QStringLiteral("Corvane"), QStringLiteral("CorvaneClient")) {}
 
 QString SettingsController::language() const {
-    return m_settings.value(kLanguage).toString();
+    return m_settings.value(kLanguage, m_settings.value(kLanguageReadBack)).toString();
 }
 
 void SettingsController::setLanguage(const QString& language) {
+    m_settings.remove(kLanguageReadBack);
     m_settings.setValue(kLanguage, language);
 }
 

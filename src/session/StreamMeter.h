@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace corvane {
+
+/// Logs at debug level, once a second while frames arrive, how many there were.
+class StreamMeter {
+public:
+    void count(size_t bytes);
+
+private:
+    int64_t m_startedAtMs = 0;
+    int m_frames = 0;
+    size_t m_bytes = 0;
+};
+
+} // namespace corvane

@@ -1,0 +1,9 @@
+#include "P2PTransport.h"
+
+namespace corvane {
+
+std::unique_ptr<IPeerTransport> createPeerTransport() {
+    return std::make_unique<P2PTransport>();
+}
+
+} // namespace corvane

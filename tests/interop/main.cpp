@@ -1,0 +1,33 @@
+#include "PeerBridge.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <spdlog/spdlog.h>
+
+#include <cstdio>
+#include <iostream>
+#include <string>
+#include <thread>
+
+/// Commands come on the standard input and events go to the standard output, a line each.
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    spdlog::set_level(spdlog::level::off);
+
+    corvane::test::PeerBridge bridge;
+    QObject::connect(&bridge, &corvane::test::PeerBridge::event, [](const QJsonObject& event) {
+        std::puts(QJsonDocument(event).toJson(QJsonDocument::Compact).constData());
+        std::fflush(stdout);
+    });
+    std::thread reader([&bridge] {
+        for (std::string line; std::getline(std::cin, line);) {
+            const auto command = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
+            QMetaObject::invokeMethod(
+                &bridge, [&bridge, command] { bridge.obey(command); }, Qt::QueuedConnection);
+        }
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    });
+    const int status = QCoreApplication::exec();
+    reader.join();
+    return status;
+}

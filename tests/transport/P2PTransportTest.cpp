@@ -1,0 +1,345 @@
+#include "P2PTransport.h"
+#include "LogCapture.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <rtc/rtc.hpp>
+
+#include <atomic>
+#include <thread>
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using State = rtc::PeerConnection::State;
+
+const std::string kBothOpen = "info|P2PTransport: both data channels open — P2P connected!";
+
+/// The transport between a test that looks at its signals and a scripted library. Callbacks come
+/// from a thread of their own, as the library's do.
+class P2PTransportTest : public ::testing::Test {
+protected:
+    static void onLibraryThread(const std::function<void()>& callback) {
+        std::thread(callback).join();
+    }
+    static void settle() { QCoreApplication::sendPostedEvents(); }
+
+    rtc::PeerConnection& library() { return *rtc::PeerConnection::latest; }
+
+    void arrive(const char* label) {
+        const auto channel = std::make_shared<rtc::DataChannel>(label);
+        library().channels.push_back(channel);
+        onLibraryThread([&] { library().channelArrived(channel); });
+    }
+
+    void startConnected(bool offerer = true) {
+        if (offerer) {
+            ASSERT_TRUE(transport->connect("ignored", 1));
+        } else {
+            transport->startAsAnswerer();
+            arrive("control");
+            arrive("video");
+        }
+        control = library().channels.at(0);
+        video = library().channels.at(1);
+        onLibraryThread([this] {
+            control->becomeOpen();
+            video->becomeOpen();
+        });
+        settle();
+        ASSERT_EQ(connected.count(), 1);
+    }
+
+    bool send(ChannelType channel, const std::string& text) {
+        return transport->send(channel, reinterpret_cast<const uint8_t*>(text.data()), text.size());
+    }
+
+    test::LogCapture log;
+    std::unique_ptr<P2PTransport> transport = std::make_unique<P2PTransport>(nullptr, 50ms);
+    QSignalSpy connected{transport.get(), &ITransport::connected};
+    QSignalSpy disconnected{transport.get(), &ITransport::disconnected};
+    QSignalSpy received{transport.get(), &ITransport::dataReceived};
+    QSignalSpy errors{transport.get(), &ITransport::transportError};
+    QSignalSpy descriptions{transport.get(), &IPeerTransport::localDescriptionReady};
+    QSignalSpy candidates{transport.get(), &IPeerTransport::localCandidateReady};
+    std::shared_ptr<rtc::DataChannel> control;
+    std::shared_ptr<rtc::DataChannel> video;
+};
+
+TEST_F(P2PTransportTest, ConfiguresServersChannelsAndMessageSize) {
+    transport->connect({}, 0);
+    const auto& plain = library().settings;
+    ASSERT_EQ(plain.iceServers.size(), 2u);
+    for (const auto& server : plain.iceServers) {
+        EXPECT_TRUE(server.hostname.starts_with("stun:") && server.hostname.ends_with(":19302"))
+            << server.hostname;
+    }
+    EXPECT_EQ(plain.maxMessageSize, 16u * 1024 * 1024 + 24);
+    ASSERT_EQ(library().channels.size(), 2u);
+    const auto& reliable = *library().channels[0];
+    EXPECT_EQ(reliable.label(), "control");
+    EXPECT_FALSE(reliable.settings.unordered);
+    EXPECT_FALSE(reliable.settings.maxRetransmits);
+    const auto& lossy = *library().channels[1];
+    EXPECT_EQ(lossy.label(), "video");
+    EXPECT_TRUE(lossy.settings.unordered);
+    EXPECT_EQ(lossy.settings.maxRetransmits, 0u);
+
+    P2PTransport relayed;
+    relayed.setTurnPassword("secret");
+    relayed.startAsAnswerer();
+    ASSERT_EQ(library().settings.iceServers.size(), 3u);
+    const auto& turn = library().settings.iceServers[2];
+    EXPECT_EQ(turn.port, 5349);
+    EXPECT_EQ(turn.username, "corvane");
+    EXPECT_EQ(turn.password, "secret");
+    EXPECT_EQ(turn.relayType, rtc::IceServer::RelayType::TurnTls);
+    EXPECT_FALSE(log.contains("secret"));
+}
+
+TEST_F(P2PTransportTest, ConnectsOnceBothChannelsAreOpen) {
+    for (const bool offerer : {true, false}) {
+        log.clear();
+        const std::string side = offerer ? "" : " (answerer)";
+        if (offerer) {
+            ASSERT_TRUE(transport->connect({}, 0));
+            EXPECT_EQ(log.count("info|P2PTransport: starting as offerer"), 1);
+        } else {
+            transport = std::make_unique<P2PTransport>();
+            transport->startAsAnswerer();
+            EXPECT_EQ(log.count("info|P2PTransport: starting as answerer"), 1);
+            arrive("control");
+            arrive("intruder");
+            arrive("video");
+            EXPECT_EQ(log.count("info|P2PTransport: incoming data channel: intruder"), 1);
+        }
+        const QSignalSpy opened(transport.get(), &ITransport::connected);
+        control = library().channels.front();
+        video = library().channels.back();
+        EXPECT_FALSE(send(ChannelType::Video, "early"));
+        onLibraryThread([this] { control->becomeOpen(); });
+        settle();
+        EXPECT_EQ(log.count("info|P2PTransport: 'control' data channel open" + side), 1);
+        EXPECT_FALSE(transport->isConnected());
+        EXPECT_EQ(opened.count(), 0);
+        onLibraryThread([this] { video->becomeOpen(); });
+        EXPECT_EQ(opened.count(), 0) << "on the library's thread";
+        settle();
+        EXPECT_EQ(log.count("info|P2PTransport: 'video' data channel open" + side), 1);
+        EXPECT_EQ(log.count(kBothOpen), 1);
+        EXPECT_TRUE(transport->isConnected());
+        EXPECT_EQ(opened.count(), 1);
+        onLibraryThread([this] { control->becomeOpen(); });
+        settle();
+        EXPECT_EQ(opened.count(), 1);
+    }
+}
+
+TEST_F(P2PTransportTest, PassesTheNegotiationOnInOrder) {
+    transport->setRemoteDescription(u"v=0"_qs, u"offer"_qs);
+    transport->addRemoteCandidate(u"c"_qs, u"0"_qs);
+    EXPECT_TRUE(log.contains("P2PTransport: setRemoteDescription called with no PeerConnection"));
+    EXPECT_TRUE(log.contains("P2PTransport: addRemoteCandidate called with no PeerConnection"));
+    transport->connect({}, 0);
+    onLibraryThread([this] {
+        library().gatheringChanged(rtc::PeerConnection::GatheringState::InProgress);
+        library().described(rtc::Description("v=0", "offer"));
+        library().candidateFound(rtc::Candidate("cand", "0"));
+    });
+    EXPECT_EQ(descriptions.count() + candidates.count(), 0) << "on the library's thread";
+    settle();
+    EXPECT_EQ(descriptions.value(0), (QVariantList{u"offer"_qs, u"v=0"_qs}));
+    EXPECT_EQ(candidates.value(0), (QVariantList{u"cand"_qs, u"0"_qs}));
+    transport->setRemoteDescription(u"garbage"_qs, u"answer"_qs);
+    transport->addRemoteCandidate(u"garbage"_qs, u"0"_qs);
+    transport->setRemoteDescription(u"v=1"_qs, u"answer"_qs);
+    transport->addRemoteCandidate(u"far"_qs, u"1"_qs);
+    EXPECT_EQ(library().told, (std::vector<std::string>{"answer v=1", "1 far"}));
+    for (const char* line :
+         {"info|P2PTransport: ICE gathering state -> 1",
+          "info|P2PTransport: local description ready (type=offer)",
+          "info|P2PTransport: local ICE candidate: cand",
+          "warning|P2PTransport: remote description refused: Invalid description",
+          "warning|P2PTransport: remote ICE candidate refused: Invalid candidate "
+          "format"}) {
+        EXPECT_EQ(log.count(line), 1) << line;
+    }
+    EXPECT_EQ(log.count("info|P2PTransport: setting remote description (type=answer)"), 2);
+    EXPECT_EQ(log.count("info|P2PTransport: adding remote ICE candidate"), 2);
+}
+
+TEST_F(P2PTransportTest, DeliversBinaryMessagesOnly) {
+    for (const bool offerer : {true, false}) {
+        if (!offerer) {
+            transport->disconnect();
+            connected.clear();
+            received.clear();
+        }
+        startConnected(offerer);
+        onLibraryThread([this] {
+            control->message(std::string("text"));
+            video->message(std::string("text"));
+            control->receive("abc");
+            video->receive("pixels");
+            control->receive({});
+        });
+        EXPECT_EQ(received.count(), 0) << "on the library's thread";
+        settle();
+        ASSERT_EQ(received.count(), 3);
+        const std::pair<ChannelType, QByteArray> expected[] = {{ChannelType::Control, "abc"},
+                                                               {ChannelType::Video, "pixels"},
+                                                               {ChannelType::Control, ""}};
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(received[i][0].value<ChannelType>(), expected[i].first);
+            EXPECT_EQ(received[i][1].toByteArray(), expected[i].second);
+        }
+        EXPECT_EQ(log.count(offerer
+                                ? "info|P2PTransport: control channel received 3 bytes (offerer)"
+                                : "info|P2PTransport: control channel received 3 bytes (answerer)"),
+                  1);
+        EXPECT_FALSE(log.contains("6 bytes"));
+    }
+}
+
+TEST_F(P2PTransportTest, SendsOnTheMatchingChannelAndReportsRefusals) {
+    startConnected();
+    EXPECT_TRUE(send(ChannelType::Control, "key"));
+    EXPECT_TRUE(send(ChannelType::Video, "frame"));
+    EXPECT_EQ(control->sent.at(0).size(), 3u);
+    EXPECT_EQ(video->sent.at(0).size(), 5u);
+    control->refusal = "Message size exceeds limit";
+    EXPECT_FALSE(send(ChannelType::Control, "large"));
+    EXPECT_EQ(log.count("warning|P2PTransport::send failed: Message size exceeds limit"), 1);
+    video->open = false;
+    EXPECT_FALSE(send(ChannelType::Video, "frame"));
+}
+
+TEST_F(P2PTransportTest, AQueueThatDoesNotDrainIsBounded) {
+    startConnected();
+    const struct {
+        ChannelType type;
+        rtc::DataChannel& channel;
+        size_t bound;
+    } cases[] = {{ChannelType::Video, *video, P2PTransport::kMaxVideoQueued},
+                 {ChannelType::Control, *control, P2PTransport::kMaxControlQueued}};
+    for (const auto& [type, channel, bound] : cases) {
+        channel.buffered = bound - 1;
+        EXPECT_TRUE(send(type, "x"));
+        channel.buffered = bound;
+        EXPECT_FALSE(send(type, "x"));
+        EXPECT_EQ(channel.sent.size(), 1u);
+        EXPECT_TRUE(log.contains(fmt::format("takes no data, {} bytes unsent", bound)));
+    }
+    EXPECT_EQ(transport->bytesQueued(),
+              static_cast<qint64>(P2PTransport::kMaxVideoQueued + P2PTransport::kMaxControlQueued));
+}
+
+TEST_F(P2PTransportTest, WaitsForTheQueueWhileMessagesGoOnArriving) {
+    startConnected();
+    control->buffered = 1000;
+    std::thread library([this] {
+        control->receive("meanwhile");
+        control->buffered = 10;
+        control->drained();
+    });
+    EXPECT_TRUE(transport->waitUntilQueued(100));
+    library.join();
+    EXPECT_LE(control->threshold, 100u);
+    EXPECT_EQ(received.count(), 1);
+
+    control->buffered = 1000;
+    EXPECT_FALSE(transport->waitUntilQueued(100)) << "nothing moves";
+    std::thread loss([this] { this->library().stateChanged(State::Failed); });
+    EXPECT_FALSE(transport->waitUntilQueued(100)) << "the connection is gone";
+    loss.join();
+}
+
+TEST_F(P2PTransportTest, LossCountsOnceAndOnlyWhenConnected) {
+    ASSERT_TRUE(transport->connect({}, 0));
+    onLibraryThread([this] { library().stateChanged(State::Failed); });
+    settle();
+    EXPECT_EQ(log.count("info|P2PTransport: PeerConnection state -> 4"), 1);
+    EXPECT_EQ(disconnected.count(), 0);
+    transport->disconnect();
+    startConnected();
+    library().roundTrip = 7ms;
+    EXPECT_EQ(transport->roundTripMilliseconds(), 7.0);
+    onLibraryThread([this] {
+        library().stateChanged(State::Disconnected);
+        library().stateChanged(State::Closed);
+        library().stateChanged(State::Closed);
+        control->closed();
+        video->closed();
+    });
+    settle();
+    EXPECT_EQ(disconnected.count(), 1);
+    EXPECT_FALSE(transport->isConnected());
+    EXPECT_EQ(errors.count(), 0);
+    EXPECT_EQ(log.count("info|P2PTransport: 'control' data channel closed"), 1 + 1);
+    EXPECT_EQ(log.count("info|P2PTransport: 'video' data channel closed"), 1 + 1);
+}
+
+TEST_F(P2PTransportTest, NothingIsEmittedOnceItEnded) {
+    for (const bool destroy : {false, true}) {
+        connected.clear();
+        startConnected();
+        // As late as can be: the library still holds the callbacks of an object that is gone.
+        const auto message = control->message;
+        const auto stateChanged = library().stateChanged;
+        onLibraryThread([&] { message(rtc::binary(3)); });
+        destroy ? transport.reset() : transport->disconnect();
+        EXPECT_EQ(rtc::PeerConnection::latest, nullptr);
+        onLibraryThread([&] {
+            message(rtc::binary(3));
+            stateChanged(State::Closed);
+        });
+        settle();
+        EXPECT_EQ(received.count() + disconnected.count(), 0);
+        if (!destroy) {
+            EXPECT_FALSE(transport->isConnected());
+            EXPECT_FALSE(send(ChannelType::Control, "late"));
+            EXPECT_EQ(transport->roundTripMilliseconds(), std::nullopt);
+        }
+    }
+}
+
+TEST_F(P2PTransportTest, AnAttemptThatCannotStartIsAnError) {
+    rtc::PeerConnection::startRefusal = "no sockets left";
+    EXPECT_FALSE(transport->connect({}, 0));
+    rtc::PeerConnection::startRefusal.reset();
+    ASSERT_EQ(errors.count(), 1);
+    EXPECT_EQ(errors[0][0].toString(), u"no sockets left"_qs);
+    transport->setRemoteDescription(u"v=0"_qs, u"answer"_qs);
+}
+
+TEST_F(P2PTransportTest, APeerThatSendsTooFastIsHeldUpUntilTheMainThreadFollows) {
+    startConnected();
+    const rtc::binary message(P2PTransport::kMaxMessageSize);
+    constexpr int kMessages = 6;
+    std::atomic<int> taken = 0;
+    std::thread library([&] {
+        for (int i = 0; i < kMessages; ++i) {
+            video->message(message);
+            ++taken;
+        }
+    });
+    while (taken < 4) {
+        std::this_thread::yield();
+    }
+    EXPECT_EQ(received.count(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return received.count() == kMessages; }));
+    library.join();
+
+    std::thread stuck([&] {
+        for (int i = 0; i < kMessages; ++i) {
+            video->message(message);
+        }
+    });
+    transport.reset();
+    stuck.join();
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+#include <vector>
+
+namespace corvane::demo {
+
+/// Small pictures with captions, side by side on one large one. Drawing text takes a
+/// QGuiApplication.
+class ContactSheet {
+public:
+    void add(const QString& caption, const QImage& picture) {
+        m_pictures.push_back({caption, picture});
+    }
+
+    /// All pictures in the order of their coming, none enlarged.
+    QImage draw() const;
+
+private:
+    struct Picture {
+        QString caption;
+        QImage image;
+    };
+
+    std::vector<Picture> m_pictures;
+};
+
+} // namespace corvane::demo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ContactSheet.h"
+#include "DemoReport.h"
+#include "DisplayUser.h"
+#include "LiveSession.h"
+
+#include <QPoint>
+
+namespace corvane::demo {
+
+const inline QString kHomeTitle = QStringLiteral("Corvane - Remote Access");
+const inline QString kViewerTitle = QStringLiteral("Corvane - ");
+
+/// In every main window, beside all widgets.
+inline constexpr QPoint kBesideAll(12, -12);
+
+/// On the viewer's tool bar, between the buttons.
+inline constexpr QPoint kToolBar(-240, 20);
+
+/// What the acts of the demonstration share. The session is started.
+struct Stage {
+    harness::LiveSession& session;
+    DemoReport& report;
+    ContactSheet sheet{};
+    harness::DisplayUser viewer{session.viewerDisplay()};
+    harness::DisplayUser target{session.targetDisplay()};
+};
+
+} // namespace corvane::demo

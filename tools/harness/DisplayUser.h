@@ -1,0 +1,50 @@
+#pragma once
+
+#include "XClipboard.h"
+#include "XDisplay.h"
+
+#include <QImage>
+#include <QPoint>
+#include <QString>
+
+#include <vector>
+
+namespace corvane::harness {
+
+/// A person who works with windows, known by the beginnings of their titles, on a borrowed display.
+/// Everything waits, with the event loop running, until its result shows, and answers whether it
+/// did.
+class DisplayUser {
+public:
+    explicit DisplayUser(XDisplay& display);
+
+    bool sees(const QString& title);
+    bool seesNo(const QString& title);
+
+    /// Clicks at `place`, from the window's left and top, or right and bottom where negative, until
+    /// the window has the keyboard.
+    bool clickInto(const QString& title, QPoint place);
+
+    /// Presses a key in the window that has the keyboard until a window `title` has it.
+    bool openByKey(const QString& title, xcb_keysym_t key, const std::vector<xcb_keysym_t>& held);
+
+    /// Presses Escape in a window that has the keyboard.
+    bool escape(const QString& title);
+
+    bool hasKeyboard(const QString& title) const;
+
+    /// What Ctrl+C copies where the keyboard is; empty when it is nothing.
+    QString copied();
+
+    /// The window once its picture stands still; as it is after a few seconds otherwise.
+    QImage look(const QString& title);
+
+    XDisplay& display() { return m_display; }
+    XClipboard& clipboard() { return m_clipboard; }
+
+private:
+    XDisplay& m_display;
+    XClipboard m_clipboard;
+};
+
+} // namespace corvane::harness

@@ -1,0 +1,25 @@
+#include "WaitFor.h"
+
+#include <qtestsupport_core.h>
+
+namespace corvane::harness {
+
+using namespace std::chrono_literals;
+
+bool waitFor(const std::function<bool()>& condition, std::chrono::milliseconds timeout) {
+    return QTest::qWaitFor(condition, static_cast<int>(timeout.count()));
+}
+
+bool achieve(const std::function<void()>& step, const std::function<bool()>& result) {
+    constexpr int kAttempts = 4;
+    constexpr auto kPatience = 3s;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        step();
+        if (waitFor(result, kPatience)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace corvane::harness
