@@ -106,34 +106,25 @@ TEST_F(DxgiCaptureBackendTest, FramesAreCopiedRowByRowWithoutPadding) {
 }
 
 TEST_F(DxgiCaptureBackendTest, EachFailingCallOfInitializeIsNamed) {
-    const struct {
-        const char* call;
-        const char* text;
-    } cases[] = {
-        {"D3D11CreateDevice", "D3D11CreateDevice"},
-        {"IDXGIDevice", "QueryInterface IDXGIDevice"},
-        {"GetAdapter", "GetAdapter"},
-        {"CreateDXGIFactory1", "CreateDXGIFactory1"},
-        {"GetDesc", "GetDesc"},
-        {"IDXGIOutput1", "QueryInterface IDXGIOutput1"},
-        {"DuplicateOutput", "DuplicateOutput"},
-    };
-    for (const auto& item : cases) {
-        desktop.failures = {{item.call, E_ACCESSDENIED}};
+    for (const std::string call :
+         {"D3D11CreateDevice", "IDXGIDevice", "GetAdapter", "CreateDXGIFactory1", "GetDesc",
+          "IDXGIOutput1", "DuplicateOutput"}) {
+        desktop.failures = {{call, E_ACCESSDENIED}};
         log.clear();
         EXPECT_FALSE(backend.initialize(0));
         EXPECT_FALSE(backend.isInitialized());
         EXPECT_EQ(backend.captureFrame(), nullptr);
-        EXPECT_EQ(desktop.objects, 0) << item.call;
-        EXPECT_EQ(log.count("error|DxgiCaptureBackend: " + std::string(item.text) +
-                            " failed (0x80070005)"),
+        EXPECT_EQ(desktop.objects, 0) << call;
+        const bool isQuery = call.starts_with("IDXGI");
+        EXPECT_EQ(log.count("error|DxgiCaptureBackend: " +
+                            (isQuery ? "QueryInterface " + call : call) + " failed (0x80070005)"),
                   1)
-            << item.call;
-        const bool device = item.call == std::string_view("D3D11CreateDevice");
+            << call;
         EXPECT_EQ(log.lines().back(),
-                  device ? "error|DxgiCaptureBackend: failed to create D3D11 device"
-                         : "error|DxgiCaptureBackend: failed to create output duplication for "
-                           "monitor 0");
+                  call == "D3D11CreateDevice"
+                      ? "error|DxgiCaptureBackend: failed to create D3D11 device"
+                      : "error|DxgiCaptureBackend: failed to create output duplication for "
+                        "monitor 0");
     }
 }
 
@@ -166,21 +157,17 @@ TEST_F(DxgiCaptureBackendTest, EachFailingCallOfACaptureCostsOneFrame) {
     desktop.acquisitions = {DXGI_ERROR_WAIT_TIMEOUT};
     EXPECT_EQ(backend.captureFrame(), nullptr);
     EXPECT_THAT(log.lines(), IsEmpty()) << "an unchanged screen is no failure";
-    const struct {
-        const char* call;
-        const char* text;
-    } cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"ID3D11Texture2D", "QueryInterface for Texture2D failed (0x80004005)"},
         {"CreateTexture2D", "CreateTexture2D (staging) failed (0x80004005)"},
         {"Map", "Map staging texture failed (0x80004005)"},
     };
     desktop.dirtyRects = {{0, 0, 1, 1}};
-    for (const auto& item : cases) {
-        desktop.failures = {{item.call, E_FAIL}};
+    for (const auto& [call, text] : cases) {
+        desktop.failures = {{call, E_FAIL}};
         log.clear();
         EXPECT_EQ(backend.captureFrame(), nullptr);
-        EXPECT_THAT(log.lines(),
-                    ElementsAre("error|DxgiCaptureBackend: " + std::string(item.text)));
+        EXPECT_THAT(log.lines(), ElementsAre("error|DxgiCaptureBackend: " + text));
         EXPECT_TRUE(backend.isInitialized());
     }
     desktop.failures.clear();
