@@ -43,8 +43,8 @@ constexpr Network kNetworks[] = {
 
 class BadNetworkTest : public testing::TestWithParam<Network> {
 protected:
-    static constexpr int kPicturesABurst = 15;
-    static constexpr int kBursts = 5;
+    static constexpr int kPicturesABurst = 6;
+    static constexpr int kBursts = 8;
 
     void SetUp() override {
         if (!m_network.obstacle().isEmpty()) {
@@ -76,8 +76,8 @@ protected:
                     {"server", m_server.url().toString().toStdString()},
                     {"id", device.clientId.toStdString()},
                     {"token", device.token.toStdString()},
-                    {"width", 640},
-                    {"height", 360},
+                    {"width", std::max(640, qEnvironmentVariableIntValue("W"))},
+                    {"height", std::max(360, qEnvironmentVariableIntValue("H"))},
                     {"rate", 30}});
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return m_server.isOnline(device.clientId); }, kPatienceMs));

@@ -64,15 +64,18 @@ void TestNetwork::attach(qint64 process) {
 }
 
 void TestNetwork::applyConditions() {
-    if (m_conditions.udpLossPercent > 0) {
+    const int loss = m_conditions.udpLossPercent;
+    if (loss > 0) {
+        const QString chance = loss < 100 ? QStringLiteral("numgen random mod 100 < %1 ").arg(loss)
+                                          : QString();
         run(QStringLiteral("nft --file -"),
             QStringLiteral("table inet path {\n"
                            "  chain between {\n"
                            "    type filter hook forward priority 0; policy accept;\n"
-                           "    meta l4proto udp numgen random mod 100 < %1 counter drop\n"
+                           "    meta l4proto udp %1counter drop\n"
                            "  }\n"
                            "}\n")
-                .arg(m_conditions.udpLossPercent));
+                .arg(chance));
     }
     for (int peer = 1; peer <= kPeers && m_conditions.kilobitsPerSecond > 0; ++peer) {
         run(QStringLiteral("tc qdisc add dev peer%1 root tbf rate %2kbit burst 16kb latency 100ms")
