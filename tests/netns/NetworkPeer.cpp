@@ -1,9 +1,9 @@
+#include "ChatService.h"
 #include "DesktopScene.h"
 #include "FrameConverter.h"
 #include "MonotonicClock.h"
 #include "SessionTest.h"
 
-#include <ChatService.h>
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -21,7 +21,7 @@ namespace {
 
 using nlohmann::json;
 
-/// Above what the codec leaves of a scene, below what a misplaced piece of one makes.
+/// Far above what the codec leaves of a scene, far below what a misplaced piece of one makes.
 constexpr int kSameBlock = 24;
 constexpr int kBlock = 16;
 
@@ -127,9 +127,7 @@ private:
         if (!m_expected) {
             return;
         }
-        const int worst = worstBlock(*picture, m_luma);
-        spdlog::debug("picture {}: worst block {}", m_pictures, worst);
-        if (worst < kSameBlock) {
+        if (worstBlock(*picture, m_luma) < kSameBlock) {
             report("whole", {{"last", *m_expected}, {"pictures", m_pictures}});
             m_expected.reset();
         }
@@ -170,7 +168,7 @@ int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     std::ios::sync_with_stdio(false);
     spdlog::set_default_logger(spdlog::stderr_logger_mt("peer"));
-    spdlog::set_level(spdlog::level::trace);
+    spdlog::set_level(spdlog::level::debug);
     corvane::test::NetworkPeer peer;
     QSocketNotifier orders(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&orders, &QSocketNotifier::activated, [&] {

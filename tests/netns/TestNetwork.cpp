@@ -66,8 +66,8 @@ void TestNetwork::attach(qint64 process) {
 void TestNetwork::applyConditions() {
     const int loss = m_conditions.udpLossPercent;
     if (loss > 0) {
-        const QString chance = loss < 100 ? QStringLiteral("numgen random mod 100 < %1 ").arg(loss)
-                                          : QString();
+        const QString chance =
+            loss < 100 ? QStringLiteral("numgen random mod 100 < %1 ").arg(loss) : QString();
         run(QStringLiteral("nft --file -"),
             QStringLiteral("table inet path {\n"
                            "  chain between {\n"
