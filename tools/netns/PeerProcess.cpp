@@ -31,8 +31,8 @@ PeerProcess::~PeerProcess() {
     m_process.waitForFinished();
 }
 
-bool PeerProcess::start() {
-    m_process.start(QStringLiteral(CORVANE_NETWORK_PEER), {});
+bool PeerProcess::start(const QString& program) {
+    m_process.start(program, {});
     return m_process.waitForStarted();
 }
 

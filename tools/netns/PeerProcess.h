@@ -16,7 +16,7 @@ public:
     PeerProcess();
     ~PeerProcess();
 
-    bool start();
+    bool start(const QString& program);
     qint64 id() const { return m_process.processId(); }
 
     /// Sends an order; see NetworkPeer.cpp for what there is.
