@@ -1,4 +1,5 @@
-// The other end of the bridge, evaluated inside a browser's page.
+// The other end of the bridge, for any WebRTC implementation with the browsers' interface. Also
+// evaluated inside a browser's page, so it imports nothing.
 
 globalThis.pattern = (size, seed) => {
   const bytes = new Uint8Array(size);

@@ -1,9 +1,8 @@
-// Connects this project's transport with the WebRTC implementation of a browser, as either side, and
-// exchanges messages. Usage: node interop.mjs <bridge> chromium [<browser>]
+// Connects this project's transport with a WebRTC implementation of somebody else's, as either
+// side, and exchanges messages. Usage: node interop.mjs <bridge> node | chromium [<browser>]
 // With `bridge <command>` the other side is a second bridge, such as that of another platform.
 import assert from 'node:assert/strict';
-import { setTimeout as pause } from 'node:timers/promises';
-import { BridgePeer, ChromiumPeer } from './peers.mjs';
+import { BridgePeer, ChromiumPeer, NodePeer } from './peers.mjs';
 
 const PATIENCE_MS = 30_000;
 const SIZES = [1, 1200, 65_535, 65_536, 262_144, 262_145, 1_000_000, 2_000_000];
@@ -13,6 +12,7 @@ const CHANNELS = ['control', 'video'];
 const [bridgeProgram, kind, ...command] = process.argv.slice(2);
 
 const FOREIGN = {
+  node: () => new NodePeer(),
   chromium: () => new ChromiumPeer(command[0] ?? 'chromium'),
   bridge: () => new BridgePeer(...command),
 };
@@ -22,16 +22,34 @@ class Inbox {
   constructor(name) {
     this.name = name;
     this.events = [];
+    this.waiting = new Map();
   }
 
-  async next(type, patience = PATIENCE_MS) {
-    for (const end = Date.now() + patience; Date.now() < end; await pause(2)) {
-      const index = this.events.findIndex(({ event }) => event === type);
-      if (index >= 0) {
-        return this.events.splice(index, 1)[0];
-      }
+  put(event) {
+    const waiting = this.waiting.get(event.event);
+    if (waiting) {
+      this.waiting.delete(event.event);
+      waiting(event);
+    } else {
+      this.events.push(event);
     }
-    throw new Error(`${this.name}: no "${type}" within ${patience} ms`);
+  }
+
+  next(type, patience = PATIENCE_MS) {
+    const index = this.events.findIndex(({ event }) => event === type);
+    if (index >= 0) {
+      return Promise.resolve(this.events.splice(index, 1)[0]);
+    }
+    return new Promise((resolve, reject) => {
+      const timer = setTimeout(() => {
+        this.waiting.delete(type);
+        reject(new Error(`${this.name}: no "${type}" within ${patience} ms`));
+      }, patience);
+      this.waiting.set(type, (event) => {
+        clearTimeout(timer);
+        resolve(event);
+      });
+    });
   }
 }
 
@@ -41,9 +59,13 @@ function link(peer, other, name) {
   let carried = Promise.resolve();
   peer.onEvent = ({ event, ...rest }) => {
     if (event === 'description' || event === 'candidate') {
+      if (event === 'description') {
+        inbox.put({ event, ...rest });
+      }
       carried = carried.then(() => other.obey({ do: event, ...rest }));
+    } else {
+      inbox.put({ event, ...rest });
     }
-    inbox.events.push({ event, ...rest });
   };
   return inbox;
 }

@@ -1,9 +1,11 @@
 // The ends of a connection: each takes commands through `obey` and reports to `onEvent`.
 import { spawn } from 'node:child_process';
 import { mkdtempSync, readFileSync, rmSync } from 'node:fs';
+import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { createInterface } from 'node:readline';
+import './foreign-peer.js';
 
 // This project's transport, in a program of its own.
 export class BridgePeer {
@@ -22,6 +24,22 @@ export class BridgePeer {
   stop() {
     this.process.stdin.end();
     return new Promise((resolve) => this.process.once('exit', resolve));
+  }
+}
+
+// The WebRTC bindings for Node.
+export class NodePeer {
+  async start() {
+    const { RTCPeerConnection } = createRequire(import.meta.url)('@roamhq/wrtc');
+    this.peer = new ForeignPeer(RTCPeerConnection, (event) => this.onEvent(event));
+  }
+
+  obey(command) {
+    return this.peer.obey(command);
+  }
+
+  stop() {
+    this.peer.connection.close();
   }
 }
 

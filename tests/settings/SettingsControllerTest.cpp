@@ -51,6 +51,7 @@ TEST_F(SettingsControllerTest, EverySetterWritesItsKeyAndItsGetterReadsIt) {
     m_raw.setValue(u"display/mode"_s, u"many"_s);
     EXPECT_EQ(m_settings.displayMode(), 0);
     m_settings.setWakeOnLanAddress(u"123456789"_s, u"00:11"_s);
+    EXPECT_EQ(m_raw.value(u"wol/123456789"_s), u"00:11"_s);
     EXPECT_EQ(m_settings.wakeOnLanAddress(u"123 456 789"_s), u"00:11"_s);
 }
 
@@ -90,6 +91,7 @@ TEST_F(SettingsControllerTest, RecentPartnersAreTheNewestTenWithoutDuplicates) {
     QStringList expected(all.rbegin(), all.rend() - 1);
     expected.move(expected.indexOf(all.at(5)), 0);
     EXPECT_EQ(m_settings.recentPartners(), expected);
+    EXPECT_EQ(m_raw.value(u"history/recentPartnerIds"_s), expected);
 }
 
 } // namespace

@@ -175,8 +175,6 @@ protected:
 };
 
 TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
-    EXPECT_EQ(m_dialog->windowTitle(), u"File Manager"_s);
-    EXPECT_EQ(m_dialog->size(), QSize(1000, 600));
     EXPECT_EQ(label("remotePathLabel"), u"<b>Remote: </b>/"_s);
     EXPECT_EQ(status(), u"Loading remote directory..."_s);
     settle();
@@ -216,7 +214,7 @@ TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
     click("remoteBackButton");
     settle();
     EXPECT_EQ(status(), u"4 items"_s);
-    EXPECT_EQ(m_dialog->width(), 1000);
+    EXPECT_EQ(m_dialog->size(), QSize(1000, 600));
     QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
     EXPECT_FALSE(m_dialog->isVisible());
 }
@@ -257,11 +255,10 @@ TEST_F(FileManagerDialogTest, UploadsUnderVisibleProgress) {
         EXPECT_EQ(status(), u"Select one or more local files to upload."_s);
     }
     const auto* const bar = new PaintCounter(m_dialog->findChild<QProgressBar*>());
-    const auto* const line = new PaintCounter(m_dialog->findChild<QLabel*>(u"transferStatus"_s));
     QStringList seen;
     int barBefore = bar->count;
     m_service->setPacing([&] { // inside the upload, without an event loop
-        if (line->count > 0 && bar->count > barBefore) {
+        if (bar->count > barBefore) {
             seen << status();
         }
         barBefore = bar->count;
@@ -345,12 +342,6 @@ TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
     settle();
     EXPECT_TRUE(status().startsWith(u"Error: "));
 
-    selectLocal({u"up 2"_s});
-    EXPECT_TRUE(QFile::remove(m_local + u"/up 2"_s));
-    click("uploadButton");
-    settle();
-    EXPECT_TRUE(status().startsWith(u"Error: Cannot open local file: "));
-
     selectLocal({u""_s});
     download({u"empty"_s}); // a new batch, counted anew
     EXPECT_EQ(status(), u"Downloading 1 of 1: empty"_s);
@@ -387,10 +378,6 @@ TEST_F(FileManagerDialogTest, OutlivesItsService) {
     settle();
     EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "local a");
     EXPECT_EQ(status(), u"The session has ended."_s);
-
-    FileManagerDialog unconnected(nullptr);
-    unconnected.show();
-    EXPECT_EQ(unconnected.findChild<QLabel*>(u"transferStatus"_s)->text(), QString());
 }
 
 TEST_F(FileManagerDialogTest, MayDieInTheMiddleOfAnything) {

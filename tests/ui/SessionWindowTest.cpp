@@ -12,6 +12,8 @@ using test::eventually;
 
 class SessionWindowTest : public test::WindowFixture {
 protected:
+    void SetUp() override { start(); }
+
     QJsonObject request(const QString& session, const QString& purpose = {}) const {
         return {{u"type"_s, u"SESSION_HANDSHAKE_REQUEST"_s},
                 {u"session_id"_s, session},
@@ -30,7 +32,6 @@ protected:
 };
 
 TEST_F(SessionWindowTest, FollowsAViewersSession) {
-    start();
     QStringList history;
     QObject::connect(&m_session, &SessionManager::stateChanged, [&] { history << status(); });
     const auto partner = viewNewDevice();
@@ -63,7 +64,6 @@ TEST_F(SessionWindowTest, FollowsAViewersSession) {
 }
 
 TEST_F(SessionWindowTest, EndsTheSessionInsteadOfClosing) {
-    start();
     // A server that no longer knows the session is nobody's concern.
     m_server.misbehaviour().setReply(u"/close"_s, {.status = 500});
     ASSERT_NE(viewNewDevice(), nullptr);
@@ -79,7 +79,6 @@ TEST_F(SessionWindowTest, EndsTheSessionInsteadOfClosing) {
 }
 
 TEST_F(SessionWindowTest, AsksBeforeASessionWithoutPassword) {
-    start();
     const QString odd = u"help <b>now</b> %1"_s;
     for (const auto answer : {QMessageBox::NoButton, QMessageBox::No, QMessageBox::Yes}) {
         const bool byKey = answer == QMessageBox::NoButton;
@@ -110,7 +109,6 @@ TEST_F(SessionWindowTest, AsksBeforeASessionWithoutPassword) {
 }
 
 TEST_F(SessionWindowTest, KeepsAFloodOfRequestsToOneQuestionOnTheScreen) {
-    start();
     for (int i = 0; i < 200; ++i) {
         push(request(QString::number(i), QString(100, u'\n')));
     }

