@@ -1,12 +1,10 @@
 #include "SessionDataPlane.h"
-#include "Av1Packet.h"
 #include "ChatService.h"
 #include "FileTransferService.h"
 #include "LogCapture.h"
 #include "TestPlatform.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include <string_view>
@@ -209,27 +207,6 @@ TEST_F(DataPlaneTest, VideoIsForTheViewer) {
     receive(ChannelType::Video, ByteVector(5000, 0xA5)); // sealed, but no AV1
     EXPECT_EQ(decoded.count(), 0);
     EXPECT_TRUE(m_log.contains("error|AV1Decoder: "));
-}
-
-TEST_F(DataPlaneTest, AKeyFrameInTheMakingAnswersFurtherRequests) {
-    m_machine->width = 640;
-    m_machine->height = 360;
-    m_machine->framesToShow = 1;
-    startAs(SessionRole::Target);
-    m_plane->setState(SessionState::Connected);
-    constexpr int kPatienceMs = 30'000;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return m_transport.sent.size() == 1; }, kPatienceMs));
-    receive(ChannelType::Control, bytes("\x02"));
-    m_machine->framesToShow = 1;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return m_machine->shown == 2; }, kPatienceMs));
-    receive(ChannelType::Control, bytes("\x02"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return m_transport.sent.size() >= 3; }, kPatienceMs));
-    std::vector<bool> keyframes;
-    for (const auto& message : m_transport.sent) {
-        keyframes.push_back(
-            isKeyframePacket(m_peer.decrypt(message.sealed.data(), message.sealed.size())));
-    }
-    EXPECT_EQ(keyframes, (std::vector{true, true, false}));
 }
 
 TEST_F(DataPlaneTest, NothingLeavesBeforeOrAfterTheConnection) {
