@@ -69,7 +69,8 @@ protected:
         if (!m_network.obstacle().isEmpty()) {
             GTEST_SKIP() << m_network.obstacle().toStdString();
         }
-        ASSERT_TRUE(m_target.start() && m_viewer.start());
+        const QString program = QStringLiteral(CORVANE_NETWORK_PEER);
+        ASSERT_TRUE(m_target.start(program) && m_viewer.start(program));
         m_network.attach(m_viewer.id());
         m_network.attach(m_target.id());
         if (!m_network.obstacle().isEmpty()) {
