@@ -13,6 +13,8 @@ packages=(
     libxcb1-dev
     # tests, benchmarks, development server
     libbenchmark-dev libgmock-dev libgtest-dev qt6-httpserver-dev
+    # tests across bad networks
+    iproute2 nftables
     # running the program, for updates and on a virtual display
     fonts-dejavu-core libgl1-mesa-dri unzip xkb-data xvfb
 )

@@ -31,12 +31,11 @@ std::optional<ByteVector> FramePipeline::process(const CapturedFrame& frame) {
     if (!prepareEncoder(frame.width, frame.height)) {
         return std::nullopt;
     }
-    const auto packet = m_encoder->encode(nv12.data(), frame.width, frame.height, frame.timestamp,
-                                          frame.keyframeRequested);
-    if (!packet || packet->data.empty()) {
+    const bool repeats = frame.keyframeRequested && m_packetIsKeyframe && nv12 == m_picture;
+    if (!repeats && !encode(frame, std::move(nv12))) {
         return std::nullopt;
     }
-    ByteVector sealed = m_cipher.encrypt(packet->data);
+    ByteVector sealed = m_cipher.encrypt(m_packet);
     if (sealed.empty()) {
         spdlog::error("Failed to encrypt video packet");
         return std::nullopt;
@@ -45,9 +44,23 @@ std::optional<ByteVector> FramePipeline::process(const CapturedFrame& frame) {
 }
 
 void FramePipeline::shutdown() {
+    m_packetIsKeyframe = false;
     if (m_encoder->isInitialized()) {
         m_encoder->shutdown();
     }
+}
+
+bool FramePipeline::encode(const CapturedFrame& frame, ByteVector nv12) {
+    m_packetIsKeyframe = false;
+    auto packet = m_encoder->encode(nv12.data(), frame.width, frame.height, frame.timestamp,
+                                    frame.keyframeRequested);
+    if (!packet || packet->data.empty()) {
+        return false;
+    }
+    m_picture = std::move(nv12);
+    m_packet = std::move(packet->data);
+    m_packetIsKeyframe = packet->isKeyframe;
+    return true;
 }
 
 bool FramePipeline::prepareEncoder(int width, int height) {
@@ -55,7 +68,7 @@ bool FramePipeline::prepareEncoder(int width, int height) {
     if (m_encoder->isInitialized() && (oldWidth != width || oldHeight != height)) {
         spdlog::info("Frame resolution changed ({}x{} -> {}x{}), reinitializing encoder", oldWidth,
                      oldHeight, width, height);
-        m_encoder->shutdown();
+        shutdown();
     }
     if (m_encoder->isInitialized()) {
         return true;

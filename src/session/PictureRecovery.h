@@ -21,8 +21,9 @@ public:
         std::chrono::milliseconds patience{200};
         /// The least time between two requests.
         std::chrono::milliseconds interval{500};
-        /// How long the first picture may take; its encoder may still be starting.
-        std::chrono::milliseconds firstPicture{3000};
+        /// How long to wait for anything at all. Long, since the encoder's first picture takes
+        /// seconds on a busy machine, and asking for another one then delays what follows.
+        std::chrono::milliseconds firstPicture{10'000};
     };
 
     explicit PictureRecovery(QObject* parent = nullptr) : PictureRecovery(Timings{}, parent) {}

@@ -61,7 +61,7 @@ void TargetStream::stop() {
 }
 
 void TargetStream::requestKeyframe() {
-    if (m_capture) {
+    if (m_capture && !m_keyframeInMaking.exchange(true)) {
         m_capture->requestKeyframe();
         m_screen->requestRepeat();
     }
@@ -99,6 +99,9 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
         return;
     }
     auto sealed = m_pipeline.process(frame);
+    if (frame.keyframeRequested) {
+        m_keyframeInMaking = false; // before the main thread can fail to send it and want another
+    }
     if (sealed && m_packets.push(std::move(*sealed))) {
         Q_EMIT packetsWaiting(QPrivateSignal());
     }

@@ -9,6 +9,7 @@
 
 #include <QObject>
 
+#include <atomic>
 #include <memory>
 
 namespace corvane {
@@ -44,7 +45,9 @@ public:
     /// Ends capture and joins its thread. Packets not yet handed over are dropped.
     void stop();
 
-    /// Has the next picture encoded afresh, and soon even if the screen stands still.
+    /// Has the next picture encoded afresh, and soon even if the screen stands still. A key frame
+    /// that is still in the making answers all requests until it is done: encoding one may take
+    /// longer than a viewer waits before it asks again.
     void requestKeyframe();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);
@@ -67,6 +70,7 @@ private:
     std::shared_ptr<const CapturedFrame> m_lastFrame; ///< capture thread only, while it runs
     std::unique_ptr<ScreenCaptureManager> m_capture;
     RepeatingScreen* m_screen = nullptr; ///< belongs to the capture manager
+    std::atomic<bool> m_keyframeInMaking{false};
     std::unique_ptr<InputForwarder> m_input;
 };
 

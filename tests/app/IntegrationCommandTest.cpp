@@ -14,13 +14,6 @@ TEST(IntegrationCommand, IsOneLineForTaskAndService) {
          R"(schtasks /create /tn "CorvaneClient" /tr "\"C:\My %1 & Co\CorvaneClient.exe\"")"
          R"( /sc onlogon /rl highest /f & "C:/My %1 & Co/CorvaneService.exe" --install)"
          R"( & net start CorvaneService)"},
-        {{.startAtLogon = true, .runService = false},
-         R"(schtasks /create /tn "CorvaneClient" /tr "\"C:\My %1 & Co\CorvaneClient.exe\"")"
-         R"( /sc onlogon /rl highest /f & net stop CorvaneService)"
-         R"( & "C:/My %1 & Co/CorvaneService.exe" --uninstall)"},
-        {{.startAtLogon = false, .runService = true},
-         R"(schtasks /delete /tn "CorvaneClient" /f & "C:/My %1 & Co/CorvaneService.exe")"
-         R"( --install & net start CorvaneService)"},
         {{.startAtLogon = false, .runService = false},
          R"(schtasks /delete /tn "CorvaneClient" /f & net stop CorvaneService)"
          R"( & "C:/My %1 & Co/CorvaneService.exe" --uninstall)"},

@@ -1,8 +1,6 @@
 #include "ServerFixture.h"
 
-#include <QNetworkDatagram>
 #include <QTcpSocket>
-#include <QUdpSocket>
 
 namespace corvane::devserver {
 namespace {
@@ -106,22 +104,6 @@ TEST_F(ServerTest, IceMessagesPassBetweenTheTwoSidesOfTheirSessionOnly) {
     EXPECT_EQ(target->pushed, QStringList(offer.arg(master->device.clientId, id, u"ICE_OFFER"_s)));
     EXPECT_EQ(master->pushed, QStringList(offer.arg(target->device.clientId, id, u"ICE_ANSWER"_s)));
     EXPECT_TRUE(stranger->pushed.isEmpty());
-}
-
-TEST_F(ServerTest, AddressPageAndStunTellTheCallersAddress) {
-    EXPECT_EQ(call("GET", u"/address"_s).body.trimmed(), "127.0.0.1");
-    QUdpSocket socket;
-    ASSERT_TRUE(socket.bind(QHostAddress::LocalHost));
-    const QByteArray transaction = "twelve bytes";
-    for (const QByteArray& datagram :
-         {QByteArray("too short"), QByteArray::fromHex("000100002112a442") + transaction}) {
-        socket.writeDatagram(datagram, m_server.address(), m_server.stunPort());
-    }
-    ASSERT_TRUE(waitUntil([&] { return socket.hasPendingDatagrams(); }));
-    const QString port = u"%1"_s.arg(socket.localPort() ^ 0x2112, 4, 16, QLatin1Char('0'));
-    EXPECT_EQ(socket.receiveDatagram().data(),
-              QByteArray::fromHex("0101000c2112a442") + transaction +
-                  QByteArray::fromHex("002000080001" + port.toLatin1() + "5e12a443"));
 }
 
 TEST_F(ServerTest, TheControlRequestAppliesAllOrNothing) {

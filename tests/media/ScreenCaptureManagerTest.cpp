@@ -31,7 +31,7 @@ public:
         initialized = false;
     }
     Frame captureFrame() override { return onCapture(); }
-    std::vector<MonitorInfo> monitors() override { return {currentMonitor()}; }
+    std::vector<MonitorInfo> monitors() override { return found; }
     MonitorInfo currentMonitor() const override { return {.index = monitor, .name = {}}; }
     bool isInitialized() const override { return initialized; }
 
@@ -39,6 +39,7 @@ public:
     std::function<bool()> onInitialize = [] {
         return true;
     };
+    std::vector<MonitorInfo> found;
     std::atomic<bool> initialized{true};
     std::atomic<uint32_t> monitor{0};
     std::atomic<int> shutdowns{0};
@@ -275,19 +276,14 @@ TEST_F(ScreenCaptureManagerTest, TerminatesAThreadThatHangs) {
 }
 
 TEST(CapturableMonitors, AreThoseOfTheFirstCandidateThatFindsAny) {
-    const auto finding = [](std::vector<MonitorInfo> found) {
-        class Finder : public ScriptedBackend {
-        public:
-            explicit Finder(std::vector<MonitorInfo> monitors) : m_monitors(std::move(monitors)) {}
-            std::vector<MonitorInfo> monitors() override { return m_monitors; }
-
-        private:
-            const std::vector<MonitorInfo> m_monitors;
+    const auto finding = [](const std::vector<MonitorInfo>& found) {
+        CaptureBackendCandidate candidate;
+        candidate.create = [found] {
+            auto backend = std::make_unique<ScriptedBackend>();
+            backend->found = found;
+            return backend;
         };
-        return CaptureBackendCandidate{
-            .create = [found] { return std::make_unique<Finder>(found); },
-            .readyText = {},
-            .unavailableText = {}};
+        return candidate;
     };
     const MonitorInfo first{.index = 0, .name = "first"};
     const MonitorInfo second{.index = 0, .name = "second"};

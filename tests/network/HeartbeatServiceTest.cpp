@@ -100,6 +100,7 @@ TEST_F(HeartbeatServiceTest, TwoResponsesTellTheNatType) {
         {{here}, {here}, stable},
         {{here}, {otherPort}, symmetric},
         {{here}, {seenAt("192.0.2.9", 1000)}, stable},
+        {{here}, {seenAt("192.0.2.9", 1001)}, stable},
         {{here, otherPort}, {}, symmetric},
         {{noise, here.left(19), error, here}, {error, otherPort, here, here}, symmetric},
         {QList<QByteArray>(50, noise) << here, {here}, stable},
@@ -141,24 +142,17 @@ TEST_F(HeartbeatServiceTest, ANatTypeOnceKnownStays) {
 }
 
 TEST_F(HeartbeatServiceTest, TheProbeClosesItsSocketsWhenTheTimeIsUp) {
-    QList<quint16> ports;
-    m_server.stun().setScript([&](const QByteArray&, quint16 port) {
-        ports.append(port);
-        return QList{seenAt("192.0.2.1", port)};
-    });
-    const auto freePorts = [&] {
-        return std::count_if(ports.begin(), ports.end(), [](quint16 port) {
-            return QUdpSocket().bind(QHostAddress::AnyIPv4, port, QUdpSocket::DontShareAddress);
-        });
-    };
     for (const bool silent : {false, true}) {
-        if (silent) {
-            m_server.stun().setScript([&](const QByteArray&, quint16 port) {
-                ports.append(port);
-                return QList<QByteArray>();
+        QList<quint16> ports;
+        m_server.stun().setScript([&](const QByteArray&, quint16 port) {
+            ports.append(port);
+            return silent ? QList<QByteArray>() : QList{seenAt("192.0.2.1", port)};
+        });
+        const auto freePorts = [&] {
+            return std::count_if(ports.begin(), ports.end(), [](quint16 port) {
+                return QUdpSocket().bind(QHostAddress::AnyIPv4, port, QUdpSocket::DontShareAddress);
             });
-        }
-        ports.clear();
+        };
         NatProbe probe(options(std::chrono::milliseconds(silent ? 50 : 500)).natProbe);
         qsizetype freeWhenMapped = -1;
         qsizetype freeWhenFinished = -1;

@@ -54,15 +54,8 @@ protected:
 const std::string kReconnecting = "info|Reconnecting in 1000 ms (attempt 1/10)";
 
 TEST_F(SignalingClientTest, TheUrlFollowsTheServers) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"https://localhost:8443/any/path", "wss://localhost:8443/ws/clients/123456789"},
-        {"other://localhost", "ws://localhost/ws/clients/123456789"},
-    };
-    for (const auto& [server, socket] : cases) {
-        m_client.connectToServer(QUrl(QLatin1String(server)), u"123456789"_s, u"tok"_s);
-        EXPECT_TRUE(m_log.contains(std::string("Connecting to signaling server: ") + socket));
-        m_client.disconnectFromServer();
-    }
+    m_client.connectToServer(QUrl(u"https://localhost:8443/any/path"_s), u"123456789"_s, u"tok"_s);
+    EXPECT_TRUE(m_log.contains("server: wss://localhost:8443/ws/clients/123456789"));
 }
 
 TEST_F(SignalingClientTest, ConnectedMeansAuthenticated) {

@@ -1,12 +1,9 @@
 #include "StunMessage.h"
-#include "NatProbe.h"
 
 #include <gtest/gtest.h>
 
 namespace corvane {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 /// "address:port", or "nothing".
 std::string parsed(const QByteArray& datagram) {
@@ -62,32 +59,6 @@ TEST(StunMessage, ATruncatedResponseSaysNothing) {
     const QByteArray whole = QByteArray::fromHex(kHeader + kUnknownPadded + kXor);
     for (qsizetype size = 0; size < whole.size(); ++size) {
         EXPECT_EQ(parsed(whole.left(size)), "nothing") << size;
-    }
-}
-
-TEST(NatProbe, ComparesTheMappingsInOrder) {
-    const auto at = [](const char* address, uint16_t port) {
-        return MappedAddress{QHostAddress(QString::fromLatin1(address)), port};
-    };
-    const auto here = at("192.0.2.1", 1000);
-    const QString own = u"192.0.2.1"_s;
-    const QString behind = u"10.0.0.2"_s;
-    const struct {
-        MappedAddress second;
-        QString local, type;
-    } cases[] = {
-        {here, own, u"Open"_s},
-        {at("192.0.2.1", 1001), own, u"Open"_s},
-        {at("192.0.2.9", 1000), own, u"Open"_s},
-        {here, behind, u"PortRestricted"_s},
-        {at("192.0.2.1", 1001), behind, u"SymmetricNAT"_s},
-        {at("192.0.2.9", 1000), behind, u"PortRestricted"_s},
-        {at("192.0.2.9", 1001), behind, u"PortRestricted"_s},
-        {at("192.0.2.1", 1001), QString(), u"SymmetricNAT"_s},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(NatProbe::classify(here, c.second, c.local), c.type)
-            << c.second.address.toString().toStdString() << ':' << c.second.port;
     }
 }
 

@@ -62,26 +62,27 @@ TEST(VersionComparison, ComparesNumberByNumber) {
 TEST_F(UpdateServiceTest, OnlyANewerVersionIsAnnounced) {
     const std::string same = "info|Update check: current=1.32, latest=";
     const struct {
-        QByteArray body;
-        std::vector<std::string> log;
+        QByteArray answer;
+        std::vector<testing::Matcher<std::string>> log;
         std::string announcement = {};
     } cases[] = {
-        {R"({"version":"1.33","download_url":"http://x/y","release_notes":"New"})",
+        {httpAnswer(R"({"version":"1.33","download_url":"http://x/y","release_notes":"New"})"),
          {same + "1.33", "info|Update available: v1.33"},
          "updateAvailable|1.33|http://x/y|New"},
-        {R"({"version":"2","download_url":7})",
+        {httpAnswer(R"({"version":"2","download_url":7})"),
          {same + "2", "info|Update available: v2"},
          "updateAvailable|2||"},
-        {R"({"version":"1.32","download_url":"http://x/y"})", {same + "1.32"}},
-        {R"({"version":"1.4"})", {same + "1.4"}},
-        {R"({"download_url":"http://x/y"})", {same}},
-        {R"({"version":133})", {same}},
-        {"[]", {same}},
-        {R"({"version":"1.33"})" + QByteArray(65536, ' '),
+        {httpAnswer(R"({"version":"1.32","download_url":"http://x/y"})"), {same + "1.32"}},
+        {httpAnswer(R"({"version":133})"), {same}},
+        {httpAnswer("[]"), {same}},
+        {httpAnswer("<html>"), {testing::StartsWith("warning|Update manifest parse error: ")}},
+        {httpAnswer(R"({"version":"1.33"})" + QByteArray(65536, ' ')),
          {"warning|Update check failed: The server sends more than 65536 bytes."}},
+        {"HTTP/1.1 500 Broken\r\n\r\n{\"version\":\"2\"}",
+         {testing::StartsWith("warning|Update check failed: ")}},
     };
     for (const auto& expected : cases) {
-        const CannedServer server(httpAnswer(expected.body));
+        const CannedServer server(expected.answer);
         m_options.manifestUrl = server.url().resolved(QUrl(u"/download/CorvaneSetup.json"_s));
         UpdateService service(nullptr, m_options);
         test::SignalLines lines(service, &UpdateService::updateAvailable);
@@ -91,26 +92,10 @@ TEST_F(UpdateServiceTest, OnlyANewerVersionIsAnnounced) {
         log.insert(log.begin(), "info|Checking for updates at " +
                                     m_options.manifestUrl.toString().toStdString());
         EXPECT_TRUE(QTest::qWaitFor([&] { return m_log.lines().size() >= log.size(); }));
-        EXPECT_EQ(m_log.lines(), log);
+        EXPECT_THAT(m_log.lines(), testing::ElementsAreArray(log));
         EXPECT_EQ(lines.isEmpty() ? "" : lines.next(), expected.announcement);
         EXPECT_EQ(service.latestVersion().isEmpty(), expected.announcement.empty());
     }
-}
-
-TEST_F(UpdateServiceTest, AFailedCheckIsOnlyLogged) {
-    const auto warningAfter = [this](const QByteArray& answer) {
-        const CannedServer server(answer);
-        m_options.manifestUrl = server.url();
-        UpdateService service(nullptr, m_options);
-        m_log.clear();
-        service.checkForUpdates();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return m_log.lines().size() == 2; }));
-        return m_log.lines().back();
-    };
-    EXPECT_THAT(warningAfter(httpAnswer("<html>")),
-                testing::StartsWith("warning|Update manifest parse error: "));
-    EXPECT_THAT(warningAfter("HTTP/1.1 500 Broken\r\n\r\n{\"version\":\"2\"}"),
-                testing::StartsWith("warning|Update check failed: "));
 }
 
 TEST_F(UpdateServiceTest, StoresUnpacksAndHandsOverTheInstaller) {
@@ -166,18 +151,6 @@ TEST_F(UpdateServiceTest, RefusesWhatIsTooSmallTooLargeOrCutShort) {
     EXPECT_EQ(downloadFrom(cutShort.url().toString()), "updateError|Connection closed");
     EXPECT_EQ(m_log.count("error|Update download failed: Connection closed"), 1);
     EXPECT_FALSE(QFile::exists(path("CorvaneSetup.zip"))) << "half an archive is left behind";
-}
-
-TEST_F(UpdateServiceTest, FollowsHttpOnly) {
-    const CannedServer redirecting("HTTP/1.1 302 Found\r\nLocation: file:///tmp/a.zip\r\n\r\n");
-    EXPECT_EQ(downloadFrom(redirecting.url().toString()),
-              "updateError|The server redirects to an address that is not safe to follow: "
-              "file:///tmp/a.zip");
-    EXPECT_EQ(downloadFrom(u"file:///tmp/a.zip"_s),
-              "updateError|Not an HTTP or HTTPS address: file:///tmp/a.zip");
-    EXPECT_EQ(m_log.count("error|Update download failed: Not an HTTP or HTTPS address: "
-                          "file:///tmp/a.zip"),
-              1);
 }
 
 TEST_F(UpdateServiceTest, NoInstallerIsAnError) {

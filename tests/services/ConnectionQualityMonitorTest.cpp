@@ -32,8 +32,7 @@ TEST_F(ConnectionQualityMonitorTest, LevelFollowsFramesAndLatency) {
         int changes; ///< so far
     } ticks[] = {
         {8, 99.9, Good, 0}, {30, 100, Fair, 1}, {30, 299.9, Fair, 1}, {7, 10, Fair, 1},
-        {4, 299, Fair, 1},  {30, 300, Poor, 2}, {3, 1, Poor, 2},      {0, 1, Poor, 2},
-        {0, 1, Poor, 2},    {60, 0, Good, 3},
+        {4, 299, Fair, 1},  {30, 300, Poor, 2}, {3, 1, Poor, 2},      {60, 0, Good, 3},
     };
     for (const auto& second : ticks) {
         tick(second.frames, second.latency);
@@ -76,10 +75,8 @@ TEST(ConnectionSummary, RoundsAndScales) {
         {{}, "FPS: 0 | Latency: 0ms | BW: 0 kbps | Uptime: 00:00:00"},
         {{.fps = 23.5, .latencyMs = 12.5, .bandwidthKbps = 999.6, .uptimeSeconds = 90'061},
          "FPS: 24 | Latency: 13ms | BW: 1000 kbps | Uptime: 25:01:01"},
-        {{.fps = 9.4, .latencyMs = 0.49, .bandwidthKbps = 1000, .uptimeSeconds = 359'999},
-         "FPS: 9 | Latency: 0ms | BW: 1.0 Mbps | Uptime: 99:59:59"},
-        {{.bandwidthKbps = 12'349, .uptimeSeconds = 360'000},
-         "FPS: 0 | Latency: 0ms | BW: 12.3 Mbps | Uptime: 100:00:00"},
+        {{.fps = 9.4, .latencyMs = 0.49, .bandwidthKbps = 1000, .uptimeSeconds = 360'000},
+         "FPS: 9 | Latency: 0ms | BW: 1.0 Mbps | Uptime: 100:00:00"},
     };
     for (const auto& [stats, text] : cases) {
         EXPECT_EQ(ConnectionQualityMonitor::summaryText(stats), QLatin1String(text));

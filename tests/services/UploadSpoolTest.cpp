@@ -1,16 +1,13 @@
 #include "UploadSpool.h"
+#include "Files.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace corvane::test {
 namespace {
 
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+using namespace Qt::StringLiterals;
 
 ByteVector piece(size_t size, size_t seed) {
     ByteVector bytes(size);
@@ -38,14 +35,13 @@ TEST(UploadSpool, KeepsTheOrderWhereverTheBytesAreKept) {
         EXPECT_EQ(spool.receivedSize(), total);
         EXPECT_FALSE(QFile::exists(path)) << "before it is complete";
         ASSERT_TRUE(spool.commit());
-        EXPECT_TRUE(QFile::exists(path));
         EXPECT_EQ(contentOf(path), expected);
     }
 }
 
 TEST(UploadSpool, AnAbsurdAnnouncementAllocatesLittle) {
     for (const quint64 announced : {quint64{1} << 63, ~quint64{0}}) {
-        UploadSpool spool(QStringLiteral("unused"), announced);
+        UploadSpool spool(u"unused"_s, announced);
         EXPECT_TRUE(spool.append(piece(10, 0)));
         EXPECT_EQ(spool.receivedSize(), 10U);
     }
@@ -53,17 +49,14 @@ TEST(UploadSpool, AnAbsurdAnnouncementAllocatesLittle) {
 
 TEST(UploadSpool, ReplacesAFileAndNothingElse) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("old file"));
-    QFile old(path);
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("a longer old content");
-    old.close();
+    const QString path = folder.filePath(u"old file"_s);
+    writeFile(path, "a longer old content");
     UploadSpool replacement(path, 3);
     replacement.append(piece(3, 'a'));
     EXPECT_TRUE(replacement.commit());
     EXPECT_EQ(contentOf(path).size(), 3);
-    for (const QString& impossible : {folder.path(), path + QStringLiteral("/below a file"),
-                                      folder.filePath(QStringLiteral("missing/file")), QString()}) {
+    for (const QString& impossible : {folder.path(), path + u"/below a file"_s,
+                                      folder.filePath(u"missing/file"_s), QString()}) {
         EXPECT_FALSE(UploadSpool(impossible, 0).commit()) << impossible.toStdString();
     }
 }

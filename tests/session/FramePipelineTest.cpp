@@ -16,6 +16,7 @@ public:
         int openings = 0;
         EncoderConfig config;
         bool forcedKeyframe = false;
+        uint8_t packets = 0;
     };
 
     explicit ScriptedEncoder(Script& script) : m_script(script) {}
@@ -34,7 +35,8 @@ public:
             return nullptr;
         }
         auto packet = std::make_unique<EncodedPacket>();
-        packet->data = {1, 2, 3};
+        packet->data = {1, 2, ++m_script.packets};
+        packet->isKeyframe = forceKeyframe;
         return packet;
     }
     bool isInitialized() const override { return m_open; }
@@ -73,12 +75,33 @@ TEST_F(FramePipelineTest, SealsTheBarePacket) {
     first.keyframeRequested = true;
     const auto sealed = m_pipeline.process(first);
     ASSERT_TRUE(sealed.has_value());
-    EXPECT_EQ(m_cipher.decrypt(sealed->data(), sealed->size()), (ByteVector{1, 2, 3}));
+    EXPECT_EQ(m_cipher.decrypt(sealed->data(), sealed->size()), (ByteVector{1, 2, 1}));
     EXPECT_TRUE(m_script.forcedKeyframe);
     EXPECT_EQ(m_script.config.width, 64);
     EXPECT_EQ(m_script.config.fps, 24);
     EXPECT_EQ(m_script.config.cqLevel, 23);
     EXPECT_EQ(m_script.config.keyframeInterval, 60);
+}
+
+TEST_F(FramePipelineTest, SendsAKeyFrameAgainWhileItsPictureStands) {
+    CapturedFrame still = frame(64, 48);
+    CapturedFrame changed = frame(64, 48);
+    changed.data.front() = 0xff;
+    CapturedFrame larger = frame(96, 48);
+    const struct {
+        CapturedFrame& frame;
+        bool keyframeRequested;
+        uint8_t packet;
+    } steps[] = {{still, true, 1},    {still, true, 1},   {changed, true, 2}, {changed, true, 2},
+                 {changed, false, 3}, {changed, true, 4}, {larger, true, 5},  {changed, true, 6}};
+    uint64_t counter = 0;
+    for (const auto& step : steps) {
+        step.frame.keyframeRequested = step.keyframeRequested;
+        const auto sealed = m_pipeline.process(step.frame);
+        ASSERT_TRUE(sealed);
+        EXPECT_EQ(m_cipher.decrypt(sealed->data(), sealed->size()).back(), step.packet) << counter;
+        EXPECT_EQ(sealed->front(), counter++) << "a message sealed as before";
+    }
 }
 
 TEST_F(FramePipelineTest, ReopensTheEncoderOncePerSize) {

@@ -21,13 +21,18 @@ bool eventually(const std::function<bool()>& holds) {
     return QTest::qWaitFor(holds, 10'000);
 }
 
-Device::Device(devserver::DevServer& server) {
-    const devserver::Device registered = server.registerDevice();
+Device::Device(devserver::DevServer& server)
+    : Device(server.url(), server.registerDevice(), [] { return nullptr; }) {}
+
+Device::Device(const QUrl& server, const devserver::Device& registered,
+               std::function<std::unique_ptr<IPeerTransport>()> peerTransport) {
+    SessionPlatform platform = createTestPlatform(machine);
+    platform.peerTransport = std::move(peerTransport);
     id = registered.clientId;
-    api.setServerUrl(server.url());
+    api.setServerUrl(server);
     api.setClientId(registered.clientId);
     api.setToken(registered.token);
-    session = std::make_unique<SessionManager>(&api, &signaling, createTestPlatform(machine));
+    session = std::make_unique<SessionManager>(&api, &signaling, std::move(platform));
     QObject::connect(&signaling, &SignalingClient::sessionAutoAccept, session.get(),
                      &SessionManager::acceptSession);
     QObject::connect(session.get(), &SessionManager::stateChanged, [this](SessionState state) {
@@ -38,7 +43,7 @@ Device::Device(devserver::DevServer& server) {
                      [this](const QString& error) { errors.append(error); });
     QObject::connect(session.get(), &SessionManager::frameDecoded,
                      [this](const std::shared_ptr<DecodedFrame>& frame) { picture = frame; });
-    signaling.connectToServer(server.url(), registered.clientId, registered.token);
+    signaling.connectToServer(server, registered.clientId, registered.token);
 }
 
 SessionTest::SessionTest() {

@@ -22,6 +22,10 @@ bool eventually(const std::function<bool()>& holds);
 struct Device {
     explicit Device(devserver::DevServer& server);
 
+    /// Of a server elsewhere, and able to connect directly.
+    Device(const QUrl& server, const devserver::Device& registered,
+           std::function<std::unique_ptr<IPeerTransport>()> peerTransport);
+
     QString id;
     ApiClient api;
     SignalingClient signaling;

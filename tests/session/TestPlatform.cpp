@@ -26,8 +26,10 @@ public:
         frame->width = m_machine->width;
         frame->height = m_machine->height;
         frame->stride = frame->width * 4;
-        frame->data = desktopScene(frame->width, frame->height, m_step++);
+        frame->data = desktopScene(frame->width, frame->height, m_machine->shown);
         frame->timestamp = monotonicMilliseconds();
+        m_machine->shownAt = frame->timestamp;
+        ++m_machine->shown;
         return frame;
     }
     std::vector<MonitorInfo> monitors() override { return {currentMonitor()}; }
@@ -41,7 +43,6 @@ public:
 private:
     std::shared_ptr<Machine> m_machine;
     std::atomic<bool> m_initialized{false};
-    int m_step = 0;
 };
 
 class RecordingInput : public IInputBackend {

@@ -16,7 +16,9 @@ struct Machine {
     std::atomic<int> framesToShow{1'000'000}; ///< pictures still to come; a still screen shows one
     std::atomic<int> width{160};
     std::atomic<int> height{120};
-    std::atomic<int> monitor{-1}; ///< the one captured now
+    std::atomic<int> monitor{-1};     ///< the one captured now
+    std::atomic<int> shown{0};        ///< pictures so far; each is the next step of the scene
+    std::atomic<uint64_t> shownAt{0}; ///< the last of them, monotonic milliseconds
     bool canCapture = true;
     std::vector<InputEvent> injected;
 };

@@ -1,8 +1,5 @@
 #include "LogCapture.h"
 #include "P2PTransport.h"
-#include "RelayTransport.h"
-#include "ScriptedRelay.h"
-#include "TransportManager.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -14,7 +11,6 @@
 namespace corvane {
 namespace {
 
-using namespace std::chrono_literals;
 using Messages = std::vector<std::pair<ChannelType, QByteArray>>;
 
 constexpr int kPatienceMs = 100'000;
@@ -32,15 +28,12 @@ bool send(ITransport& transport, ChannelType channel, const QByteArray& bytes) {
 }
 
 /// Carries descriptions and candidates of one side to the other, as signaling does.
-template <typename From, typename To>
-void carry(From* from, To* to) {
+void carry(const P2PTransport& from, P2PTransport& to) {
     QObject::connect(
-        from, &From::localDescriptionReady, to,
-        [to](const QString& type, const QString& sdp) { to->setRemoteDescription(sdp, type); });
-    QObject::connect(from, &From::localCandidateReady, to,
-                     [to](const QString& candidate, const QString& mid) {
-                         to->addRemoteCandidate(candidate, mid);
-                     });
+        &from, &IPeerTransport::localDescriptionReady, &to,
+        [&to](const QString& type, const QString& sdp) { to.setRemoteDescription(sdp, type); });
+    QObject::connect(&from, &IPeerTransport::localCandidateReady, &to,
+                     &IPeerTransport::addRemoteCandidate);
 }
 
 /// Two real transports in one process, over loopback or whatever the machine has.
@@ -57,8 +50,8 @@ protected:
     }
 
     void introduce() {
-        carry<IPeerTransport, IPeerTransport>(offerer.get(), answerer.get());
-        carry<IPeerTransport, IPeerTransport>(answerer.get(), offerer.get());
+        carry(*offerer, *answerer);
+        carry(*answerer, *offerer);
     }
 
     void connectPeers() {
@@ -198,48 +191,6 @@ TEST_F(PeerLoopbackTest, GarbageFromTheOtherSideIsRefusedAndTheRightAnswerStillC
     EXPECT_TRUE(log.contains("warning|P2PTransport: remote ICE candidate refused: "));
     EXPECT_TRUE(QTest::qWaitFor(
         [this] { return offerer->isConnected() && answerer->isConnected(); }, kPatienceMs));
-}
-
-class PeerManagersTest : public ::testing::Test {
-protected:
-    static PeerTransportFactory realPeer() { return createPeerTransport; }
-
-    std::vector<RelayCandidate> relayCandidates() const {
-        return {{QStringLiteral("node"), QStringLiteral("127.0.0.1"), relay.port(), -1}};
-    }
-
-    test::LogCapture log;
-    test::ScriptedRelay relay;
-    TransportManager master{nullptr, realPeer(), TransportManager::kPeerTimeout};
-    TransportManager target{nullptr, realPeer(), TransportManager::kPeerTimeout};
-    QSignalSpy masterReady{&master, &TransportManager::connectionEstablished};
-    QSignalSpy targetReady{&target, &TransportManager::connectionEstablished};
-};
-
-TEST_F(PeerManagersTest, BothChooseThePeerAndLeaveTheRelayAlone) {
-    carry(&master, &target);
-    carry(&target, &master);
-    target.establishConnection(u"s"_qs, 0, 0, relayCandidates(), false);
-    master.establishConnection(u"s"_qs, 0, 0, relayCandidates(), true);
-    for (QSignalSpy* ready : {&masterReady, &targetReady}) {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !ready->isEmpty(); }, kPatienceMs));
-        EXPECT_EQ(ready->first().first().toString(), u"p2p"_qs);
-    }
-    EXPECT_FALSE(relay.hasVisitor());
-    QSignalSpy arrived(target.activeTransport(), &ITransport::dataReceived);
-    EXPECT_TRUE(send(*master.activeTransport(), ChannelType::Control, "hello"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return arrived.count() == 1; }, kPatienceMs));
-}
-
-TEST_F(PeerManagersTest, APeerThatNeverAnswersCostsTheTimeLimitOnly) {
-    TransportManager alone(nullptr, realPeer(), 300ms);
-    QSignalSpy ready(&alone, &TransportManager::connectionEstablished);
-    alone.establishConnection(u"s"_qs, 0, 0, relayCandidates(), true);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !ready.isEmpty(); }, kPatienceMs));
-    EXPECT_EQ(ready.first().first().toString(), u"relay"_qs);
-    EXPECT_TRUE(relay.accept());
-    alone.setRemoteDescription(u"late"_qs, u"answer"_qs);
-    EXPECT_TRUE(log.contains("setRemoteDescription called with no PeerConnection"));
 }
 
 } // namespace

@@ -11,23 +11,16 @@ namespace {
 
 using test::frameBytes;
 using Frames = std::vector<std::pair<ChannelType, QByteArray>>;
-using Result = RelayFrameParser::Result;
 
-ByteSpan span(const QByteArray& bytes) {
-    return {reinterpret_cast<const uint8_t*>(bytes.constData()), static_cast<size_t>(bytes.size())};
-}
-
-/// Feeds one piece, collects its frames and returns what the parser said last.
-Result feed(RelayFrameParser& parser, const QByteArray& piece, Frames& frames) {
-    ByteSpan input = span(piece);
-    Result result = Result::NeedMoreData;
+/// Feeds one piece and collects its frames.
+void feed(RelayFrameParser& parser, const QByteArray& piece, Frames& frames) {
+    ByteSpan input{reinterpret_cast<const uint8_t*>(piece.constData()),
+                   static_cast<size_t>(piece.size())};
     while (!input.empty()) {
-        result = parser.consume(input);
-        if (result == Result::FrameReady) {
+        if (parser.consume(input) == RelayFrameParser::Result::FrameReady) {
             frames.emplace_back(parser.channel(), parser.takePayload());
         }
     }
-    return result;
 }
 
 TEST(RelayFrameParser, EverySplitOfAStreamYieldsTheSameFrames) {
@@ -47,28 +40,6 @@ TEST(RelayFrameParser, EverySplitOfAStreamYieldsTheSameFrames) {
             feed(parser, stream.mid(second), frames);
             ASSERT_EQ(frames, expected) << "split at " << first << " and " << second;
         }
-    }
-}
-
-TEST(RelayFrameParser, RefusedHeaderDropsThePieceAndTheNextOneStartsAfresh) {
-    const struct {
-        QByteArray header;
-        Result result;
-    } cases[] = {
-        {frameBytes(2, 0), Result::InvalidChannel},
-        {frameBytes(255, 0xFFFFFFFF), Result::InvalidChannel},
-        {frameBytes(1, 16'777'217), Result::PayloadTooLarge},
-        {frameBytes(0, 0xFFFFFFFF), Result::PayloadTooLarge},
-    };
-    for (const auto& item : cases) {
-        RelayFrameParser parser;
-        Frames frames;
-        EXPECT_EQ(feed(parser, item.header.left(4), frames), Result::NeedMoreData);
-        EXPECT_EQ(feed(parser, item.header.mid(4) + frameBytes(0, "dropped"), frames), item.result);
-        EXPECT_EQ(parser.channelByte(), static_cast<uint8_t>(item.header[0]));
-        EXPECT_TRUE(frames.empty());
-        EXPECT_EQ(feed(parser, frameBytes(1, "kept"), frames), Result::FrameReady);
-        EXPECT_EQ(frames, (Frames{{ChannelType::Video, "kept"}}));
     }
 }
 

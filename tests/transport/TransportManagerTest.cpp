@@ -15,6 +15,22 @@ using test::ScriptedPeerTransport;
 
 const QString kSession = QStringLiteral("s-1");
 
+TEST(RelayCandidate, SmallestKnownMetricWinsAndTiesKeepTheEarlier) {
+    const std::pair<std::vector<int32_t>, int> cases[] = {
+        {{}, -1},        {{-1}, 0},        {{-1, 30, 20, 20}, 2}, {{-1, -5}, 0},
+        {{5, -1, 5}, 0}, {{10, 0, -1}, 1}, {{-1, 7}, 1},          {{20, 30}, 0},
+    };
+    for (const auto& [metrics, chosen] : cases) {
+        std::vector<RelayCandidate> candidates;
+        for (const int32_t metric : metrics) {
+            candidates.push_back({QString(), QString(), 0, metric});
+        }
+        const RelayCandidate* choice = preferredRelay(candidates);
+        const auto index = choice == nullptr ? -1 : choice - candidates.data();
+        EXPECT_EQ(index, chosen) << "of " << metrics.size() << " candidates";
+    }
+}
+
 class TransportManagerTest : public ::testing::Test {
 protected:
     PeerTransportFactory scriptedPeer() {

@@ -1,5 +1,6 @@
 #include "FileManagerDialog.h"
 #include "FileTransferService.h"
+#include "Files.h"
 #include "LogCapture.h"
 #include "TransferRunner.h"
 
@@ -9,7 +10,6 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -23,17 +23,7 @@ namespace corvane {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-void writeFile(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-}
+using test::contentOf, test::writeFile;
 
 /// Counts how often a widget is painted.
 class PaintCounter : public QObject {
@@ -102,6 +92,16 @@ protected:
         m_statuses.clear();
     }
 
+    /// Leaves a question open on top of a download, with one more to come.
+    void downloadUntilAQuestion() {
+        openRemoteFolder();
+        selectLocal({u""_s});
+        writeFile(m_local + u"/a.txt"_s, "local a");
+        download({u"empty"_s, u"ü <b>.bin"_s});
+        download({u"a.txt"_s});
+        ASSERT_NE(question(), nullptr);
+    }
+
     /// Names, or sizes or types, from top to bottom.
     QStringList column(int column) const {
         QStringList texts;
@@ -111,19 +111,17 @@ protected:
         return texts;
     }
 
-    void selectRemote(const QStringList& names) const {
-        m_tree->clearSelection();
-        for (const QString& name : names) {
-            m_tree->findItems(name, Qt::MatchExactly).first()->setSelected(true);
-        }
+    QTreeWidgetItem* remoteItem(const QString& name) const {
+        return m_tree->findItems(name, Qt::MatchExactly).first();
     }
 
-    void selectLocal(const QStringList& paths) const {
+    /// Selects files of the local folder, or that itself, which has no name.
+    void selectLocal(const QStringList& names) const {
         auto* const view = m_dialog->findChild<QTreeView*>(u"localTree"_s);
         const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
         view->clearSelection();
-        for (const QString& path : paths) {
-            view->selectionModel()->select(model->index(path),
+        for (const QString& name : names) {
+            view->selectionModel()->select(model->index(m_local + u'/' + name),
                                            QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
     }
@@ -133,16 +131,15 @@ protected:
     }
 
     void download(const QStringList& names) const {
-        selectRemote(names);
+        m_tree->clearSelection();
+        for (const QString& name : names) {
+            remoteItem(name)->setSelected(true);
+        }
         click("downloadButton");
     }
 
     void upload(const QStringList& names) const {
-        QStringList paths;
-        for (const QString& name : names) {
-            paths << m_local + u'/' + name;
-        }
-        selectLocal(paths);
+        selectLocal(names);
         click("uploadButton");
     }
 
@@ -178,8 +175,6 @@ protected:
 };
 
 TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
-    EXPECT_EQ(m_dialog->windowTitle(), u"File Manager"_s);
-    EXPECT_EQ(m_dialog->size(), QSize(1000, 600));
     EXPECT_EQ(label("remotePathLabel"), u"<b>Remote: </b>/"_s);
     EXPECT_EQ(status(), u"Loading remote directory..."_s);
     settle();
@@ -188,26 +183,23 @@ TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
     openRemoteFolder();
     EXPECT_EQ(status(), u"4 items"_s);
     EXPECT_EQ(column(0), QStringList({u"a.txt"_s, u"empty"_s, u"sub dir"_s, u"ü <b>.bin"_s}));
-    EXPECT_EQ(column(1), QStringList({u"8 B"_s, u""_s, u""_s, u"192.0 KB"_s}));
     EXPECT_EQ(column(2), QStringList({u"File"_s, u"File"_s, u"Folder"_s, u"File"_s}));
     m_tree->sortByColumn(1, Qt::DescendingOrder);
     EXPECT_EQ(column(1), QStringList({u"192.0 KB"_s, u"8 B"_s, u""_s, u""_s}));
-    EXPECT_EQ(column(2).last(), u"Folder"_s);
 
     m_dialog->activateWindow(); // keys are shortcuts
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_dialog.get()));
     m_tree->setFocus();
-    m_tree->setCurrentItem(m_tree->findItems(u"a.txt"_s, Qt::MatchExactly).first());
-    QTest::keyClick(m_tree, Qt::Key_Return);
-    EXPECT_TRUE(m_messages.empty());
-    m_tree->setCurrentItem(m_tree->findItems(u"sub dir"_s, Qt::MatchExactly).first());
-    QTest::keyClick(m_tree, Qt::Key_Return);
+    for (const QString& name : {u"a.txt"_s, u"sub dir"_s}) {
+        m_tree->setCurrentItem(remoteItem(name));
+        QTest::keyClick(m_tree, Qt::Key_Return);
+    }
     EXPECT_EQ(column(0), QStringList());
     QTest::keyClick(m_tree, Qt::Key_Backspace);
-    ASSERT_EQ(m_messages.size(), 2U);
-    deliver();
-    deliver();
-    deliver(); // the answer about "sub dir", which is no longer shown
+    ASSERT_EQ(m_messages.size(), 2U) << "a file is no folder";
+    for (int i = 0; i < 3; ++i) {
+        deliver(); // the last is the answer about "sub dir", which is no longer shown
+    }
     EXPECT_EQ(column(0), QStringList());
     EXPECT_EQ(status(), u"Loading remote directory..."_s);
     settle();
@@ -222,19 +214,19 @@ TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
     click("remoteBackButton");
     settle();
     EXPECT_EQ(status(), u"4 items"_s);
-    EXPECT_EQ(m_dialog->width(), 1000);
+    EXPECT_EQ(m_dialog->size(), QSize(1000, 600));
     QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
     EXPECT_FALSE(m_dialog->isVisible());
 }
 
 TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
     openRemoteFolder();
-    click("downloadButton");
+    download({});
     EXPECT_EQ(status(), u"Select one or more remote files to download."_s);
     download({u"sub dir"_s});
     EXPECT_EQ(status(), u"No files selected (folders are skipped)."_s);
 
-    selectLocal({m_local});
+    selectLocal({u"up 2"_s}); // stands for its folder
     download({u"a.txt"_s, u"sub dir"_s, u"ü <b>.bin"_s});
     EXPECT_EQ(percent(), 0);
     deliver();
@@ -254,29 +246,19 @@ TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
     EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "remote a");
     EXPECT_EQ(contentOf(m_local + u"/ü <b>.bin"_s), m_large);
     EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
-
-    // A selected file stands for its folder.
-    selectLocal({m_local + u"/up 2"_s});
-    EXPECT_TRUE(QFile::remove(m_local + u"/empty"_s));
-    download({u"empty"_s});
-    EXPECT_EQ(status(), u"Downloading 1 of 1: empty"_s);
-    settle();
-    EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
 }
 
 TEST_F(FileManagerDialogTest, UploadsUnderVisibleProgress) {
     openRemoteFolder();
-    click("uploadButton");
-    EXPECT_EQ(status(), u"Select one or more local files to upload."_s);
-    upload({u""_s});
-    EXPECT_EQ(status(), u"Select one or more local files to upload."_s);
-
+    for (const QStringList& nothing : {QStringList(), QStringList(u""_s)}) {
+        upload(nothing);
+        EXPECT_EQ(status(), u"Select one or more local files to upload."_s);
+    }
     const auto* const bar = new PaintCounter(m_dialog->findChild<QProgressBar*>());
-    const auto* const line = new PaintCounter(m_dialog->findChild<QLabel*>(u"transferStatus"_s));
     QStringList seen;
     int barBefore = bar->count;
     m_service->setPacing([&] { // inside the upload, without an event loop
-        if (line->count > 0 && bar->count > barBefore) {
+        if (bar->count > barBefore) {
             seen << status();
         }
         barBefore = bar->count;
@@ -288,10 +270,8 @@ TEST_F(FileManagerDialogTest, UploadsUnderVisibleProgress) {
     EXPECT_EQ(seen, QStringList({first, first, first, first, u"Uploading 2 of 2: up 2"_s}));
     EXPECT_EQ(status(), u"All uploads complete."_s);
     EXPECT_EQ(percent(), 100);
-    EXPECT_EQ(m_dialog->findChild<QProgressBar*>()->text(), u"100%"_s);
     EXPECT_EQ(contentOf(m_remote + u"/up 1"_s), m_large);
     EXPECT_EQ(contentOf(m_remote + u"/up 2"_s), "2");
-    EXPECT_TRUE(column(0).contains(u"up 1"_s));
 }
 
 TEST_F(FileManagerDialogTest, AsksBeforeItOverwrites) {
@@ -299,11 +279,10 @@ TEST_F(FileManagerDialogTest, AsksBeforeItOverwrites) {
     writeFile(m_local + u"/a.txt"_s, "local a");
     writeFile(m_local + u"/empty"_s, "not empty");
     writeFile(m_local + u"/sub dir"_s, "a file here, a folder there");
-    selectLocal({m_local});
+    selectLocal({u""_s});
     for (const auto button : {QMessageBox::NoButton, QMessageBox::No, QMessageBox::Yes}) {
         download({u"a.txt"_s, u"empty"_s, u"ü <b>.bin"_s});
         ASSERT_NE(question(), nullptr);
-        EXPECT_EQ(question()->windowTitle(), u"Overwrite?"_s);
         EXPECT_EQ(question()->text(), u"These files already exist locally and will be "
                                       "overwritten:\na.txt\nempty\n\nContinue?"_s);
         EXPECT_EQ(question()->defaultButton(), question()->button(QMessageBox::No));
@@ -335,43 +314,22 @@ TEST_F(FileManagerDialogTest, StaysInTheChosenFolderWhateverTheNames) {
     openRemoteFolder();
     QList<FileEntry> entries;
     QStringList names;
-    for (const QString& name : {u"../up 1"_s, m_local + u"/up 1"_s, u".."_s, uR"(..\up 1)"_s,
-                                QString(u'a') + QChar(0), u"\n2026 forged"_s + QChar(0)}) {
+    for (const QString& name :
+         {u"../up 1"_s, m_local + u"/up 1"_s, u"\n2026 forged"_s + QChar(0)}) {
         entries.append({name, false, 1});
         names << name;
     }
     m_dialog->onRemoteDirectoryListed(m_remote, entries);
-    selectLocal({m_local});
+    selectLocal({u""_s});
     download(names);
-    EXPECT_EQ(status(), u"No files selected (folders are skipped)."_s);
     EXPECT_TRUE(m_messages.empty());
-    int skipped = 0;
-    for (const std::string& line : m_log.lines()) {
-        skipped += line.starts_with("warning|FileManagerDialog: skipping '") ? 1 : 0;
-        EXPECT_EQ(line.find('\n'), std::string::npos);
-    }
-    EXPECT_EQ(skipped, 6);
-
-    // A question about hundreds of long names still fits on the screen.
-    entries.clear();
-    names.clear();
-    for (int i = 0; i < 300; ++i) {
-        names << QString::number(i) + QString(200, u'W');
-        entries.append({names.back(), false, 1});
-        writeFile(m_local + u'/' + names.back(), {});
-    }
-    m_dialog->onRemoteDirectoryListed(m_remote, entries);
-    download(names);
-    ASSERT_NE(question(), nullptr);
-    const QSize screen = m_dialog->screen()->size();
-    EXPECT_LT(question()->height(), screen.height());
-    EXPECT_LT(question()->width(), screen.width());
-    EXPECT_TRUE(question()->text().endsWith(u"\n… (+288)\n\nContinue?"));
+    EXPECT_TRUE(m_log.contains("warning|FileManagerDialog: skipping '"));
+    EXPECT_FALSE(m_log.contains("\n"));
 }
 
 TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
     openRemoteFolder();
-    selectLocal({m_local});
+    selectLocal({u""_s});
     EXPECT_TRUE(QFile::remove(m_remote + u"/a.txt"_s));
     download({u"a.txt"_s, u"empty"_s});
     upload({u"up 2"_s}); // waits for the downloads
@@ -384,13 +342,7 @@ TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
     settle();
     EXPECT_TRUE(status().startsWith(u"Error: "));
 
-    selectLocal({m_local + u"/up 2"_s});
-    EXPECT_TRUE(QFile::remove(m_local + u"/up 2"_s));
-    click("uploadButton");
-    settle();
-    EXPECT_TRUE(status().startsWith(u"Error: Cannot open local file: ")) << status().toStdString();
-
-    selectLocal({m_local});
+    selectLocal({u""_s});
     download({u"empty"_s}); // a new batch, counted anew
     EXPECT_EQ(status(), u"Downloading 1 of 1: empty"_s);
     settle();
@@ -399,15 +351,14 @@ TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
     download({u"ü <b>.bin"_s});
     m_messages.clear();
     settle();
-    EXPECT_TRUE(status().startsWith(u"Error: The request could not be sent"))
-        << status().toStdString();
+    EXPECT_TRUE(status().startsWith(u"Error: The request could not be sent"));
 }
 
 TEST_F(FileManagerDialogTest, GoesOnWhenOnlyAFolderCannotBeListed) {
     openRemoteFolder();
-    selectLocal({m_local});
+    selectLocal({u""_s});
     EXPECT_TRUE(QDir(m_remote).rmdir(u"sub dir"_s));
-    Q_EMIT m_tree->itemDoubleClicked(m_tree->findItems(u"sub dir"_s, Qt::MatchExactly).first(), 0);
+    Q_EMIT m_tree->itemDoubleClicked(remoteItem(u"sub dir"_s), 0);
     click("remoteBackButton");
     m_dialog->onRemoteDirectoryListed(m_remote, {{u"a.txt"_s, false, 1}, {u"empty"_s, false, 1}});
     download({u"a.txt"_s, u"empty"_s});
@@ -417,11 +368,7 @@ TEST_F(FileManagerDialogTest, GoesOnWhenOnlyAFolderCannotBeListed) {
 }
 
 TEST_F(FileManagerDialogTest, OutlivesItsService) {
-    openRemoteFolder();
-    selectLocal({m_local});
-    writeFile(m_local + u"/a.txt"_s, "local a");
-    download({u"empty"_s, u"ü <b>.bin"_s});
-    download({u"a.txt"_s});
+    downloadUntilAQuestion();
     m_service.reset();
     EXPECT_EQ(status(), u"The session has ended."_s);
     answer(QMessageBox::Yes);
@@ -431,19 +378,10 @@ TEST_F(FileManagerDialogTest, OutlivesItsService) {
     settle();
     EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "local a");
     EXPECT_EQ(status(), u"The session has ended."_s);
-
-    FileManagerDialog unconnected(nullptr);
-    unconnected.show();
-    EXPECT_EQ(unconnected.findChild<QLabel*>(u"transferStatus"_s)->text(), QString());
 }
 
 TEST_F(FileManagerDialogTest, MayDieInTheMiddleOfAnything) {
-    openRemoteFolder();
-    selectLocal({m_local});
-    writeFile(m_local + u"/a.txt"_s, "local a");
-    download({u"empty"_s, u"ü <b>.bin"_s});
-    download({u"a.txt"_s});
-    ASSERT_NE(question(), nullptr);
+    downloadUntilAQuestion();
     m_dialog.reset();
     settle();
     EXPECT_EQ(contentOf(m_local + u"/empty"_s), ""); // what was asked for arrives
@@ -458,7 +396,7 @@ TEST_F(FileManagerDialogTest, MayDieInTheMiddleOfAnything) {
     upload({u"up 1"_s});
     settle();
     EXPECT_EQ(m_dialog, nullptr);
-    EXPECT_EQ(m_log.contains("FileTransfer: upload complete"), true);
+    EXPECT_TRUE(m_log.contains("FileTransfer: upload complete"));
 }
 
 } // namespace

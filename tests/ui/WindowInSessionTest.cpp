@@ -5,7 +5,6 @@
 
 #include <QDialog>
 #include <QDir>
-#include <QMenu>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -17,6 +16,8 @@ using test::eventually;
 
 class WindowInSessionTest : public test::WindowFixture {
 protected:
+    void SetUp() override { start(); }
+
     template <typename Dialog>
     Dialog* shown(const char* objectName) const {
         auto* const dialog = widget<Dialog>(objectName);
@@ -32,7 +33,6 @@ protected:
 };
 
 TEST_F(WindowInSessionTest, ChatsAsViewerWithoutTakingTheScreen) {
-    start();
     const auto partner = viewNewDevice();
     ASSERT_NE(partner, nullptr);
     QStringList received;
@@ -58,8 +58,7 @@ TEST_F(WindowInSessionTest, ChatsAsViewerWithoutTakingTheScreen) {
     EXPECT_TRUE(eventually([&] { return widget<QDialog>("chatDialog") == nullptr; }));
 }
 
-TEST_F(WindowInSessionTest, PutsTheChatBeforeWhoeverSharesTheScreen) {
-    start();
+TEST_F(WindowInSessionTest, SharesTheScreenAndPutsTheChatBeforeIt) {
     const auto viewer = createDevice();
     ASSERT_TRUE(
         eventually([this] { return m_server.signalingMessages(m_api.clientId()).size() >= 2; }));
@@ -68,20 +67,30 @@ TEST_F(WindowInSessionTest, PutsTheChatBeforeWhoeverSharesTheScreen) {
         ASSERT_TRUE(eventually(
             [&] { return viewer->is(SessionState::Connected) && is(SessionState::Connected); }));
         viewer->session->chatService()->sendMessage(text);
-        ASSERT_TRUE(eventually([&] { return shown<QDialog>("chatDialog") != nullptr; }));
+        ASSERT_TRUE(eventually([&] { return shown<QDialog>("chatDialog") && viewer->picture; }));
+        EXPECT_EQ(status(), u"Connected|#007700"_s);
+        EXPECT_FALSE(isViewing());
+        EXPECT_TRUE(boxes().isEmpty());
         EXPECT_TRUE(transcript().contains(text));
         EXPECT_EQ(transcript().count(u"session"_s), 1) << "a new session starts a new transcript";
-        viewer->session->endSession(u"test"_s);
+        click("disconnectButton");
         ASSERT_TRUE(eventually(
-            [&] { return is(SessionState::Idle) && widget<QDialog>("chatDialog") == nullptr; }));
+            [&] { return viewer->is(SessionState::Idle) && !widget<QDialog>("chatDialog"); }));
+        EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
     }
-    EXPECT_TRUE(m_log.contains("info|setupChatDialog: chatService=true"));
+    EXPECT_TRUE(m_log.contains(" (password verified)"));
 }
 
-TEST_F(WindowInSessionTest, OpensFilesAndInformationOverTheSession) {
-    start();
+TEST_F(WindowInSessionTest, ShowsQualityFilesAndInformation) {
     const auto partner = viewNewDevice();
     ASSERT_NE(partner, nullptr);
+    const auto* const swatch = widget<QWidget>("qualityIndicator");
+    EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
+    m_window.onStatsUpdated({.fps = 29.9, .latencyMs = 400});
+    EXPECT_EQ(m_window.windowTitle(), u"Corvane - %1 [29 FPS]"_s.arg(formatPartnerId(partner->id)));
+    EXPECT_TRUE(swatch->toolTip().contains(u"(29 FPS, 400ms)"));
+    EXPECT_TRUE(eventually([&] { return label("qualitySummaryLabel").startsWith(u"FPS: "_s); }));
+
     click("filesButton");
     ASSERT_NE(shown<QDialog>("fileManagerDialog"), nullptr);
     const auto* const remote = widget<QTreeWidget>("remoteTree");
@@ -96,30 +105,6 @@ TEST_F(WindowInSessionTest, OpensFilesAndInformationOverTheSession) {
     partner->session->endSession(u"test"_s);
     EXPECT_TRUE(eventually([&] { return is(SessionState::Idle); }));
     EXPECT_TRUE(eventually([&] { return m_window.findChildren<QDialog*>().isEmpty(); }));
-}
-
-TEST_F(WindowInSessionTest, ShowsTheQualityOfTheConnection) {
-    start();
-    const auto partner = viewNewDevice();
-    ASSERT_NE(partner, nullptr);
-    const auto* const swatch = widget<QWidget>("qualityIndicator");
-    EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
-    const struct {
-        ConnectionStats stats;
-        const char* title;
-    } cases[] = {
-        {{.fps = 29.9, .latencyMs = 20}, "[29 FPS]"},
-        {{.fps = 0, .latencyMs = 400}, "[0 FPS]"},
-    };
-    for (const auto& c : cases) {
-        m_window.onStatsUpdated(c.stats);
-        EXPECT_EQ(m_window.windowTitle(),
-                  u"Corvane - %1 %2"_s.arg(formatPartnerId(partner->id), QLatin1String(c.title)));
-        EXPECT_TRUE(swatch->toolTip().contains(
-            u"(%1 FPS, %2ms)"_s.arg(int(c.stats.fps)).arg(int(c.stats.latencyMs))));
-    }
-    EXPECT_TRUE(eventually([&] { return label("qualitySummaryLabel").startsWith(u"FPS: "_s); }));
-    click("viewerDisconnectButton");
     EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
     EXPECT_TRUE(label("qualitySummaryLabel").isEmpty());
 }

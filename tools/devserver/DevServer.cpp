@@ -34,7 +34,7 @@ DevServer::DevServer(QObject* parent)
 DevServer::~DevServer() = default;
 
 bool DevServer::start(const DevServerConfig& config, QString* error) {
-    if (!config.address.isLoopback()) {
+    if (config.loopbackOnly && !config.address.isLoopback()) {
         return refuse(
             error, QStringLiteral("%1 is not a loopback address").arg(config.address.toString()));
     }

@@ -1,4 +1,5 @@
 #include "Autostart.h"
+#include "Files.h"
 #include "ISystemIntegration.h"
 #include "QuitOnRequest.h"
 #include "SingleInstanceGuard.h"
@@ -7,7 +8,6 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -77,36 +77,30 @@ TEST_F(ProgramTest, StartsWithTheDesktopFromAnyPath) {
         return;
     }
     EXPECT_TRUE(installAutostart());
-    QFile entry(m_home.filePath(u"autostart/CorvaneClient.desktop"_s));
+    const QString entry = m_home.filePath(u"autostart/CorvaneClient.desktop"_s);
     EXPECT_TRUE(uninstallAutostart());
-    EXPECT_FALSE(entry.exists());
+    EXPECT_FALSE(QFile::exists(entry));
     EXPECT_FALSE(uninstallAutostart());
 
     const QString program = m_home.filePath(uR"(a "b" $c `d` 100% e\f ü)"_s);
     ASSERT_TRUE(QFile::copy(qApp->applicationFilePath(), program));
     startChild(program);
     ASSERT_TRUE(m_child.waitForFinished(30'000));
-    ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
     const QString exec =
         u"Exec=\""_s + m_home.path() + uR"(/a \\"b\\" \\$c \\`d\\` 100%% e\\\\f ü")"_s;
-    EXPECT_TRUE(QString::fromUtf8(entry.readAll()).split(u'\n').contains(exec));
+    EXPECT_TRUE(QString::fromUtf8(test::contentOf(entry)).split(u'\n').contains(exec));
 }
 
 TEST_F(ProgramTest, StartsWithTheDesktopAsChosen) {
     const auto integration = createSystemIntegration();
-    const auto startsAfter = [&](bool chosen) {
-        EXPECT_TRUE(integration->apply({.startAtLogon = chosen, .runService = false}).result());
-        return integration->startsAtLogon().result();
-    };
-    EXPECT_FALSE(integration->startsAtLogon().result());
     for (const bool chosen : {false, true, true, false}) {
-        EXPECT_EQ(startsAfter(chosen), chosen);
+        EXPECT_TRUE(integration->apply({.startAtLogon = chosen, .runService = false}).result());
+        EXPECT_EQ(integration->startsAtLogon().result(), chosen);
     }
     EXPECT_FALSE(integration->hasService());
     const QString folder = m_home.filePath(u"autostart"_s);
     ASSERT_TRUE(QDir().rmdir(folder));
-    QFile inTheWay(folder);
-    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    test::writeFile(folder, "in the way");
     EXPECT_FALSE(integration->apply({.startAtLogon = true, .runService = false}).result());
 }
 

@@ -1,10 +1,12 @@
 #include "SystemIntegration.h"
+#include "IntegrationCommand.h"
 
 #include <QCoreApplication>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include <mutex>
+#include <utility>
 
 namespace corvane {
 namespace {
@@ -85,28 +87,16 @@ struct Elevation {
 
 TEST(ElevatedCommand, WaitsForThePermittedCommandOnly) {
     const QString start = u"0|runas|cmd.exe|/c echo \"a\" & echo %1"_s;
-    const struct {
-        bool permits;
-        HANDLE process;
-        DWORD waitResult;
-        QStringList calls;
-    } cases[] = {
-        {true,
-         reinterpret_cast<HANDLE>(quintptr{8}),
-         WAIT_OBJECT_0,
-         {start, u"wait 30000"_s, u"close"_s}},
-        {true,
-         reinterpret_cast<HANDLE>(quintptr{8}),
-         WAIT_TIMEOUT,
-         {start, u"wait 30000"_s, u"close"_s}},
-        {true, nullptr, WAIT_FAILED, {start}},
-        {false, nullptr, WAIT_FAILED, {start}},
+    const QStringList waited{start, u"wait 30000"_s, u"close"_s};
+    const std::pair<Elevation, QStringList> cases[] = {
+        {{}, waited},
+        {{.waitResult = WAIT_TIMEOUT, .calls = {}}, waited},
+        {{.process = nullptr, .calls = {}}, {start}},
+        {{.permits = false, .calls = {}}, {start}},
     };
-    for (const auto& c : cases) {
-        Elevation script{
-            .permits = c.permits, .process = c.process, .waitResult = c.waitResult, .calls = {}};
-        EXPECT_EQ(runElevated(u"echo \"a\" & echo %1"_s, script.functions()), c.permits);
-        EXPECT_EQ(script.calls.join(u'\n').toStdString(), c.calls.join(u'\n').toStdString());
+    for (auto [script, calls] : cases) {
+        EXPECT_EQ(runElevated(u"echo \"a\" & echo %1"_s, script.functions()), script.permits);
+        EXPECT_EQ(script.calls.join(u'\n').toStdString(), calls.join(u'\n').toStdString());
     }
 }
 
@@ -125,14 +115,12 @@ TEST(SystemIntegration, AppliesWithOneElevatedCommandOffTheCallersThread) {
     EXPECT_FALSE(answer.isFinished());
     untilAsked.unlock();
     EXPECT_TRUE(answerOf(answer));
-    const QString program = QCoreApplication::applicationFilePath().replace(u'/', u'\\');
     ASSERT_EQ(script.calls.size(), 3);
-    const QString expected =
-        uR"(0|runas|cmd.exe|/c schtasks /create /tn "CorvaneClient" /tr "\"%1\"" )"
-        uR"(/sc onlogon /rl highest /f & net stop CorvaneService & )"
-        uR"("%2/CorvaneService.exe" --uninstall)"_s.arg(program,
-                                                        QCoreApplication::applicationDirPath());
-    EXPECT_EQ(script.calls[0].toStdString(), expected.toStdString());
+    const QString command =
+        integrationCommandLine({.startAtLogon = true, .runService = false},
+                               QCoreApplication::applicationFilePath().replace(u'/', u'\\'),
+                               QCoreApplication::applicationDirPath());
+    EXPECT_EQ(script.calls[0], u"0|runas|cmd.exe|/c "_s + command);
 }
 
 } // namespace

@@ -17,22 +17,15 @@ using ::testing::SizeIs;
 using Type = InputEventType;
 
 InputEvent mouseEvent(Type type, double x, double y, int button = 1, int16_t wheel = 0) {
-    InputEvent event;
-    event.type = type;
-    event.x = x;
-    event.y = y;
-    event.button = static_cast<MouseButton>(button);
-    event.wheelDelta = wheel;
-    return event;
+    return {.type = type,
+            .x = x,
+            .y = y,
+            .button = static_cast<MouseButton>(button),
+            .wheelDelta = wheel};
 }
 
 InputEvent keyEvent(Type type, uint32_t keyCode, uint32_t scanCode, bool extended = false) {
-    InputEvent event;
-    event.type = type;
-    event.keyCode = keyCode;
-    event.scanCode = scanCode;
-    event.extended = extended;
-    return event;
+    return {.type = type, .keyCode = keyCode, .scanCode = scanCode, .extended = extended};
 }
 
 /// The 40 bytes of a record as 32-bit words, as the system reads them.

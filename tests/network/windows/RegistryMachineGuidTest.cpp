@@ -11,34 +11,24 @@
 namespace corvane {
 namespace {
 
-class RegistryMachineGuidTest : public testing::Test {
-protected:
-    int warnings() const {
-        return m_log.count("warning|MachineFingerprint: could not read MachineGuid from registry");
-    }
-
-    const test::ScratchSettings m_place;
-    test::LogCapture m_log;
-    const QString m_key = QStringLiteral("HKEY_CURRENT_USER\\SOFTWARE\\Identity");
-    QSettings m_registry{m_key, QSettings::NativeFormat};
-};
-
-TEST_F(RegistryMachineGuidTest, ReadsTheValue) {
+TEST(RegistryMachineGuid, WarnsOfAMissingOrEmptyValue) {
+    const test::ScratchSettings place;
+    const test::LogCapture log;
+    const QString key = QStringLiteral("HKEY_CURRENT_USER\\SOFTWARE\\Identity");
     const QString guid = QStringLiteral("4c4c4544-0042-3010-8051-b4c04f4d3532");
-    m_registry.setValue(QStringLiteral("MachineGuid"), guid);
-    EXPECT_EQ(registryMachineGuid(m_key), guid);
-    EXPECT_EQ(warnings(), 0);
+    QSettings registry(key, QSettings::NativeFormat);
+    int warnings = 1;
+    EXPECT_EQ(registryMachineGuid(key), QString()) << "no such key";
+    for (const QString& value : {guid, QString()}) {
+        registry.setValue(QStringLiteral("MachineGuid"), value);
+        EXPECT_EQ(registryMachineGuid(key), value);
+        warnings += value.isEmpty() ? 1 : 0;
+        EXPECT_EQ(log.count("warning|MachineFingerprint: could not read MachineGuid from registry"),
+                  warnings);
+    }
 }
 
-TEST_F(RegistryMachineGuidTest, WarnsOfAMissingOrEmptyValue) {
-    EXPECT_EQ(registryMachineGuid(m_key), QString()) << "no such key";
-    EXPECT_EQ(warnings(), 1);
-    m_registry.setValue(QStringLiteral("MachineGuid"), QString());
-    EXPECT_EQ(registryMachineGuid(m_key), QString()) << "empty";
-    EXPECT_EQ(warnings(), 2);
-}
-
-TEST_F(RegistryMachineGuidTest, TheMachineHasOne) {
+TEST(RegistryMachineGuid, TheMachineHasOne) {
     const QString guid = machineGuid();
     EXPECT_FALSE(QUuid::fromString(guid).isNull()) << guid.toStdString();
     EXPECT_EQ(machineGuid(), guid);

@@ -14,8 +14,8 @@ int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     spdlog::set_level(spdlog::level::off);
 
-    corvane::test::PeerBridge bridge;
-    QObject::connect(&bridge, &corvane::test::PeerBridge::event, [](const QJsonObject& event) {
+    corvane::PeerBridge bridge;
+    QObject::connect(&bridge, &corvane::PeerBridge::event, [](const QJsonObject& event) {
         std::puts(QJsonDocument(event).toJson(QJsonDocument::Compact).constData());
         std::fflush(stdout);
     });

@@ -1,6 +1,6 @@
 #include "PeerBridge.h"
 
-namespace corvane::test {
+namespace corvane {
 
 namespace {
 
@@ -77,4 +77,4 @@ void PeerBridge::send(const QJsonObject& command) {
     Q_EMIT event({{u"event"_s, u"sent"_s}, {u"ok"_s, sent}, {u"sum"_s, checksum(bytes)}});
 }
 
-} // namespace corvane::test
+} // namespace corvane

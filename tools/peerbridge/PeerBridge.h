@@ -5,7 +5,7 @@
 #include <QJsonObject>
 #include <QObject>
 
-namespace corvane::test {
+namespace corvane {
 
 /// Lets another program drive a `P2PTransport` in JSON: one object per command and per event.
 ///
@@ -31,4 +31,4 @@ private:
     P2PTransport m_transport;
 };
 
-} // namespace corvane::test
+} // namespace corvane
