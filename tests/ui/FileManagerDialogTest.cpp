@@ -50,7 +50,7 @@ protected:
             EXPECT_TRUE(QDir().mkpath(folder));
         }
         writeFile(m_remote + u"/a.txt"_s, "remote a");
-        writeFile(m_remote + u"/ü <b>.bin"_s, m_large);
+        writeFile(m_remote + u"/ü &amp; b.bin"_s, m_large);
         writeFile(m_remote + u"/empty"_s, {});
         writeFile(m_local + u"/up 1"_s, m_large);
         writeFile(m_local + u"/up 2"_s, "2");
@@ -97,7 +97,7 @@ protected:
         openRemoteFolder();
         selectLocal({u""_s});
         writeFile(m_local + u"/a.txt"_s, "local a");
-        download({u"empty"_s, u"ü <b>.bin"_s});
+        download({u"empty"_s, u"ü &amp; b.bin"_s});
         download({u"a.txt"_s});
         ASSERT_NE(question(), nullptr);
     }
@@ -182,7 +182,7 @@ TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
 
     openRemoteFolder();
     EXPECT_EQ(status(), u"4 items"_s);
-    EXPECT_EQ(column(0), QStringList({u"a.txt"_s, u"empty"_s, u"sub dir"_s, u"ü <b>.bin"_s}));
+    EXPECT_EQ(column(0), QStringList({u"a.txt"_s, u"empty"_s, u"sub dir"_s, u"ü &amp; b.bin"_s}));
     EXPECT_EQ(column(2), QStringList({u"File"_s, u"File"_s, u"Folder"_s, u"File"_s}));
     m_tree->sortByColumn(1, Qt::DescendingOrder);
     EXPECT_EQ(column(1), QStringList({u"192.0 KB"_s, u"8 B"_s, u""_s, u""_s}));
@@ -227,7 +227,7 @@ TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
     EXPECT_EQ(status(), u"No files selected (folders are skipped)."_s);
 
     selectLocal({u"up 2"_s}); // stands for its folder
-    download({u"a.txt"_s, u"sub dir"_s, u"ü <b>.bin"_s});
+    download({u"a.txt"_s, u"sub dir"_s, u"ü &amp; b.bin"_s});
     EXPECT_EQ(percent(), 0);
     deliver();
     download({u"empty"_s}); // joins the batch
@@ -239,12 +239,12 @@ TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
     }
     EXPECT_EQ(statuses,
               QStringList({u"Downloading 1 of 2: a.txt"_s, u"Downloading 1 of 3: a.txt"_s,
-                           u"Downloaded: a.txt — 2 remaining"_s, u"Downloading 2 of 3: ü <b>.bin"_s,
-                           u"Downloaded: ü <b>.bin — 1 remaining"_s, u"Downloading 3 of 3: empty"_s,
+                           u"Downloaded: a.txt — 2 remaining"_s, u"Downloading 2 of 3: ü &amp; b.bin"_s,
+                           u"Downloaded: ü &amp; b.bin — 1 remaining"_s, u"Downloading 3 of 3: empty"_s,
                            u"Downloaded: empty — 0 remaining"_s, u"All downloads complete."_s}));
     EXPECT_EQ(percent(), 100);
     EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "remote a");
-    EXPECT_EQ(contentOf(m_local + u"/ü <b>.bin"_s), m_large);
+    EXPECT_EQ(contentOf(m_local + u"/ü &amp; b.bin"_s), m_large);
     EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
 }
 
@@ -281,7 +281,7 @@ TEST_F(FileManagerDialogTest, AsksBeforeItOverwrites) {
     writeFile(m_local + u"/sub dir"_s, "a file here, a folder there");
     selectLocal({u""_s});
     for (const auto button : {QMessageBox::NoButton, QMessageBox::No, QMessageBox::Yes}) {
-        download({u"a.txt"_s, u"empty"_s, u"ü <b>.bin"_s});
+        download({u"a.txt"_s, u"empty"_s, u"ü &amp; b.bin"_s});
         ASSERT_NE(question(), nullptr);
         EXPECT_EQ(question()->text(), u"These files already exist locally and will be "
                                       "overwritten:\na.txt\nempty\n\nContinue?"_s);
@@ -348,7 +348,7 @@ TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
     settle();
     EXPECT_EQ(status(), u"All downloads complete."_s);
     m_isConnected = false;
-    download({u"ü <b>.bin"_s});
+    download({u"ü &amp; b.bin"_s});
     m_messages.clear();
     settle();
     EXPECT_TRUE(status().startsWith(u"Error: The request could not be sent"));
@@ -386,7 +386,7 @@ TEST_F(FileManagerDialogTest, MayDieInTheMiddleOfAnything) {
     settle();
     EXPECT_EQ(contentOf(m_local + u"/empty"_s), ""); // what was asked for arrives
     EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "local a");
-    EXPECT_FALSE(QFile::exists(m_local + u"/ü <b>.bin"_s));
+    EXPECT_FALSE(QFile::exists(m_local + u"/ü &amp; b.bin"_s));
 
     m_dialog = std::make_unique<FileManagerDialog>(m_service.get());
     m_service->setPacing([this] {
