@@ -237,11 +237,12 @@ TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
     for (const auto& signal : m_statuses) {
         statuses << signal.first().toString();
     }
-    EXPECT_EQ(statuses,
-              QStringList({u"Downloading 1 of 2: a.txt"_s, u"Downloading 1 of 3: a.txt"_s,
-                           u"Downloaded: a.txt — 2 remaining"_s, u"Downloading 2 of 3: ü &amp; b.bin"_s,
-                           u"Downloaded: ü &amp; b.bin — 1 remaining"_s, u"Downloading 3 of 3: empty"_s,
-                           u"Downloaded: empty — 0 remaining"_s, u"All downloads complete."_s}));
+    EXPECT_EQ(
+        statuses,
+        QStringList({u"Downloading 1 of 2: a.txt"_s, u"Downloading 1 of 3: a.txt"_s,
+                     u"Downloaded: a.txt — 2 remaining"_s, u"Downloading 2 of 3: ü &amp; b.bin"_s,
+                     u"Downloaded: ü &amp; b.bin — 1 remaining"_s, u"Downloading 3 of 3: empty"_s,
+                     u"Downloaded: empty — 0 remaining"_s, u"All downloads complete."_s}));
     EXPECT_EQ(percent(), 100);
     EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "remote a");
     EXPECT_EQ(contentOf(m_local + u"/ü &amp; b.bin"_s), m_large);
