@@ -99,7 +99,6 @@ TEST_F(RelayTransportTest, AWaitGivesUpWhereNothingMovesAndKeepsWhatArrivesInOrd
     ASSERT_TRUE(QTest::qWaitFor([&] { return order.size() >= expected.size(); }));
     EXPECT_TRUE(order == expected);
     EXPECT_EQ(drained, false) << "the relay does not read";
-    EXPECT_GT(transport.bytesQueued(), 0);
 
     transport.disconnect();
     EXPECT_FALSE(transport.waitUntilQueued(0));
