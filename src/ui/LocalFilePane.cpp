@@ -1,6 +1,7 @@
 #include "LocalFilePane.h"
 
 #include "FileIcons.h"
+#include "NameColumn.h"
 #include "RemoteFilePane.h"
 
 #include <QAbstractFileIconProvider>
@@ -54,6 +55,7 @@ LocalFilePane::LocalFilePane(QWidget* parent)
     m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_tree->setSortingEnabled(true);
     m_tree->sortByColumn(kNameColumn, Qt::AscendingOrder);
+    keepKeyboardOnNames(m_tree);
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 0, 0, 0);

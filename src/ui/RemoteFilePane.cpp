@@ -2,6 +2,7 @@
 
 #include "CardParts.h"
 #include "FileIcons.h"
+#include "NameColumn.h"
 #include "ValueFormats.h"
 
 #include <QHBoxLayout>
@@ -89,6 +90,7 @@ void RemoteFilePane::createTree() {
     m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_tree->setSortingEnabled(true);
     m_tree->sortByColumn(kNameColumn, Qt::AscendingOrder);
+    keepKeyboardOnNames(m_tree);
     connect(m_tree, &QTreeWidget::itemDoubleClicked, this, &RemoteFilePane::itemDoubleClicked);
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* const open = new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut);

@@ -38,6 +38,7 @@ public:
 
     bool isRunning() const { return m_process.state() == QProcess::Running; }
     int exitCode() const { return m_process.exitCode(); }
+    qint64 processId() const { return m_process.processId(); }
 
     /// The client ID that the server issued; empty before the first registration.
     QString clientId() const;

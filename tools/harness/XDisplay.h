@@ -77,6 +77,7 @@ inline constexpr xcb_keysym_t kKeyReturn = 0xff0d;
 inline constexpr xcb_keysym_t kKeyEscape = 0xff1b;
 inline constexpr xcb_keysym_t kKeyHome = 0xff50;
 inline constexpr xcb_keysym_t kKeyRight = 0xff53;
+inline constexpr xcb_keysym_t kKeyDown = 0xff54;
 inline constexpr xcb_keysym_t kKeyShift = 0xffe1;
 inline constexpr xcb_keysym_t kKeyControl = 0xffe3;
 
