@@ -3,6 +3,7 @@
 #include "FileIcons.h"
 #include "NameColumn.h"
 #include "RemoteFilePane.h"
+#include "ValueFormats.h"
 
 #include <QAbstractFileIconProvider>
 #include <QDir>
@@ -25,9 +26,17 @@ private:
     const QIcon m_file = fileIcon();
 };
 
-/// The base class sets its headings at the top of their fields.
+/// The base class sets its headings at the top of their fields, and writes sizes in another way
+/// than the list beside this one.
 class LocalFilePane::Model : public QFileSystemModel {
 public:
+    QVariant data(const QModelIndex& index, int role) const override {
+        constexpr int kSizeColumn = 1;
+        return role == Qt::DisplayRole && index.column() == kSizeColumn && !isDir(index)
+                   ? QVariant(formatByteSize(static_cast<quint64>(size(index))))
+                   : QFileSystemModel::data(index, role);
+    }
+
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
         return role == Qt::TextAlignmentRole
                    ? QVariant(Qt::AlignLeft | Qt::AlignVCenter)

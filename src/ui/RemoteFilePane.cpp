@@ -5,6 +5,7 @@
 #include "NameColumn.h"
 #include "ValueFormats.h"
 
+#include <QCollator>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -24,7 +25,7 @@ constexpr int kTypeColumn = 2;
 constexpr int kFolderRole = Qt::UserRole;
 constexpr int kEntryRole = Qt::UserRole + 1;
 
-/// A row that sorts by its size as a number, folders before files.
+/// A row that sorts by its name or type as text, by its size as a number, folders before files.
 class EntryItem : public QTreeWidgetItem {
 public:
     explicit EntryItem(const FileEntry& entry) : m_isFolder(entry.isDirectory), m_size(entry.size) {
@@ -39,14 +40,26 @@ public:
     }
 
     bool operator<(const QTreeWidgetItem& other) const override {
-        if (treeWidget()->sortColumn() != kSizeColumn) {
-            return QTreeWidgetItem::operator<(other);
+        const int column = treeWidget()->sortColumn();
+        if (column != kSizeColumn) {
+            return collator().compare(text(column), other.text(column)) < 0;
         }
         const auto& entry = static_cast<const EntryItem&>(other);
         return m_isFolder != entry.m_isFolder ? m_isFolder : m_size < entry.m_size;
     }
 
 private:
+    /// As people order names: "a2" before "B1", and "a2" before "a10".
+    static const QCollator& collator() {
+        static const QCollator instance = [] {
+            QCollator collator;
+            collator.setCaseSensitivity(Qt::CaseInsensitive);
+            collator.setNumericMode(true);
+            return collator;
+        }();
+        return instance;
+    }
+
     const bool m_isFolder;
     const quint64 m_size;
 };
@@ -84,6 +97,7 @@ void RemoteFilePane::createTree() {
     m_tree->setColumnWidth(kSizeColumn, 80);
     // A last column that kept its default width would make the pane scroll sideways.
     m_tree->header()->setMinimumSectionSize(40);
+    m_tree->header()->setStretchLastSection(false); // which would keep it from shrinking
     m_tree->header()->setSectionResizeMode(kTypeColumn, QHeaderView::Stretch);
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);

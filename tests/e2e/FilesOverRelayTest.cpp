@@ -54,7 +54,7 @@ QString pathIn(const QString& folder, const Sample& sample) {
 }
 
 bool logs(const ClientProcess& client, const QString& part) {
-    return waitFor([&] { return !client.logLines(part).isEmpty(); }, 60s);
+    return waitFor([&] { return !client.logLines(part).isEmpty(); }, 120s);
 }
 
 TEST(FilesOverRelayTest, FilesOfAnySizeAndNameArriveWholeAndBigOnesAreOnlyUploaded) {
