@@ -100,6 +100,7 @@ void MainWindow::createPages() {
 void MainWindow::createTray() {
     m_tray = new SystemTrayIcon(this);
     connect(m_tray, &SystemTrayIcon::showWindowRequested, this, [this] {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
         show();
         raise();
         activateWindow();

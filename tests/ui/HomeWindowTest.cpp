@@ -95,6 +95,9 @@ TEST_F(HomeWindowTest, HidesInTheTrayOnlyWhereThereIsOne) {
     EXPECT_EQ(quits, 0);
     Q_EMIT tray->showWindowRequested();
     EXPECT_TRUE(m_window.isVisible());
+    m_window.showMinimized();
+    Q_EMIT tray->showWindowRequested();
+    EXPECT_FALSE(m_window.isMinimized());
 
     m_settings.setMinimizeToTray(false);
     EXPECT_TRUE(m_window.close());
