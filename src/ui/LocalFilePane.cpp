@@ -6,6 +6,7 @@
 #include "ValueFormats.h"
 
 #include <QAbstractFileIconProvider>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileSystemModel>
 #include <QHeaderView>
@@ -15,13 +16,27 @@
 
 namespace corvane {
 
-/// The same icons as in the list beside this one. The model asks from a thread of its own.
+/// The same icons as in the list beside this one, and types in the user's language; the base class
+/// opens every file to tell what it holds, and says so in English. The model asks from a thread of
+/// its own.
 class LocalFilePane::IconProvider : public QAbstractFileIconProvider {
 public:
     QIcon icon(IconType type) const override { return type == File ? m_file : m_folder; }
     QIcon icon(const QFileInfo& info) const override { return info.isDir() ? m_folder : m_file; }
 
+    QString type(const QFileInfo& info) const override {
+        if (info.isDir()) {
+            return text(info.isRoot() ? "Drive" : "Folder");
+        }
+        const QString suffix = info.suffix().toUpper();
+        return suffix.isEmpty() ? text("File") : text("%1 File").arg(suffix);
+    }
+
 private:
+    static QString text(const char* source) {
+        return QCoreApplication::translate("QAbstractFileIconProvider", source);
+    }
+
     const QIcon m_folder = folderIcon();
     const QIcon m_file = fileIcon();
 };
