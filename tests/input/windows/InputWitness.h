@@ -54,6 +54,7 @@ private:
     }
 
     bool note(UINT message, WPARAM word, LPARAM data) {
+        using namespace Qt::StringLiterals;
         const auto hex = [](auto value) {
             return QString::number(value, 16).toUpper();
         };
@@ -62,22 +63,22 @@ private:
             QString::number(GET_X_LPARAM(data)) + u',' + QString::number(GET_Y_LPARAM(data));
         const QString xButton = u'x' + QString::number(HIWORD(word));
         const QHash<UINT, QString> lines{
-            {WM_KEYDOWN, u"key down " + key},
-            {WM_SYSKEYDOWN, u"key down " + key},
-            {WM_KEYUP, u"key up " + key},
-            {WM_SYSKEYUP, u"key up " + key},
-            {WM_CHAR, u"char " + hex(word)},
-            {WM_SYSCHAR, u"char " + hex(word)},
-            {WM_MOUSEWHEEL, u"wheel " + QString::number(GET_WHEEL_DELTA_WPARAM(word))},
-            {WM_MOUSEMOVE, u"move " + place},
-            {WM_LBUTTONDOWN, u"left down " + place},
-            {WM_LBUTTONUP, u"left up " + place},
-            {WM_RBUTTONDOWN, u"right down " + place},
-            {WM_RBUTTONUP, u"right up " + place},
-            {WM_MBUTTONDOWN, u"middle down " + place},
-            {WM_MBUTTONUP, u"middle up " + place},
-            {WM_XBUTTONDOWN, xButton + u" down " + place},
-            {WM_XBUTTONUP, xButton + u" up " + place},
+            {WM_KEYDOWN, u"key down "_s + key},
+            {WM_SYSKEYDOWN, u"key down "_s + key},
+            {WM_KEYUP, u"key up "_s + key},
+            {WM_SYSKEYUP, u"key up "_s + key},
+            {WM_CHAR, u"char "_s + hex(word)},
+            {WM_SYSCHAR, u"char "_s + hex(word)},
+            {WM_MOUSEWHEEL, u"wheel "_s + QString::number(GET_WHEEL_DELTA_WPARAM(word))},
+            {WM_MOUSEMOVE, u"move "_s + place},
+            {WM_LBUTTONDOWN, u"left down "_s + place},
+            {WM_LBUTTONUP, u"left up "_s + place},
+            {WM_RBUTTONDOWN, u"right down "_s + place},
+            {WM_RBUTTONUP, u"right up "_s + place},
+            {WM_MBUTTONDOWN, u"middle down "_s + place},
+            {WM_MBUTTONUP, u"middle up "_s + place},
+            {WM_XBUTTONDOWN, xButton + u" down "_s + place},
+            {WM_XBUTTONUP, xButton + u" up "_s + place},
         };
         if (lines.contains(message)) {
             m_lines.append(lines[message]);
