@@ -118,7 +118,7 @@ TEST(AesGcmCipher, ThreadsSealUnderDistinctCounters) {
             return sealed;
         });
     }
-    std::set<ByteVector> counters;
+    std::set<std::string> counters;
     for (auto& thread : threads) {
         for (const ByteVector& sealed : thread.get()) {
             counters.emplace(sealed.begin(), sealed.begin() + 8);
