@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <future>
 #include <thread>
 
 namespace corvane {
@@ -226,21 +227,32 @@ TEST_F(P2PTransportTest, AQueueThatDoesNotDrainIsBounded) {
 TEST_F(P2PTransportTest, WaitsForTheQueueWhileMessagesGoOnArriving) {
     startConnected();
     control->buffered = 1000;
-    std::thread library([this] {
+    std::promise<void> delivered;
+    QObject::connect(transport.get(), &ITransport::dataReceived, [&] { delivered.set_value(); });
+    std::thread library([&] {
         control->receive("meanwhile");
+        delivered.get_future().wait();
         control->buffered = 10;
         control->drained();
     });
     EXPECT_TRUE(transport->waitUntilQueued(100));
     library.join();
     EXPECT_LE(control->threshold, 100u);
-    EXPECT_EQ(received.count(), 1);
 
     control->buffered = 1000;
-    EXPECT_FALSE(transport->waitUntilQueued(100)) << "nothing moves";
     std::thread loss([this] { this->library().stateChanged(State::Failed); });
     EXPECT_FALSE(transport->waitUntilQueued(100)) << "the connection is gone";
     loss.join();
+}
+
+TEST_F(P2PTransportTest, AQueueThatMovesNothingIsTheLossOfTheConnection) {
+    startConnected();
+    EXPECT_FALSE(QTest::qWaitFor([this] { return !transport->isConnected(); }, 200));
+    control->buffered = 1000;
+    EXPECT_FALSE(transport->waitUntilQueued(100));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return disconnected.count() == 1; }));
+    EXPECT_FALSE(transport->isConnected());
+    EXPECT_TRUE(log.contains("warning|P2PTransport: nothing was sent for 50 ms"));
 }
 
 TEST_F(P2PTransportTest, LossCountsOnceAndOnlyWhenConnected) {
