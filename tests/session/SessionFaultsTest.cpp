@@ -87,6 +87,15 @@ TEST_F(SessionPairTest, ServerEndsTheSessionByItsReport) {
     EXPECT_TRUE(eventually([&] { return closeReasons() == expected; }));
 }
 
+TEST_F(SessionPairTest, AReportAboutAnotherSessionIsIgnored) {
+    m_server.misbehaviour().setStateText(u"complete"_s, u"closed"_s);
+    m_server.misbehaviour().setSessionId(u"somebody else's"_s);
+    ASSERT_TRUE(connectDevices());
+    EXPECT_TRUE(eventually(
+        [&] { return m_log.contains("Ignoring update of another session: somebody else's"); }));
+    EXPECT_TRUE(m_viewer->is(SessionState::Connected));
+}
+
 TEST_F(SessionPairTest, ServerMayCallTheSessionConnectedFirst) {
     m_server.misbehaviour().setStateText(u"handshake-ack"_s, u"connected"_s);
     m_target->machine->framesToShow = 1;
