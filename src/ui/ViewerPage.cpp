@@ -2,9 +2,9 @@
 
 #include "OpenGlProbe.h"
 #include "RemoteDesktopWidget.h"
+#include "WindowRenewal.h"
 
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include <utility>
 
@@ -12,10 +12,10 @@ namespace corvane {
 
 ViewerPage::ViewerPage(QWidget* parent) : QWidget(parent) {
     m_toolBar = new ViewerToolBar(this);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_toolBar);
+    m_layout = new QVBoxLayout(this);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_toolBar);
 }
 
 void ViewerPage::startViewing() {
@@ -50,7 +50,7 @@ void ViewerPage::createView() {
     if (!isOpenGlUsable()) {
         m_screen = new QWidget;
         m_screen->setStyleSheet(QStringLiteral("background: black"));
-        layout()->addWidget(m_screen);
+        m_layout->addWidget(m_screen, 1);
         return;
     }
     m_view = new RemoteDesktopWidget;
@@ -59,21 +59,8 @@ void ViewerPage::createView() {
             &RemoteDesktopWidget::toggleFullScreen);
     connect(m_view, &RemoteDesktopWidget::inputEvent, this, &ViewerPage::inputEvent);
     m_screen = m_view;
-    addToWindow(m_view);
-}
-
-void ViewerPage::addToWindow(QWidget* view) {
-    // Qt makes a window anew for its first OpenGL child, and does not show it again.
-    QWidget* const top = window();
-    const bool visible = top->isVisible();
-    const Qt::WindowStates states = top->windowState() & ~Qt::WindowActive;
-    top->setAttribute(Qt::WA_Moved); // it stays where it is
-    top->hide();
-    layout()->addWidget(view);
-    if (top->windowHandle() != nullptr) {
-        top->windowHandle()->setWindowStates(states);
-    }
-    top->setVisible(visible);
+    // Qt draws a window without OpenGL until it holds the first widget that needs it.
+    renewWindow(*window(), [this] { m_layout->addWidget(m_view, 1); });
 }
 
 } // namespace corvane

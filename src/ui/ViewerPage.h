@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class QVBoxLayout;
+
 namespace corvane {
 
 class RemoteDesktopWidget;
@@ -36,8 +38,8 @@ Q_SIGNALS:
 
 private:
     void createView();
-    void addToWindow(QWidget* view);
 
+    QVBoxLayout* m_layout = nullptr;
     ViewerToolBar* m_toolBar = nullptr;
     QWidget* m_screen = nullptr;           ///< the view, or what stands in for it
     RemoteDesktopWidget* m_view = nullptr; ///< null before the first session, and without OpenGL
