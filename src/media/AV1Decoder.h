@@ -6,10 +6,13 @@ struct Dav1dContext;
 
 namespace corvane {
 
-/// dav1d set for the lowest latency: each packet's picture comes out of the same call.
+class SharedLoop;
+
+/// dav1d set for the lowest latency: each packet's picture comes out of the same call. Its
+/// planes are copied on the calling thread and a helper, as the library rests by then.
 class AV1Decoder : public IVideoDecoder {
 public:
-    AV1Decoder() = default;
+    AV1Decoder();
     ~AV1Decoder() override;
     AV1Decoder(const AV1Decoder&) = delete;
     AV1Decoder& operator=(const AV1Decoder&) = delete;
@@ -30,6 +33,7 @@ private:
     int m_expectedWidth = 0;
     int m_expectedHeight = 0;
     bool m_initialized = false;
+    std::unique_ptr<SharedLoop> m_copying; ///< while initialised
 };
 
 } // namespace corvane

@@ -15,6 +15,8 @@ struct FrameRect {
     int32_t top = 0;
     int32_t right = 0;
     int32_t bottom = 0;
+
+    bool operator==(const FrameRect&) const = default;
 };
 
 /// One screen image.

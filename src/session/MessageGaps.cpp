@@ -5,10 +5,9 @@
 
 namespace corvane {
 
-void MessageGaps::note(uint64_t counter, Time now) {
+bool MessageGaps::note(uint64_t counter, Time now) {
     if (counter < m_next) {
-        close(counter);
-        return;
+        return close(counter);
     }
     if (counter > m_next) {
         m_missing.emplace(m_next, Gap{counter, now});
@@ -18,17 +17,18 @@ void MessageGaps::note(uint64_t counter, Time now) {
         m_missing.clear();
         m_overflowed = true;
     }
+    return true;
 }
 
-void MessageGaps::close(uint64_t counter) {
+bool MessageGaps::close(uint64_t counter) {
     auto gap = m_missing.upper_bound(counter);
     if (gap == m_missing.begin()) {
-        return;
+        return false;
     }
     --gap;
     const auto [begin, rest] = *gap;
     if (counter >= rest.end) {
-        return;
+        return false;
     }
     m_missing.erase(gap);
     if (begin < counter) {
@@ -37,6 +37,7 @@ void MessageGaps::close(uint64_t counter) {
     if (counter + 1 < rest.end) {
         m_missing.emplace(counter + 1, rest);
     }
+    return true;
 }
 
 bool MessageGaps::takeLoss(Time now) {

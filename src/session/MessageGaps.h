@@ -15,8 +15,9 @@ public:
 
     explicit MessageGaps(std::chrono::milliseconds patience) : m_patience(patience) {}
 
-    /// A message with this counter has arrived. The peer counts from 0.
-    void note(uint64_t counter, Time now);
+    /// A message with this counter has arrived. The peer counts from 0. False when it is none that
+    /// was waited for: it was here before, or has been given up.
+    bool note(uint64_t counter, Time now);
 
     /// Whether messages were lost since the last call. They are not reported again.
     bool takeLoss(Time now);
@@ -36,7 +37,7 @@ private:
     /// further.
     static constexpr size_t kMostGaps = 256;
 
-    void close(uint64_t counter);
+    bool close(uint64_t counter);
 
     const std::chrono::milliseconds m_patience;
     std::map<uint64_t, Gap> m_missing; ///< by the first counter missing

@@ -29,11 +29,12 @@ void PictureRecovery::stop() {
     m_timer.stop();
 }
 
-void PictureRecovery::onMessage(uint64_t counter) {
-    m_gaps.note(counter, Clock::now());
+bool PictureRecovery::onMessage(uint64_t counter) {
+    const bool awaited = m_gaps.note(counter, Clock::now());
     if (m_gaps.isAnythingMissing()) {
         schedule(m_timings.patience);
     }
+    return awaited;
 }
 
 void PictureRecovery::onPicture(uint64_t counter, bool keyframe) {

@@ -33,8 +33,9 @@ public:
     void start();
     void stop();
 
-    /// A message of either channel was opened. `counter` is its sender's.
-    void onMessage(uint64_t counter);
+    /// A message of either channel was opened. `counter` is its sender's. False when it is a
+    /// repetition, or comes too late for anything.
+    bool onMessage(uint64_t counter);
 
     /// A picture came out of the message with this counter.
     void onPicture(uint64_t counter, bool keyframe);

@@ -152,7 +152,9 @@ void SessionDataPlane::receiveVideo(const QByteArray& sealed) {
         createViewer();
     }
     const uint64_t counter = SessionLink::counterOf(sealed);
-    m_viewer->onMessage(counter);
+    if (!m_viewer->onMessage(counter)) {
+        return;
+    }
     if (auto frame = m_viewer->decode(counter, packet)) {
         Q_EMIT frameDecoded(std::move(frame));
     } else {
@@ -178,7 +180,7 @@ void SessionDataPlane::onInputEvent(ByteSpan message) {
 void SessionDataPlane::onKeyframeRequest(ByteSpan) {
     spdlog::debug("Key frame requested by Master");
     if (m_target) {
-        m_target->requestKeyframe();
+        m_target->repairPicture();
     }
 }
 

@@ -67,6 +67,11 @@ void TargetStream::requestKeyframe() {
     }
 }
 
+void TargetStream::repairPicture() {
+    m_repairWanted = true;
+    requestKeyframe();
+}
+
 void TargetStream::switchMonitor(int index) {
     if (m_capture) {
         m_capture->switchMonitor(index);
@@ -102,7 +107,13 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
     if (frame.keyframeRequested) {
         m_keyframeInMaking = false; // before the main thread can fail to send it and want another
     }
-    if (sealed && m_packets.push(std::move(*sealed))) {
+    if (!sealed) {
+        return;
+    }
+    bool wake =
+        frame.keyframeRequested && m_repairWanted.exchange(false) && m_packets.push(*sealed);
+    wake |= m_packets.push(std::move(*sealed));
+    if (wake) {
         Q_EMIT packetsWaiting(QPrivateSignal());
     }
 }

@@ -49,6 +49,11 @@ public:
     /// that is still in the making answers all requests until it is done: encoding one may take
     /// longer than a viewer waits before it asks again.
     void requestKeyframe();
+
+    /// The same because the viewer has lost something: the key frame is then sent twice. It takes
+    /// long to make and many datagrams to carry, and the loss of one of them costs another one. The
+    /// second is the same sealed message, which the viewer knows by its counter.
+    void repairPicture();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);
 
@@ -71,6 +76,7 @@ private:
     std::unique_ptr<ScreenCaptureManager> m_capture;
     RepeatingScreen* m_screen = nullptr; ///< belongs to the capture manager
     std::atomic<bool> m_keyframeInMaking{false};
+    std::atomic<bool> m_repairWanted{false};
     std::unique_ptr<InputForwarder> m_input;
 };
 

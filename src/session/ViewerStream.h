@@ -23,7 +23,7 @@ public:
     ~ViewerStream() override;
 
     /// A message of either channel, with its sender's counter, was opened.
-    void onMessage(uint64_t counter) { m_recovery.onMessage(counter); }
+    bool onMessage(uint64_t counter) { return m_recovery.onMessage(counter); }
 
     /// The packet's picture, or null when none came out: it makes no sense, or it was overtaken by
     /// a later one. Opens the decoder on first use.

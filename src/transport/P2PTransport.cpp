@@ -51,7 +51,10 @@ void receiveWholeMessages() {
 } // namespace
 
 P2PTransport::P2PTransport(QObject* parent, std::chrono::milliseconds standstill)
-    : IPeerTransport(parent), m_standstill(standstill) {}
+    : IPeerTransport(parent), m_standstill(standstill) {
+    m_queueWatch.setInterval(standstill / 10);
+    m_queueWatch.callOnTimeout(this, &P2PTransport::watchQueue);
+}
 
 P2PTransport::~P2PTransport() {
     disconnect();
@@ -68,6 +71,7 @@ void P2PTransport::startAsAnswerer() {
 }
 
 void P2PTransport::disconnect() {
+    m_queueWatch.stop();
     if (m_events) {
         m_events->close();
     }
@@ -141,6 +145,7 @@ bool P2PTransport::send(ChannelType type, const uint8_t* data, size_t size) {
     }
     try {
         channel->send(reinterpret_cast<const rtc::byte*>(data), size);
+        m_accepted += static_cast<qint64>(size);
         return true;
     } catch (const std::exception& error) {
         spdlog::warn("P2PTransport::send failed: {}", error.what());
@@ -168,20 +173,11 @@ bool P2PTransport::waitUntilQueued(qint64 atMost) {
         }
     }
     const auto events = m_events;
-    qint64 queued = bytesQueued();
-    auto movedAt = PeerEventQueue::Clock::now();
-    while (isConnected() && queued > atMost) {
-        events->wait(movedAt + m_standstill);
+    while (isConnected() && bytesQueued() > atMost && !standsStill()) {
+        events->wait(m_standstill.deadline());
         events->deliver();
-        const qint64 before = std::exchange(queued, bytesQueued());
-        const auto now = PeerEventQueue::Clock::now();
-        if (queued < before) {
-            movedAt = now;
-        } else if (now >= movedAt + m_standstill) {
-            break;
-        }
     }
-    return isConnected() && queued <= atMost;
+    return isConnected() && bytesQueued() <= atMost;
 }
 
 std::optional<double> P2PTransport::roundTripMilliseconds() const {
@@ -314,6 +310,8 @@ void P2PTransport::onChannelOpen(ChannelType type) {
         }
         m_connected = true;
     }
+    m_standstill.restart();
+    m_queueWatch.start();
     spdlog::info("P2PTransport: both data channels open — P2P connected!");
     Q_EMIT connected();
 }
@@ -326,7 +324,20 @@ void P2PTransport::onPeerConnectionLost() {
         }
         m_connected = false;
     }
+    m_queueWatch.stop();
     Q_EMIT disconnected();
+}
+
+bool P2PTransport::standsStill() {
+    return m_standstill.reached(m_accepted, bytesQueued());
+}
+
+void P2PTransport::watchQueue() {
+    if (standsStill()) {
+        spdlog::warn("P2PTransport: nothing was sent for {} ms, giving the connection up",
+                     m_standstill.limit().count());
+        onPeerConnectionLost();
+    }
 }
 
 std::shared_ptr<rtc::PeerConnection> P2PTransport::peerConnection() const {

@@ -1,7 +1,11 @@
 #pragma once
 
 #include "IPeerTransport.h"
+#include "Standstill.h"
 
+#include <QTimer>
+
+#include <atomic>
 #include <chrono>
 #include <memory>
 #include <mutex>
@@ -25,6 +29,10 @@ class PeerEventQueue;
 /// One attempt per object. `transportError` tells of an attempt that could not start; one that does
 /// not succeed says nothing and is for the owner to time out.
 ///
+/// The library's SCTP stack can lose its retransmission timer when a burst of packets is lost: the
+/// connection then stays up and carries nothing more in that direction. So a queue that moves
+/// nothing for some time counts as the loss of the connection.
+///
 /// Main thread, except for `send` and `isConnected`, which any thread may call.
 class P2PTransport : public IPeerTransport {
     Q_OBJECT
@@ -44,7 +52,7 @@ public:
 
     static constexpr std::chrono::milliseconds kStandstill{30'000};
 
-    /// `standstill`: how long a wait goes on while nothing is sent.
+    /// `standstill`: how long a queue may wait with nothing sent before the connection is given up.
     explicit P2PTransport(QObject* parent = nullptr,
                           std::chrono::milliseconds standstill = kStandstill);
     ~P2PTransport() override;
@@ -90,6 +98,8 @@ private:
     void adopt(ChannelType type, const Channel& channel);
     void onChannelOpen(ChannelType type);
     void onPeerConnectionLost();
+    bool standsStill();
+    void watchQueue();
     Channel& channelFor(ChannelType type) {
         return type == ChannelType::Video ? m_video : m_control;
     }
@@ -103,7 +113,9 @@ private:
     bool m_controlOpen = false;
     bool m_videoOpen = false;
     std::string m_turnPassword;
-    const std::chrono::milliseconds m_standstill;
+    std::atomic<qint64> m_accepted = 0; ///< bytes that `send` has taken
+    Standstill m_standstill;
+    QTimer m_queueWatch;
     std::shared_ptr<PeerEventQueue> m_events; ///< of this attempt; closed when it is over
 };
 

@@ -6,10 +6,7 @@ namespace corvane {
 namespace {
 
 TEST(IntegrationCommand, IsOneLineForTaskAndService) {
-    const struct {
-        IntegrationChoice choice;
-        const char* line;
-    } cases[] = {
+    const std::pair<IntegrationChoice, const char*> cases[] = {
         {{.startAtLogon = true, .runService = true},
          R"(schtasks /create /tn "CorvaneClient" /tr "\"C:\My %1 & Co\CorvaneClient.exe\"")"
          R"( /sc onlogon /rl highest /f & "C:/My %1 & Co/CorvaneService.exe" --install)"
@@ -18,12 +15,12 @@ TEST(IntegrationCommand, IsOneLineForTaskAndService) {
          R"(schtasks /delete /tn "CorvaneClient" /f & net stop CorvaneService)"
          R"( & "C:/My %1 & Co/CorvaneService.exe" --uninstall)"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(integrationCommandLine(c.choice,
+    for (const auto& [choice, line] : cases) {
+        EXPECT_EQ(integrationCommandLine(choice,
                                          QStringLiteral(R"(C:\My %1 & Co\CorvaneClient.exe)"),
                                          QStringLiteral("C:/My %1 & Co"))
                       .toStdString(),
-                  c.line);
+                  line);
     }
 }
 

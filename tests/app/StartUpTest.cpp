@@ -18,11 +18,7 @@ using namespace Qt::StringLiterals;
 TEST(CommandLine, IsReadByExactNames) {
     using enum CommandLine::Action;
     using namespace spdlog::level;
-    const struct {
-        QStringList arguments;
-        CommandLine::Action action;
-        level_enum level;
-    } cases[] = {
+    const std::tuple<QStringList, CommandLine::Action, level_enum> cases[] = {
         {{}, Run, err},
         {{u"--log-level"_s, u"DEBUG"_s}, Run, debug},
         {{u"--log-level"_s, u"info"_s}, Run, info},
@@ -34,10 +30,10 @@ TEST(CommandLine, IsReadByExactNames) {
         {{u"--uninstall"_s}, Uninstall, err},
         {{u"--uninstall"_s, u"--log-level"_s, u"info"_s, u"--install"_s}, Install, info},
     };
-    for (const auto& c : cases) {
-        const CommandLine parsed = parseCommandLine(QStringList(u"--install"_s) + c.arguments);
-        EXPECT_EQ(parsed.action, c.action) << c.arguments.join(u' ').toStdString();
-        EXPECT_EQ(parsed.logLevel, c.level) << c.arguments.join(u' ').toStdString();
+    for (const auto& [arguments, action, level] : cases) {
+        const CommandLine parsed = parseCommandLine(QStringList(u"--install"_s) + arguments);
+        EXPECT_EQ(parsed.action, action) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(parsed.logLevel, level) << arguments.join(u' ').toStdString();
     }
 }
 
@@ -47,20 +43,17 @@ TEST(Translation, FallsBackToEnglish) {
     test::writeFile(folder.filePath(u"corvane_de.qm"_s),
                     QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd"
                                         "42000000080000000000000000690000000101"));
-    const struct {
-        QString setting, locale;
-        std::vector<std::string> lines;
-    } cases[] = {
+    const std::tuple<QString, QString, std::vector<std::string>> cases[] = {
         {u""_s, u"de_DE"_s, {"info|Loaded translation: de"}},
         {u"de"_s, u"en_US"_s, {"info|Loaded translation: de"}},
         {u""_s, u"fr_CA"_s, {"info|No translation found for 'fr', using English"}},
         {u"en"_s, u"de_DE"_s, {}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [setting, locale, lines] : cases) {
         const test::LogCapture log;
         QTranslator translator;
-        installTranslation(translator, interfaceLanguage(c.setting, c.locale), folder.path());
-        EXPECT_EQ(log.lines(), c.lines) << c.setting.toStdString() << c.locale.toStdString();
+        installTranslation(translator, interfaceLanguage(setting, locale), folder.path());
+        EXPECT_EQ(log.lines(), lines) << setting.toStdString() << locale.toStdString();
     }
 }
 

@@ -91,11 +91,7 @@ TEST(EcdhKeyExchange, BadTokensFailAtTheirStep) {
     const std::string badBase64 = "base64 decode of peer key failed";
     const std::string badDer = "d2i_PUBKEY failed: error:";
     const std::string badKey = "derive_set_peer failed: error:";
-    const struct {
-        const char* name;
-        std::string token;
-        std::string complaint;
-    } cases[] = {
+    const std::tuple<const char*, std::string, std::string> cases[] = {
         {"empty", "", badBase64},
         {"not base64", "!? this is not base64 ?!", badBase64},
         {"line break inside", valid.substr(0, 64) + "\n" + valid.substr(64), badBase64},
@@ -107,12 +103,12 @@ TEST(EcdhKeyExchange, BadTokensFailAtTheirStep) {
          tokenOf(OpensslPtr<EVP_PKEY>(EVP_PKEY_Q_keygen(nullptr, nullptr, "X25519"))), badKey},
     };
     EcdhKeyExchange exchange;
-    for (const auto& bad : cases) {
+    for (const auto& [name, token, complaint] : cases) {
         const LogCapture log;
-        EXPECT_FALSE(exchange.deriveSharedKey(bad.token)) << bad.name;
+        EXPECT_FALSE(exchange.deriveSharedKey(token)) << name;
         EXPECT_THAT(log.lines(), testing::ElementsAre(testing::StartsWith(
-                                     "error|EcdhKeyExchange::deriveSharedKey: " + bad.complaint)))
-            << bad.name;
+                                     "error|EcdhKeyExchange::deriveSharedKey: " + complaint)))
+            << name;
     }
     EXPECT_TRUE(exchange.deriveSharedKey(valid));
 }

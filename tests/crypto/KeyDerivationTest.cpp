@@ -1,35 +1,21 @@
 #include "KeyDerivation.h"
-#include "HexBytes.h"
+#include "Bytes.h"
 #include "OpensslHandles.h"
 
 #include <gtest/gtest.h>
-#include <openssl/bn.h>
-#include <openssl/core_names.h>
 #include <openssl/evp.h>
-#include <openssl/param_build.h>
 
 namespace corvane {
 namespace {
 
 using test::hexBytes;
 
-OpensslPtr<EVP_PKEY> p256Key(const char* privateHex, const char* publicHex) {
-    const ByteVector point = hexBytes(publicHex);
-    BIGNUM* scalar = nullptr;
-    BN_hex2bn(&scalar, privateHex);
-    OSSL_PARAM_BLD* builder = OSSL_PARAM_BLD_new();
-    OSSL_PARAM_BLD_push_utf8_string(builder, OSSL_PKEY_PARAM_GROUP_NAME, "prime256v1", 0);
-    OSSL_PARAM_BLD_push_octet_string(builder, OSSL_PKEY_PARAM_PUB_KEY, point.data(), point.size());
-    OSSL_PARAM_BLD_push_BN(builder, OSSL_PKEY_PARAM_PRIV_KEY, scalar);
-    OSSL_PARAM* parameters = OSSL_PARAM_BLD_to_param(builder);
-    const OpensslPtr<EVP_PKEY_CTX> context(EVP_PKEY_CTX_new_from_name(nullptr, "EC", nullptr));
-    EVP_PKEY_fromdata_init(context.get());
-    EVP_PKEY* key = nullptr;
-    EVP_PKEY_fromdata(context.get(), &key, EVP_PKEY_KEYPAIR, parameters);
-    OSSL_PARAM_free(parameters);
-    OSSL_PARAM_BLD_free(builder);
-    BN_free(scalar);
-    return OpensslPtr<EVP_PKEY>(key);
+OpensslPtr<EVP_PKEY> p256Key(const QByteArray& privateHex, const QByteArray& publicHex) {
+    const ByteVector der =
+        hexBytes("30770201010420" + privateHex + "a00a06082a8648ce3d030107a144034200" + publicHex);
+    const uint8_t* position = der.data();
+    return OpensslPtr<EVP_PKEY>(
+        d2i_AutoPrivateKey(nullptr, &position, static_cast<long>(der.size())));
 }
 
 // RFC 5903, section 8.1.
@@ -50,9 +36,7 @@ TEST(KeyDerivation, SharedSecretOfThePublishedKeyPairs) {
 
 // RFC 5869, appendix A, cases 1 to 3.
 TEST(KeyDerivation, HkdfGivesThePublishedOutputs) {
-    const struct {
-        const char *secret, *salt, *info, *output;
-    } vectors[] = {
+    const char* const vectors[][4] = {
         {"0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b", "000102030405060708090a0b0c",
          "f0f1f2f3f4f5f6f7f8f9",
          "3cb25f25faacd57a90434f64d0362f2a2d2d0a90cf1a5a4c5db02d56ecc4c5bf34007208d5b887185865"},
@@ -67,14 +51,12 @@ TEST(KeyDerivation, HkdfGivesThePublishedOutputs) {
         {"0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b0b", "", "",
          "8da4e775a563c18f715f802a063c5a31b8a11f5c5ee1879ec3454e5f3c738d2d9d201395faa4b61a96c8"},
     };
-    for (const auto& vector : vectors) {
-        const ByteVector info = hexBytes(vector.info);
-        const ByteVector output = hexBytes(vector.output);
+    for (const auto& [secret, salt, infoHex, outputHex] : vectors) {
+        const ByteVector info = hexBytes(infoHex);
+        const ByteVector output = hexBytes(outputHex);
         const std::string_view infoText(reinterpret_cast<const char*>(info.data()), info.size());
-        EXPECT_EQ(
-            hkdfSha256(hexBytes(vector.secret), hexBytes(vector.salt), infoText, output.size())
-                .copy(),
-            output);
+        EXPECT_EQ(hkdfSha256(hexBytes(secret), hexBytes(salt), infoText, output.size()).copy(),
+                  output);
     }
 }
 

@@ -6,8 +6,6 @@
 namespace corvane::devserver {
 namespace {
 
-constexpr qint64 kMebibyte = 1024 * 1024;
-
 QByteArray relayFrame(char channel, const QByteArray& payload) {
     QByteArray frame(5, channel);
     qToBigEndian(static_cast<quint32>(payload.size()), frame.data() + 1);
@@ -30,15 +28,15 @@ protected:
     }
 
     bool isPaired() {
-        return waitUntil([&] { return m_server.relay().joinedPeers(u"a"_s) == 2; });
+        return eventually([&] { return m_server.relay().joinedPeers(u"a"_s) == 2; });
     }
 
     static bool arrived(QTcpSocket& socket, qint64 bytes) {
-        return waitUntil([&] { return socket.bytesAvailable() >= bytes; });
+        return eventually([&] { return socket.bytesAvailable() >= bytes; });
     }
 
     static bool closed(QTcpSocket& socket) {
-        return waitUntil([&] { return socket.state() == QAbstractSocket::UnconnectedState; });
+        return eventually([&] { return socket.state() == QAbstractSocket::UnconnectedState; });
     }
 };
 
@@ -97,25 +95,24 @@ TEST_F(RelayNodeTest, WhatIsNoFrameEndsTheConnection) {
         EXPECT_TRUE(closed(*partner)) << header;
         EXPECT_EQ(partner->readAll(), good);
     }
-    EXPECT_TRUE(waitUntil([&] { return m_server.relay().connections() == 0; }));
+    EXPECT_TRUE(eventually([&] { return m_server.relay().connections() == 0; }));
 }
 
 TEST_F(RelayNodeTest, AStalledReaderSlowsTheSenderInsteadOfFillingMemory) {
     const auto sender = join();
     const auto reader = join();
-    reader->setReadBufferSize(kMebibyte);
+    reader->setReadBufferSize(1'000'000);
     ASSERT_TRUE(isPaired());
     const QByteArray frames =
-        relayFrame(1, QByteArray("0123456789abcdef").repeated(kMebibyte)).repeated(3);
+        relayFrame(1, QByteArray("0123456789abcdef").repeated(1'000'000)).repeated(3);
     sender->write(frames);
-    EXPECT_FALSE(
-        QTest::qWaitFor([&] { return m_server.relay().bytesForwarded() >= 20 * kMebibyte; }, 500));
+    EXPECT_FALSE(eventually([&] { return m_server.relay().bytesForwarded() >= 20'000'000; }, 500));
 
     const auto back = relayFrame(0, "still alive");
     reader->write(back);
     EXPECT_TRUE(arrived(*sender, back.size()));
     QByteArray received;
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         received += reader->readAll();
         return received.size() >= frames.size();
     }));

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "DevServer.h"
+#include "Eventually.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QTest>
 #include <QWebSocket>
 #include <gtest/gtest.h>
 
@@ -13,12 +13,7 @@
 namespace corvane::devserver {
 
 using namespace Qt::StringLiterals;
-
-/// Runs the event loop until `holds` does; false when that takes 20 seconds.
-template <typename Condition>
-bool waitUntil(Condition holds) {
-    return QTest::qWaitFor(holds, 20'000);
-}
+using test::eventually;
 
 /// What came back from a request; status 0 when nothing did.
 struct HttpResult {
@@ -58,7 +53,7 @@ protected:
         }
         const std::unique_ptr<QNetworkReply> reply(
             m_network.sendCustomRequest(request, method, body));
-        EXPECT_TRUE(waitUntil([&] { return reply->isFinished(); }));
+        EXPECT_TRUE(eventually([&] { return reply->isFinished(); }));
         return {reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(),
                 reply->readAll()};
     }
@@ -76,7 +71,7 @@ protected:
         url.setScheme(u"ws"_s);
         url.setPath(u"/ws/clients/"_s + device.clientId);
         socket->open(url);
-        EXPECT_TRUE(waitUntil([&] { return !partner->pushed.isEmpty(); }));
+        EXPECT_TRUE(eventually([&] { return !partner->pushed.isEmpty(); }));
         return partner;
     }
 
@@ -85,7 +80,7 @@ protected:
         auto partner = connectSignaling(m_server.registerDevice());
         partner->send(uR"({"type":"SET_PASSWORD","password":"Password1"})"_s);
         partner->send(uR"({"type":"SET_PAIRING_CODE","code":"123456"})"_s);
-        EXPECT_TRUE(waitUntil(
+        EXPECT_TRUE(eventually(
             [&] { return m_server.signalingMessages(partner->device.clientId).size() == 3; }));
         partner->pushed.clear();
         return partner;

@@ -38,9 +38,9 @@ TEST_F(ServerTest, OnlyADevicesOwnTokenBringsItOnline) {
     const auto first = connectSignaling(device);
     EXPECT_TRUE(first->pushed[0].contains(u"AUTH_OK"_s));
     const auto second = connectSignaling(device);
-    EXPECT_TRUE(waitUntil([&] { return first->isClosed(); }));
+    EXPECT_TRUE(eventually([&] { return first->isClosed(); }));
     m_server.pushText(device.clientId, u"{}"_s);
-    EXPECT_TRUE(waitUntil([&] { return second->pushed.size() == 2; }));
+    EXPECT_TRUE(eventually([&] { return second->pushed.size() == 2; }));
 }
 
 TEST_F(ServerTest, ASessionBelongsToItsTwoSidesOnly) {
@@ -83,7 +83,7 @@ TEST_F(ServerTest, IceMessagesPassBetweenTheTwoSidesOfTheirSessionOnly) {
     const auto target = onlineDevice();
     const auto stranger = onlineDevice();
     const QString id = createSession(*master, target->device.clientId).field("session_id");
-    ASSERT_TRUE(waitUntil([&] { return target->pushed.size() == 1; }));
+    ASSERT_TRUE(eventually([&] { return target->pushed.size() == 1; }));
     target->pushed.clear();
 
     const QString offer = uR"({"from_client_id":"%1","sdp":"v=0","session_id":"%2","type":"%3"})"_s;
@@ -100,7 +100,7 @@ TEST_F(ServerTest, IceMessagesPassBetweenTheTwoSidesOfTheirSessionOnly) {
     master->send(uR"({"type":7,"session_id":{}})"_s);
     send(*master, *target, id, u"ICE_OFFER"_s);
     send(*target, *master, id, u"ICE_ANSWER"_s);
-    ASSERT_TRUE(waitUntil([&] { return !target->pushed.isEmpty() && !master->pushed.isEmpty(); }));
+    ASSERT_TRUE(eventually([&] { return !target->pushed.isEmpty() && !master->pushed.isEmpty(); }));
     EXPECT_EQ(target->pushed, QStringList(offer.arg(master->device.clientId, id, u"ICE_OFFER"_s)));
     EXPECT_EQ(master->pushed, QStringList(offer.arg(target->device.clientId, id, u"ICE_ANSWER"_s)));
     EXPECT_TRUE(stranger->pushed.isEmpty());
@@ -146,7 +146,7 @@ TEST_F(ServerTest, HostileBytesNeitherCrashNorFillIt) {
     }
     const auto client = connectSignaling(m_server.registerDevice());
     client->send(QString(2'000'000, u'x'));
-    EXPECT_TRUE(waitUntil([&] { return !m_server.isOnline(client->device.clientId); }));
+    EXPECT_TRUE(eventually([&] { return !m_server.isOnline(client->device.clientId); }));
 }
 
 } // namespace

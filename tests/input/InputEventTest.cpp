@@ -1,7 +1,7 @@
 #include "InputEvent.h"
 
 #include <QByteArray>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <limits>
 #include <stdexcept>
@@ -12,6 +12,7 @@ namespace corvane {
 namespace {
 
 using enum InputEventType;
+using testing::ThrowsMessage;
 
 QByteArray hexOf(const InputEvent& event) {
     const ByteVector bytes = event.serialize();
@@ -22,16 +23,6 @@ QByteArray hexOf(const InputEvent& event) {
 auto fieldsOf(const InputEvent& e) {
     return std::tuple(e.type, e.timestampMs, e.x, e.y, e.button, e.wheelDelta, e.keyCode,
                       e.scanCode, e.extended);
-}
-
-template <typename Action>
-std::string failureOf(Action action) {
-    try {
-        action();
-    } catch (const std::runtime_error& error) {
-        return error.what();
-    }
-    return "no failure";
 }
 
 TEST(InputEvent, BytesOnTheWire) {
@@ -64,38 +55,37 @@ TEST(InputEvent, RoundTripKeepsEveryFieldOfItsGroupAndDefaultsTheOther) {
         ByteVector bytes = event.serialize();
         bytes.back() = event.extended ? 2 : bytes.back(); // any but 0 is true
         bytes.push_back(0xEE);                            // ignored
-        EXPECT_EQ(fieldsOf(InputEvent::deserialize(bytes.data(), bytes.size())), fieldsOf(event));
+        for (const size_t size : {bytes.size() - 1, bytes.size()}) {
+            EXPECT_EQ(fieldsOf(InputEvent::deserialize(bytes.data(), size)), fieldsOf(event));
+        }
     }
 }
 
 TEST(InputEvent, RefusalsNameTheFirstThingWrong) {
-    const struct {
-        uint8_t type;
-        size_t size;
-        const char* failure;
-    } cases[] = {
-        {0, 0, "InputEvent::deserialize: buffer too small for header"},
-        {7, 8, "InputEvent::deserialize: buffer too small for header"},
-        {7, 9, "InputEvent::deserialize: unknown event type 7"},
-        {0, 28, "InputEvent::deserialize: unknown event type 0"},
-        {255, 28, "InputEvent::deserialize: unknown event type 255"},
-        {1, 9, "InputEvent::deserialize: buffer too small for mouse event (9 < 28)"},
-        {4, 27, "InputEvent::deserialize: buffer too small for mouse event (27 < 28)"},
-        {6, 17, "InputEvent::deserialize: buffer too small for key event (17 < 18)"},
-        {3, 28, "no failure"},
-        {6, 18, "no failure"},
+    const std::string reading = "InputEvent::deserialize: ";
+    const std::tuple<uint8_t, size_t, const char*> cases[] = {
+        {0, 0, "buffer too small for header"},
+        {7, 8, "buffer too small for header"},
+        {7, 9, "unknown event type 7"},
+        {0, 28, "unknown event type 0"},
+        {255, 28, "unknown event type 255"},
+        {1, 9, "buffer too small for mouse event (9 < 28)"},
+        {4, 27, "buffer too small for mouse event (27 < 28)"},
+        {6, 17, "buffer too small for key event (17 < 18)"},
     };
-    for (const auto& item : cases) {
+    for (const auto& [type, size, failure] : cases) {
         // Exactly as long as it claims, so that a read past the end is one past the allocation.
-        const ByteVector bytes(item.size, item.type);
-        EXPECT_EQ(failureOf([&] { InputEvent::deserialize(bytes.data(), bytes.size()); }),
-                  item.failure);
+        const ByteVector bytes(size, type);
+        EXPECT_THAT([&] { InputEvent::deserialize(bytes.data(), bytes.size()); },
+                    ThrowsMessage<std::runtime_error>(reading + failure));
     }
-    EXPECT_EQ(failureOf([] { InputEvent::deserialize(nullptr, 28); }), cases[0].failure);
+    EXPECT_THAT([] { InputEvent::deserialize(nullptr, 28); },
+                ThrowsMessage<std::runtime_error>(reading + "buffer too small for header"));
     for (const int type : {0, 7, 255}) {
         const InputEvent event{.type = static_cast<InputEventType>(type)};
-        EXPECT_EQ(failureOf([&] { event.serialize(); }),
-                  "InputEvent::serialize: unknown event type " + std::to_string(type));
+        EXPECT_THAT([&] { event.serialize(); },
+                    ThrowsMessage<std::runtime_error>("InputEvent::serialize: unknown event type " +
+                                                      std::to_string(type)));
     }
 }
 

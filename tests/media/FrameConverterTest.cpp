@@ -58,9 +58,7 @@ ByteVector expectedNv12(const ByteVector& bgra, int width, int height, int strid
 
 TEST(FrameConverterTest, MatchesTheArithmeticOverRandomImages) {
     std::mt19937 random(1);
-    const struct {
-        int width, height, padding;
-    } shapes[] = {
+    const int shapes[][3] = {
         {1, 1, 0}, {2, 2, 0}, {3, 2, 0},   {4, 3, 0},     {3, 3, 12},
         {1, 6, 0}, {6, 1, 4}, {257, 9, 0}, {640, 48, 64}, {1023, 31, 4},
     };

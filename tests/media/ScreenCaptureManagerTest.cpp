@@ -1,5 +1,6 @@
 #include "ScreenCaptureManager.h"
 #include "CaptureBackendCandidate.h"
+#include "Eventually.h"
 #include "LogCapture.h"
 
 #include <QTest>
@@ -13,11 +14,16 @@ namespace corvane {
 namespace {
 
 using namespace std::chrono_literals;
+using test::eventually;
 using Frame = std::unique_ptr<CapturedFrame>;
+using Lines = std::vector<std::string>;
 
-Frame newFrame() {
-    return std::make_unique<CapturedFrame>();
+Frame newFrame(std::vector<FrameRect> changes = {}) {
+    auto frame = std::make_unique<CapturedFrame>();
+    frame->dirtyRects = std::move(changes);
+    return frame;
 }
+using namespace Qt::StringLiterals;
 
 /// Does what its script says; the script runs on the capture thread.
 class ScriptedBackend : public IScreenCaptureBackend {
@@ -35,10 +41,12 @@ public:
     MonitorInfo currentMonitor() const override { return {.index = monitor, .name = {}}; }
     bool isInitialized() const override { return initialized; }
 
-    std::function<Frame()> onCapture = newFrame;
-    std::function<bool()> onInitialize = [] {
+    std::function<Frame()> onCapture{[] {
+        return newFrame();
+    }};
+    std::function<bool()> onInitialize{[] {
         return true;
-    };
+    }};
     std::vector<MonitorInfo> found;
     std::atomic<bool> initialized{true};
     std::atomic<uint32_t> monitor{0};
@@ -49,11 +57,9 @@ class ScreenCaptureManagerTest : public ::testing::Test {
 protected:
     static constexpr int kFast = 120;
 
-    void create(ScreenCaptureManager::Timings timings = {}) { use(std::move(backend), timings); }
-
-    void use(std::unique_ptr<IScreenCaptureBackend> used,
-             ScreenCaptureManager::Timings timings = {}) {
-        manager = std::make_unique<ScreenCaptureManager>(std::move(used), timings);
+    /// Has the scripted backend, the second time none.
+    void create(ScreenCaptureManager::Timings timings = {}) {
+        manager = std::make_unique<ScreenCaptureManager>(std::move(backend), timings);
         QObject::connect(manager.get(), &ScreenCaptureManager::captureError, &context,
                          [this](const QString& message) { errors.append(message); });
     }
@@ -68,11 +74,7 @@ protected:
         return eventually([&] { return manager->framesDelivered() >= count; });
     }
 
-    static bool eventually(const std::function<bool()>& condition) {
-        return QTest::qWaitFor(condition, 5000);
-    }
-
-    std::vector<std::string> linesWith(std::string_view part) const {
+    Lines linesWith(std::string_view part) const {
         auto lines = log.lines();
         std::erase_if(lines, [part](const std::string& line) {
             return line.find(part) == std::string::npos;
@@ -92,14 +94,13 @@ TEST_F(ScreenCaptureManagerTest, RefusesToStartWithoutAReadyBackend) {
     create();
     script.initialized = false;
     manager->start(10);
-    use(nullptr);
+    create();
     manager->start(10);
     manager->stop();
-    EXPECT_EQ(log.lines(),
-              (std::vector<std::string>{"error|ScreenCaptureManager: backend not initialized",
-                                        "error|ScreenCaptureManager: no backend set"}));
-    EXPECT_EQ(errors, (QStringList{QStringLiteral("Capture backend is not initialized"),
-                                   QStringLiteral("No capture backend available")}));
+    EXPECT_EQ(log.lines(), (Lines{"error|ScreenCaptureManager: backend not initialized",
+                                  "error|ScreenCaptureManager: no backend set"}));
+    EXPECT_EQ(errors, (QStringList{u"Capture backend is not initialized"_s,
+                                   u"No capture backend available"_s}));
 }
 
 TEST_F(ScreenCaptureManagerTest, PacesAndDeliversTheSameFrameTwice) {
@@ -134,9 +135,8 @@ TEST_F(ScreenCaptureManagerTest, LimitsTheRateStopsAtOnceAndRunsAgain) {
         manager->start(50);
         ASSERT_TRUE(waitForFrames(1));
         EXPECT_LT(timeToStop(), 500ms);
-        EXPECT_EQ(log.count("info|ScreenCaptureManager: started (target " + std::to_string(used) +
-                            " FPS)"),
-                  1);
+        EXPECT_TRUE(log.once("info|ScreenCaptureManager: started (target " + std::to_string(used) +
+                             " FPS)"));
     }
     for (const char* line :
          {"warning|ScreenCaptureManager: already running", "info|ScreenCaptureManager: stopped",
@@ -165,11 +165,10 @@ TEST_F(ScreenCaptureManagerTest, TheLastMonitorSwitchWins) {
     ASSERT_TRUE(waitForFrames(3));
     manager->stop();
     EXPECT_EQ(linesWith("switch"),
-              (std::vector<std::string>{
-                  "info|ScreenCaptureManager: monitor switch to 1 queued",
-                  "info|ScreenCaptureManager: monitor switch to 2 queued",
-                  "info|ScreenCaptureManager: switching to monitor 2 (in capture thread)",
-                  "info|ScreenCaptureManager: switched to monitor 2"}));
+              (Lines{"info|ScreenCaptureManager: monitor switch to 1 queued",
+                     "info|ScreenCaptureManager: monitor switch to 2 queued",
+                     "info|ScreenCaptureManager: switching to monitor 2 (in capture thread)",
+                     "info|ScreenCaptureManager: switched to monitor 2"}));
     EXPECT_EQ(script.shutdowns, 1);
 }
 
@@ -193,16 +192,16 @@ TEST_F(ScreenCaptureManagerTest, RecoveryBacksOffAndStartsOverAfterAFrame) {
     manager->start(kFast);
     ASSERT_TRUE(waitForFrames(4));
     manager->stop();
-    std::vector<std::string> delays;
+    Lines delays;
     for (const int delay : {1, 2, 4, 8, 16, 20, 20, 1}) {
         delays.push_back("warning|ScreenCaptureManager: backend lost, reinitializing in " +
                          std::to_string(delay) + " ms");
     }
     EXPECT_EQ(linesWith("backend lost"), delays);
-    EXPECT_EQ(log.count("error|ScreenCaptureManager: failed to switch to monitor 4"), 1);
+    EXPECT_TRUE(log.once("error|ScreenCaptureManager: failed to switch to monitor 4"));
     EXPECT_EQ(log.count("error|ScreenCaptureManager: reinit failed for monitor 4"), 6);
     QCoreApplication::processEvents();
-    EXPECT_EQ(errors.count(QStringLiteral("Failed to reinitialize capture backend")), 6);
+    EXPECT_EQ(errors.count(u"Failed to reinitialize capture backend"_s), 6);
 }
 
 TEST_F(ScreenCaptureManagerTest, StopsAtOnceDuringARecoveryPause) {
@@ -227,20 +226,15 @@ TEST_F(ScreenCaptureManagerTest, AnExceptionCostsOneRound) {
     manager->start(kFast);
     ASSERT_TRUE(eventually([this] { return manager->framesDelivered() > 0 && !errors.empty(); }));
     manager->stop();
-    EXPECT_EQ(errors, QStringList{QStringLiteral("device on fire")});
-    EXPECT_EQ(log.count("error|ScreenCaptureManager: exception during capture: device on fire"), 1);
+    EXPECT_EQ(errors, QStringList{u"device on fire"_s});
+    EXPECT_TRUE(log.once("error|ScreenCaptureManager: exception during capture: device on fire"));
     EXPECT_FALSE(log.contains("backend lost"));
 }
 
 TEST_F(ScreenCaptureManagerTest, AKeyFrameRequestMarksTheNextFrameHoweverLate) {
     std::atomic<bool> still{true};
     script.onCapture = [&still]() -> Frame {
-        if (still) {
-            return nullptr;
-        }
-        auto frame = std::make_unique<CapturedFrame>();
-        frame->dirtyRects = {{0, 0, 1, 1}};
-        return frame;
+        return still ? nullptr : newFrame({{0, 0, 1, 1}});
     };
     create();
     std::vector<std::pair<bool, size_t>> frames;
@@ -269,25 +263,22 @@ TEST_F(ScreenCaptureManagerTest, TerminatesAThreadThatHangs) {
     manager->start(kFast);
     entered.get_future().wait();
     EXPECT_LT(timeToStop(), 5s);
-    EXPECT_EQ(log.count("warning|ScreenCaptureManager: worker thread did not finish within 5 s -- "
-                        "terminating"),
-              1);
-    EXPECT_EQ(log.count("info|ScreenCaptureManager: stopped"), 1);
+    EXPECT_TRUE(log.once("warning|ScreenCaptureManager: worker thread did not finish within 5 s -- "
+                         "terminating"));
+    EXPECT_TRUE(log.once("info|ScreenCaptureManager: stopped"));
 }
 
 TEST(CapturableMonitors, AreThoseOfTheFirstCandidateThatFindsAny) {
     const auto finding = [](const std::vector<MonitorInfo>& found) {
-        CaptureBackendCandidate candidate;
-        candidate.create = [found] {
+        const auto create = [found] {
             auto backend = std::make_unique<ScriptedBackend>();
             backend->found = found;
             return backend;
         };
-        return candidate;
+        return CaptureBackendCandidate{create, "", ""};
     };
-    const MonitorInfo first{.index = 0, .name = "first"};
-    const MonitorInfo second{.index = 0, .name = "second"};
-    const auto monitors = capturableMonitors({finding({}), finding({first}), finding({second})});
+    const auto monitors = capturableMonitors(
+        {finding({}), finding({{.name = "first"}}), finding({{.name = "second"}})});
     ASSERT_EQ(monitors.size(), 1U);
     EXPECT_EQ(monitors[0].name, "first");
     EXPECT_TRUE(capturableMonitors({finding({})}).empty());

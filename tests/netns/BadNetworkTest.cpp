@@ -36,25 +36,14 @@ void PrintTo(const Network& network, std::ostream* out) {
 constexpr const char* kAnyTransport = nullptr;
 
 constexpr Network kNetworks[] = {
-    {.name = "Undisturbed"},
-    {.name = "Loss1", .conditions = {.udpLossPercent = 1}, .repairLimitMs = 6000},
-    {.name = "Loss3",
-     .conditions = {.udpLossPercent = 3},
-     .transport = kAnyTransport,
-     .connectionLimitMs = 7000,
-     .repairLimitMs = 8000},
-    {.name = "Loss5",
-     .conditions = {.udpLossPercent = 5},
-     .transport = kAnyTransport,
-     .connectionLimitMs = 7000,
-     .repairLimitMs = 10'000},
-    {.name = "Delay20ms", .conditions = {.delay = 20ms}},
-    {.name = "Delay150ms", .conditions = {.delay = 150ms}},
-    {.name = "Rate2Mbit", .conditions = {.kilobitsPerSecond = 2000}, .repairLimitMs = 5000},
-    {.name = "UdpBlocked",
-     .conditions = {.udpLossPercent = 100},
-     .transport = "relay",
-     .connectionLimitMs = 7000},
+    {"Undisturbed"},
+    {"Loss1", {.udpLossPercent = 1}, "p2p", 5000, 6000},
+    {"Loss3", {.udpLossPercent = 3}, kAnyTransport, 7000, 8000},
+    {"Loss5", {.udpLossPercent = 5}, kAnyTransport, 7000, 10'000},
+    {"Delay20ms", {.delay = 20ms}},
+    {"Delay150ms", {.delay = 150ms}},
+    {"Rate2Mbit", {.kilobitsPerSecond = 2000}, "p2p", 5000, 5000},
+    {"UdpBlocked", {.udpLossPercent = 100}, "relay", 7000},
 };
 
 class BadNetworkTest : public testing::TestWithParam<Network> {

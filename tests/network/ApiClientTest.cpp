@@ -14,14 +14,10 @@ protected:
     ApiClientTest() { m_api.setServerUrl(m_server.url()); }
 
     ApiClient m_api;
-    test::SignalLines m_signals{m_api,
-                                &ApiClient::autoRegisterSuccess,
-                                &ApiClient::authSuccess,
-                                &ApiClient::authError,
-                                &ApiClient::heartbeatSent,
-                                &ApiClient::sessionCreated,
-                                &ApiClient::sessionUpdated,
-                                &ApiClient::requestError};
+    test::SignalLines m_signals = test::SignalLines(
+        m_api, &ApiClient::autoRegisterSuccess, &ApiClient::authSuccess, &ApiClient::authError,
+        &ApiClient::heartbeatSent, &ApiClient::sessionCreated, &ApiClient::sessionUpdated,
+        &ApiClient::requestError);
 };
 
 using Call = void (*)(ApiClient&);
@@ -115,8 +111,8 @@ TEST_F(ApiClientTest, RegistrationAndLoginKeepTheIdentity) {
     m_api.sendHeartbeat(kNone, kNone, kNone);
     EXPECT_EQ(m_signals.next(), "heartbeatSent");
     const std::string id = parts[1].toStdString();
-    EXPECT_EQ(m_log.count("info|Auto-registered as client " + id), 1);
-    EXPECT_EQ(m_log.count("info|Auto-login successful for client " + id), 1);
+    EXPECT_TRUE(m_log.once("info|Auto-registered as client " + id));
+    EXPECT_TRUE(m_log.once("info|Auto-login successful for client " + id));
 }
 
 TEST_F(ApiClientTest, OnlyAProperAnswerWithStatus200IsSuccess) {
@@ -125,11 +121,7 @@ TEST_F(ApiClientTest, OnlyAProperAnswerWithStatus200IsSuccess) {
     const std::string loginFailed = "authError|Auto-login failed";
     const std::string enrolFailed = "authError|Auto-registration failed";
     const std::string createFailed = "requestError|/sessions/create|";
-    const struct {
-        Reply reply;
-        Call call;
-        std::string outcome;
-    } cases[] = {
+    const std::tuple<Reply, Call, std::string> cases[] = {
         {{.body = identity}, kLogin, "authSuccess|1|t"},
         {{.status = 201, .body = identity}, kLogin, loginFailed},
         {{.body = identity + padding}, kLogin, loginFailed},
@@ -152,10 +144,10 @@ TEST_F(ApiClientTest, OnlyAProperAnswerWithStatus200IsSuccess) {
          kAcknowledge,
          "requestError|/sessions/.../handshake-ack|403|Handshake ACK failed"},
     };
-    for (const auto& expected : cases) {
-        m_server.misbehaviour().setReply(QString(), expected.reply);
-        expected.call(m_api);
-        EXPECT_EQ(m_signals.next(), expected.outcome);
+    for (const auto& [reply, call, outcome] : cases) {
+        m_server.misbehaviour().setReply(QString(), reply);
+        call(m_api);
+        EXPECT_EQ(m_signals.next(), outcome);
     }
     EXPECT_EQ(m_log.count("warning|Auto-login failed: why"), 2);
     EXPECT_EQ(m_log.count("warning|Auto-register failed: Auto-registration failed"), 2);
@@ -169,9 +161,8 @@ TEST_F(ApiClientTest, ConnectionsThatFailAreStatusZeroAndRedirectsAreNotFollowed
     EXPECT_FALSE(m_log.contains("Network error"));
     kLogin(m_api);
     EXPECT_EQ(m_signals.next(), "authError|Auto-login failed");
-    EXPECT_EQ(m_log.count("error|Network error on POST " + deaf.toString().toStdString() +
-                          "/auth/auto-login: Connection refused (1)"),
-              1);
+    EXPECT_TRUE(m_log.once("error|Network error on POST " + deaf.toString().toStdString() +
+                           "/auth/auto-login: Connection refused (1)"));
 
     const test::CannedServer cutShort("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{}");
     m_api.setServerUrl(cutShort.url());

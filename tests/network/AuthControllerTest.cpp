@@ -63,12 +63,9 @@ protected:
                            [&](const QJsonObject& message) { return message[field] == text; });
     }
 
-    /// These wait until the server knows the password, or the pairing code, from this device.
-    bool serverHasPassword(const QString& password) {
-        return eventually([&] { return serverWasSent(u"password"_s, password); });
-    }
-    bool serverHasCode(const QString& code) {
-        return eventually([&] { return serverWasSent(u"code"_s, code); });
+    /// Waits until this device has sent the field "password" or "code" with that text.
+    bool serverGets(const QString& field, const QString& text) {
+        return eventually([&] { return serverWasSent(field, text); });
     }
 
     QStringList authRequests() const {
@@ -92,7 +89,7 @@ const QString kRegistration = u"/auth/auto-register"_s;
 TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
     QSignalSpy authenticated(&auth(), &AuthController::authenticated);
     QObject::connect(&auth(), &AuthController::authenticated, [this] {
-        EXPECT_EQ(m_log.count("info|Heartbeat service started (interval: 30000 ms)"), 1);
+        EXPECT_TRUE(m_log.once("info|Heartbeat service started (interval: 30000 ms)"));
         EXPECT_EQ(m_log.lines().back(), "info|Heartbeat service started (interval: 30000 ms)");
     });
     ASSERT_TRUE(authenticates());
@@ -102,8 +99,8 @@ TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
               (QJsonObject{{u"client_name"_s, QSysInfo::machineHostName()},
                            {u"agent_version"_s, u"1.32"_s},
                            {u"machine_fingerprint"_s, MachineFingerprint::generate()}}));
-    EXPECT_TRUE(serverHasPassword(auth().sessionPassword()));
-    EXPECT_TRUE(serverHasCode(auth().pairingCode()));
+    EXPECT_TRUE(serverGets(u"password"_s, auth().sessionPassword()));
+    EXPECT_TRUE(serverGets(u"code"_s, auth().pairingCode()));
     const QStringList secrets{settings().deviceSecret(), m_run->api.token(),
                               auth().sessionPassword(), auth().pairingCode()};
 
@@ -111,7 +108,7 @@ TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
     ASSERT_TRUE(authenticates());
     EXPECT_EQ(settings().clientId(), clientId);
     EXPECT_EQ(authRequests(), (QStringList{kRegistration, kLogin}));
-    EXPECT_TRUE(serverHasPassword(auth().sessionPassword()));
+    EXPECT_TRUE(serverGets(u"password"_s, auth().sessionPassword()));
 
     for (const QString& secret : secrets) {
         EXPECT_FALSE(m_log.contains(secret.toStdString()));
@@ -127,9 +124,8 @@ TEST_F(AuthControllerTest, CredentialErrorsClearAtOnce) {
         QSignalSpy authenticated(&auth(), &AuthController::authenticated);
         auth().start();
         EXPECT_TRUE(authenticated.wait());
-        EXPECT_EQ(m_log.count(std::string("warning|Authentication failed (attempt 1): ") + detail +
-                              ". Retrying in 20 seconds..."),
-                  1);
+        EXPECT_TRUE(m_log.once(std::string("warning|Authentication failed (attempt 1): ") + detail +
+                               ". Retrying in 20 seconds..."));
     }
     EXPECT_EQ(authRequests(), (QStringList{kLogin, kRegistration, kLogin, kRegistration}));
 }
@@ -146,9 +142,8 @@ TEST_F(AuthControllerTest, OtherErrorsClearAtTheThirdFailureAndRegistrationIsRet
     EXPECT_EQ(idsAtFailure.mid(0, 3), (QStringList{u"111111111"_s, u"111111111"_s, QString()}));
     EXPECT_EQ(authRequests().mid(0, 5),
               (QStringList{kLogin, kLogin, kLogin, kRegistration, kRegistration}));
-    EXPECT_EQ(m_log.count("info|Clearing stored credentials after 3 failures — will auto-register "
-                          "on next retry"),
-              1);
+    EXPECT_TRUE(m_log.once("info|Clearing stored credentials after 3 failures — will auto-register "
+                           "on next retry"));
     EXPECT_FALSE(auth().isAuthenticated());
     m_server.misbehaviour().clear();
     EXPECT_TRUE(eventually([this] { return auth().isAuthenticated(); }));
@@ -165,10 +160,10 @@ TEST_F(AuthControllerTest, APasswordIsStoredPublishedAndUsedAgainIfItMeetsThePol
     EXPECT_EQ(m_log.count(published), 0);
     newRun();
     ASSERT_TRUE(authenticates());
-    EXPECT_TRUE(serverHasPassword(u"Offline1"_s));
+    EXPECT_TRUE(serverGets(u"password"_s, u"Offline1"_s));
     auth().setSessionPassword(u"Online11"_s);
-    EXPECT_EQ(m_log.count(published), 1);
-    EXPECT_TRUE(serverHasPassword(u"Online11"_s));
+    EXPECT_TRUE(m_log.once(published));
+    EXPECT_TRUE(serverGets(u"password"_s, u"Online11"_s));
 }
 
 TEST_F(AuthControllerTest, ThePairingCodeChangesByItself) {
@@ -182,7 +177,7 @@ TEST_F(AuthControllerTest, ThePairingCodeChangesByItself) {
     ASSERT_TRUE(changed.wait());
     const QString code = changed.constLast().at(0).toString();
     EXPECT_THAT(code.toStdString(), test::MatchesPattern("[1-9][0-9]{5}"));
-    EXPECT_TRUE(serverHasCode(code));
+    EXPECT_TRUE(serverGets(u"code"_s, code));
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "DevServer.h"
+#include "Eventually.h"
 #include "LogCapture.h"
 
-#include <QTest>
 #include <gmock/gmock.h>
 
 #include <chrono>
@@ -11,12 +11,6 @@
 namespace corvane::test {
 
 constexpr std::chrono::seconds kPatience(5);
-
-/// Waits for `condition` with the event loop running; false after five seconds.
-template <typename Condition>
-bool eventually(Condition condition) {
-    return QTest::qWaitFor(condition, std::chrono::milliseconds(kPatience).count());
-}
 
 /// A test with a server of its own on free ports, and with the log captured.
 class DevServerTest : public testing::Test {

@@ -76,7 +76,7 @@ TEST_F(HeartbeatServiceTest, LaterHeartbeatsCarryWhatWasFoundOut) {
     all[u"public_ip"_s] = u"127.0.0.1"_s;
     all[u"nat_type"_s] = u"SymmetricNAT"_s; // the responder sees both sockets without a NAT
     EXPECT_EQ(heartbeats().last(), all);
-    EXPECT_EQ(m_log.count("info|Public IP detected: 127.0.0.1"), 1);
+    EXPECT_TRUE(m_log.once("info|Public IP detected: 127.0.0.1"));
 
     m_hostAddresses.remove(2, 2);
     ASSERT_TRUE(eventually([&] { return !heartbeats().last().contains(u"local_ip"_s); }))
@@ -92,10 +92,7 @@ TEST_F(HeartbeatServiceTest, TwoResponsesTellTheNatType) {
     const std::string stable = "info|NAT type detected: PortRestricted";
     const std::string symmetric = "info|NAT type detected: SymmetricNAT";
     const std::string unknown = "warning|STUN NAT detection timed out";
-    const struct {
-        QList<QByteArray> first, second;
-        std::string outcome;
-    } cases[] = {
+    const std::tuple<QList<QByteArray>, QList<QByteArray>, std::string> cases[] = {
         {{seenAt("10.1.2.3", 7)}, {otherPort}, open},
         {{here}, {here}, stable},
         {{here}, {otherPort}, symmetric},
@@ -109,17 +106,18 @@ TEST_F(HeartbeatServiceTest, TwoResponsesTellTheNatType) {
         {{error, {}}, {noise}, unknown},
         {{}, {}, unknown},
     };
-    for (size_t i = 0; i < std::size(cases); ++i) {
-        script(cases[i].first, cases[i].second);
+    for (int number = 1; const auto& [first, second, outcome] : cases) {
+        SCOPED_TRACE(number++);
+        script(first, second);
         m_log.clear();
-        const bool answers = cases[i].outcome != unknown;
+        const bool answers = outcome != unknown;
         HeartbeatService service(
             &m_api, nullptr, options(answers ? test::kPatience : std::chrono::milliseconds(50)));
         EXPECT_EQ(service.natType(), QString());
         service.detectNatType();
-        EXPECT_TRUE(eventually([&] { return !service.natType().isEmpty(); })) << i;
-        EXPECT_EQ(m_log.lines(), std::vector{cases[i].outcome}) << i;
-        EXPECT_EQ(service.natType() == u"Unknown", !answers) << i;
+        EXPECT_TRUE(eventually([&] { return !service.natType().isEmpty(); }));
+        EXPECT_EQ(m_log.lines(), std::vector{outcome});
+        EXPECT_EQ(service.natType() == u"Unknown", !answers);
     }
 }
 
@@ -172,18 +170,14 @@ TEST_F(HeartbeatServiceTest, NamesAreNotLookedUp) {
     HeartbeatService service(&m_api, nullptr, byName);
     service.detectNatType();
     EXPECT_TRUE(eventually([&] { return service.natType() == u"Unknown"; }));
-    EXPECT_EQ(m_log.count("warning|STUN NAT detection timed out"), 1);
+    EXPECT_TRUE(m_log.once("warning|STUN NAT detection timed out"));
 }
 
 TEST_F(HeartbeatServiceTest, OnlyAnAddressIsTakenForThePublicAddress) {
     HeartbeatService service(&m_api, nullptr, options());
     const std::string refused =
         "warning|HeartbeatService: the public-address service did not answer with an address";
-    const struct {
-        Reply reply;
-        QString address;
-        std::vector<std::string> log;
-    } cases[] = {
+    const std::tuple<Reply, QString, std::vector<std::string>> cases[] = {
         {{.status = 500, .body = "192.0.2.1"}, QString(), {}},
         {{.body = "203.0.113.7\n"}, u"203.0.113.7"_s, {"info|Public IP detected: 203.0.113.7"}},
         {{.dropConnection = true}, u"203.0.113.7"_s, {}},
@@ -195,13 +189,13 @@ TEST_F(HeartbeatServiceTest, OnlyAnAddressIsTakenForThePublicAddress) {
         {{.body = "192.0.2.1" + QByteArray(1'000'000, '\n')}, u"203.0.113.7"_s, {refused}},
         {{.body = "\t2001:DB8::7\r\n"}, u"2001:DB8::7"_s, {"info|Public IP detected: 2001:DB8::7"}},
     };
-    for (const auto& expected : cases) {
-        m_server.misbehaviour().setReply(u"/address"_s, expected.reply);
+    for (const auto& [reply, address, log] : cases) {
+        m_server.misbehaviour().setReply(u"/address"_s, reply);
         m_log.clear();
         service.fetchPublicIp();
         EXPECT_TRUE(eventually([&] { return service.findChildren<HttpFetch*>().isEmpty(); }));
-        EXPECT_EQ(service.publicIp(), expected.address);
-        EXPECT_EQ(m_log.lines(), expected.log);
+        EXPECT_EQ(service.publicIp(), address);
+        EXPECT_EQ(m_log.lines(), log);
     }
 }
 

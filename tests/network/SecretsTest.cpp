@@ -20,17 +20,14 @@ TEST(PasswordPolicy, NamesTheFirstRuleBroken) {
     const QString noLower = u"Password must contain at least one lowercase letter."_s;
     const QString noUpper = u"Password must contain at least one uppercase letter."_s;
     const QString noDigit = u"Password must contain at least one digit."_s;
-    const struct {
-        QString password, violation;
-    } cases[] = {
+    const QString cases[][2] = {
         {u"Password1"_s, QString()}, {u"Pa1"_s, tooShort},      {QString(), tooShort},
         {u"Passwo1"_s, tooShort},    {u"PASSWORD1"_s, noLower}, {u"12345678"_s, noLower},
         {u"password1"_s, noUpper},   {u"Passwords"_s, noDigit}, {u"ÄÖÜßпароль٣"_s, QString()},
         {u"Password½²"_s, noDigit},
     };
-    for (const auto& expected : cases) {
-        EXPECT_EQ(PasswordPolicy::firstViolation(expected.password), expected.violation)
-            << expected.password.toStdString();
+    for (const auto& [password, violation] : cases) {
+        EXPECT_EQ(PasswordPolicy::firstViolation(password), violation) << password.toStdString();
     }
 }
 
@@ -66,7 +63,7 @@ TEST(MachineFingerprint, IsTheHashOfTheIdentity) {
     const test::LogCapture log;
     EXPECT_EQ(MachineFingerprint::of(u"4c4c4544-0042-3010-8051-b4c04f4d3532"_s),
               u"64be6d9615deaad3fadd59e10d6e59d2ebd211464197bc061a91b57ce0ca3c50"_s);
-    EXPECT_EQ(log.count("debug|MachineFingerprint: generated (64 chars)"), 1);
+    EXPECT_TRUE(log.once("debug|MachineFingerprint: generated (64 chars)"));
     EXPECT_EQ(MachineFingerprint::of(QString()), QString());
     EXPECT_EQ(MachineFingerprint::generate(), MachineFingerprint::of(machineGuid()));
 }

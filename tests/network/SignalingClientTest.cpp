@@ -39,16 +39,11 @@ protected:
     const devserver::Device m_device = m_server.registerDevice();
     std::vector<std::string> m_messages;
     SignalingClient m_client;
-    test::SignalLines m_signals{m_client,
-                                &SignalingClient::connected,
-                                &SignalingClient::disconnected,
-                                &SignalingClient::sessionHandshakeRequest,
-                                &SignalingClient::sessionAutoAccept,
-                                &SignalingClient::sessionHandshakeAck,
-                                &SignalingClient::connectionError,
-                                &SignalingClient::iceOffer,
-                                &SignalingClient::iceAnswer,
-                                &SignalingClient::iceCandidate};
+    test::SignalLines m_signals = test::SignalLines(
+        m_client, &SignalingClient::connected, &SignalingClient::disconnected,
+        &SignalingClient::sessionHandshakeRequest, &SignalingClient::sessionAutoAccept,
+        &SignalingClient::sessionHandshakeAck, &SignalingClient::connectionError,
+        &SignalingClient::iceOffer, &SignalingClient::iceAnswer, &SignalingClient::iceCandidate);
 };
 
 const std::string kReconnecting = "info|Reconnecting in 1000 ms (attempt 1/10)";
@@ -62,7 +57,7 @@ TEST_F(SignalingClientTest, ConnectedMeansAuthenticated) {
     QWebSocketServer server({}, QWebSocketServer::NonSecureMode);
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
     m_client.sendMessage({{"type", "early"}});
-    EXPECT_EQ(m_log.count("warning|Cannot send message: not connected"), 1);
+    EXPECT_TRUE(m_log.once("warning|Cannot send message: not connected"));
     m_client.connectToServer(server.serverUrl(), u"123456789"_s, u"tok"_s);
     ASSERT_TRUE(eventually([&] { return server.hasPendingConnections(); }));
     const std::unique_ptr<QWebSocket> peer(server.nextPendingConnection());
@@ -79,14 +74,12 @@ TEST_F(SignalingClientTest, ConnectedMeansAuthenticated) {
     m_client.sendMessage({{"type", "SET_PASSWORD"}, {"password", "pw"}});
     ASSERT_TRUE(received.wait());
     EXPECT_EQ(received.takeFirst().at(0), uR"({"password":"pw","type":"SET_PASSWORD"})"_s);
-    EXPECT_EQ(m_log.count(R"(debug|Signaling message: {"type":"AUTH_OK"})"), 1);
+    EXPECT_TRUE(m_log.once(R"(debug|Signaling message: {"type":"AUTH_OK"})"));
 }
 
 TEST_F(SignalingClientTest, EveryMessageTypeBecomesItsSignal) {
     ASSERT_TRUE(goOnline());
-    const struct {
-        const char *type, *fields, *signal;
-    } cases[] = {
+    const char* const cases[][3] = {
         {"SESSION_HANDSHAKE_REQUEST", R"("master_client_id":"m","purpose":"p")",
          "sessionHandshakeRequest|s|m|p"},
         {"SESSION_AUTO_ACCEPT", R"("master_client_id":"m","master_ecdh_public_key":"k")",
@@ -99,11 +92,11 @@ TEST_F(SignalingClientTest, EveryMessageTypeBecomesItsSignal) {
          "iceCandidate|s|f|c|0"},
         {"ICE_CANDIDATE", R"("from_client_id":5,"candidate":["c"])", "iceCandidate|s|||"},
     };
-    for (const auto& expected : cases) {
+    for (const auto& [type, fields, signal] : cases) {
         const QString message = uR"({"session_id":"s","type":"%1",%2})"_s.arg(
-            QLatin1String(expected.type), QLatin1String(expected.fields));
+            QLatin1String(type), QLatin1String(fields));
         m_server.pushText(m_device.clientId, message);
-        EXPECT_EQ(m_signals.next(), expected.signal);
+        EXPECT_EQ(m_signals.next(), signal);
         EXPECT_EQ(m_messages.back(), jsonText(parseJson(message.toStdString())));
     }
 }
@@ -135,16 +128,16 @@ TEST_F(SignalingClientTest, ADropIsMendedAfterASecondButNotARejectedToken) {
     EXPECT_TRUE(m_signals.waitFor(u"connectionError|Authentication rejected by server"_s));
     EXPECT_TRUE(waitForLog("info|Signaling WebSocket disconnected"));
     EXPECT_FALSE(m_client.isConnected());
-    EXPECT_EQ(m_log.count("error|Signaling auth rejected by server — not reconnecting"), 1);
+    EXPECT_TRUE(m_log.once("error|Signaling auth rejected by server — not reconnecting"));
     EXPECT_FALSE(m_log.contains("Reconnecting"));
 
     m_server.misbehaviour().setRejectAuth(false);
     ASSERT_TRUE(goOnline());
     m_server.dropSignaling(m_device.clientId);
     EXPECT_TRUE(m_signals.waitFor(u"disconnected"_s));
-    EXPECT_EQ(m_log.count(kReconnecting), 1);
+    EXPECT_TRUE(m_log.once(kReconnecting));
     EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
-    EXPECT_EQ(m_log.count("info|Attempting reconnect 1/10"), 1);
+    EXPECT_TRUE(m_log.once("info|Attempting reconnect 1/10"));
 }
 
 TEST_F(SignalingClientTest, ServersThatCannotBeReachedAreTriedAgain) {

@@ -26,10 +26,7 @@ TEST(StunMessage, ARequestIsAHeaderOnly) {
 }
 
 TEST(StunMessage, TheFirstIpv4MappingOfASuccessCounts) {
-    const struct {
-        QByteArray hex;
-        std::string result;
-    } cases[] = {
+    const std::pair<QByteArray, std::string> cases[] = {
         {kHeader + kXor, "192.0.2.1:32853"},
         {kHeader + kPlain, "198.51.100.7:8080"},
         {kHeader + kPlain + kXor, "198.51.100.7:8080"},
@@ -49,9 +46,8 @@ TEST(StunMessage, TheFirstIpv4MappingOfASuccessCounts) {
         {kHeader + "8022 0005 68656c6c 6f", "nothing"},
         {kHeader + "0020 0008 0003 a147 e112a643", "nothing"},
     };
-    for (const auto& expected : cases) {
-        EXPECT_EQ(parsed(QByteArray::fromHex(expected.hex)), expected.result)
-            << expected.hex.toStdString();
+    for (const auto& [hex, result] : cases) {
+        EXPECT_EQ(parsed(QByteArray::fromHex(hex)), result) << hex.toStdString();
     }
 }
 

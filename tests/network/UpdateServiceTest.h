@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CannedServer.h"
+#include "Files.h"
 #include "LogCapture.h"
 #include "SignalLines.h"
 #include "UpdateService.h"
@@ -25,16 +26,9 @@ protected:
 
     std::string installerPath() const { return path("CorvaneSetup.exe").toStdString(); }
 
-    QByteArray content(const char* name) const {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : "missing";
-    }
+    QByteArray content(const char* name) const { return contentOf(path(name)); }
 
-    void write(const char* name, const QByteArray& text) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
+    void write(const char* name, const QByteArray& text) const { writeFile(path(name), text); }
 
     /// The end of a download of these bytes: "readyToInstall|path" or "updateError|text".
     std::string download(const QByteArray& archive) {

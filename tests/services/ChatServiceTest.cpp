@@ -1,4 +1,5 @@
 #include "ChatService.h"
+#include "Bytes.h"
 #include "LogCapture.h"
 
 #include <QSignalSpy>
@@ -7,9 +8,7 @@
 namespace corvane::test {
 namespace {
 
-ByteVector bytes(const QByteArray& data) {
-    return {data.begin(), data.end()};
-}
+using namespace Qt::StringLiterals;
 
 class ChatServiceTest : public ::testing::Test {
 protected:
@@ -23,50 +22,44 @@ protected:
 };
 
 TEST_F(ChatServiceTest, SendsTimeLengthAndText) {
-    const struct {
-        QString text;
-        QByteArray tail; ///< after the time
-    } cases[] = {
+    const std::pair<QString, QByteArray> cases[] = {
         {QString(), QByteArray("\0\0", 2)},
-        {QStringLiteral("hé"), QByteArray("\3\0h\xC3\xA9", 5)},
+        {u"hé"_s, QByteArray("\3\0h\xC3\xA9", 5)},
         {QString(70'000, QLatin1Char('x')), "\xFF\xFF" + QByteArray(65'535, 'x')},
     };
-    for (const auto& message : cases) {
+    for (const auto& [text, tail] : cases) {
         const qint64 before = QDateTime::currentMSecsSinceEpoch();
-        m_chat.sendMessage(message.text);
-        ASSERT_EQ(ByteVector(m_sent.begin() + 8, m_sent.end()), bytes(message.tail));
+        m_chat.sendMessage(text);
+        ASSERT_EQ(ByteVector(m_sent.begin() + 8, m_sent.end()), bytes(tail));
         m_chat.handleMessage(m_sent);
         const auto time = m_received.takeFirst()[1].toDateTime().toMSecsSinceEpoch();
         EXPECT_GE(time, before);
         EXPECT_LE(time, QDateTime::currentMSecsSinceEpoch());
     }
-    EXPECT_EQ(m_log.count("warning|ChatService: message too long, truncating to 65535 bytes"), 1);
-    ChatService({}).sendMessage(QStringLiteral("to nobody"));
+    EXPECT_TRUE(m_log.once("warning|ChatService: message too long, truncating to 65535 bytes"));
+    ChatService({}).sendMessage(u"to nobody"_s);
 }
 
 TEST_F(ChatServiceTest, ReceivesWhatItsLengthNames) {
     const QByteArray time = QByteArray::fromHex("0068e5cf8b010000"); // 1700000000000
-    const struct {
-        QByteArray payload;
-        const char* text; ///< null when dropped
-        const char* line;
-    } cases[] = {
+    // Without a text it is dropped, with that line.
+    const std::tuple<QByteArray, const char*, const char*> cases[] = {
         {time + QByteArray("\0\0", 2), "", ""},
         {time + QByteArray("\2\0hixyz", 7), "hi", ""},
         {time.chopped(1), nullptr, "warning|ChatService: message too short (7 bytes)"},
         {time + QByteArray("\5\0hi", 4), nullptr,
          "warning|ChatService: message truncated (expected 10 + 5 bytes)"},
     };
-    for (const auto& message : cases) {
+    for (const auto& [payload, text, line] : cases) {
         m_log.clear();
         m_received.clear();
-        m_chat.handleMessage(bytes(message.payload));
-        ASSERT_EQ(m_received.count(), message.text != nullptr ? 1 : 0);
-        if (message.text != nullptr) {
-            EXPECT_EQ(m_received[0][0].toString(), QLatin1String(message.text));
+        m_chat.handleMessage(bytes(payload));
+        ASSERT_EQ(m_received.count(), text != nullptr ? 1 : 0);
+        if (text != nullptr) {
+            EXPECT_EQ(m_received[0][0].toString(), QLatin1String(text));
             EXPECT_EQ(m_received[0][1].toDateTime().toMSecsSinceEpoch(), 1'700'000'000'000);
         } else {
-            EXPECT_EQ(m_log.count(message.line), 1);
+            EXPECT_TRUE(m_log.once(line));
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "ClipboardSharing.h"
+#include "Eventually.h"
 #include "LogCapture.h"
 
 #include <QClipboard>
@@ -6,13 +7,14 @@
 #include <QImage>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace corvane::test {
 namespace {
 
-const QString kText = QStringLiteral("Grüße, 世界 & more\nsecond line");
+using namespace Qt::StringLiterals;
+
+const QString kText = u"Grüße, 世界 & more\nsecond line"_s;
 
 QByteArray messageOf(const QByteArray& utf8, quint32 length) {
     QByteArray message(1, '\x04');
@@ -31,8 +33,7 @@ QByteArray messageOf(const QString& text) {
 class Neighbour {
 public:
     explicit Neighbour(const QStringList& arguments) {
-        m_process.start(QCoreApplication::applicationDirPath() +
-                            QStringLiteral("/clipboard_neighbour"),
+        m_process.start(QCoreApplication::applicationDirPath() + u"/clipboard_neighbour"_s,
                         arguments);
     }
     ~Neighbour() {
@@ -43,12 +44,7 @@ public:
     /// What it sees. It may have to ask this program, so the event loop runs.
     QString clipboardText() {
         QByteArray digits;
-        (void)QTest::qWaitFor(
-            [&] {
-                digits += m_process.readAll();
-                return digits.endsWith('.');
-            },
-            10'000);
+        eventually([&] { return (digits += m_process.readAll()).endsWith('.'); });
         return QString::fromUtf8(QByteArray::fromHex(digits));
     }
 
@@ -60,10 +56,6 @@ class ClipboardSharingTest : public ::testing::Test {
 protected:
     QByteArray sent(int index) const { return m_sent[index][0].toByteArray(); }
 
-    static bool eventually(const std::function<bool()>& holds) {
-        return QTest::qWaitFor(holds, 10'000);
-    }
-
     LogCapture m_log;
     ClipboardSharing m_sharing;
     QSignalSpy m_sent{&m_sharing, &ClipboardSharing::clipboardDataReady};
@@ -74,7 +66,7 @@ TEST_F(ClipboardSharingTest, TextOfAnotherProgramIsSentAndThePeersReachesItWitho
     Neighbour owner({kText});
     ASSERT_TRUE(eventually([&] { return m_sent.count() == 1; }));
     EXPECT_EQ(sent(0), messageOf(kText));
-    for (const QString& remote : {QStringLiteral("from the peer"), kText}) {
+    for (const QString& remote : {u"from the peer"_s, kText}) {
         m_log.clear();
         m_sharing.onRemoteClipboardData(messageOf(remote) + "beyond");
         EXPECT_TRUE(eventually([&] {
@@ -83,17 +75,17 @@ TEST_F(ClipboardSharingTest, TextOfAnotherProgramIsSentAndThePeersReachesItWitho
         }));
         EXPECT_EQ(Neighbour({}).clipboardText(), remote);
     }
-    Neighbour next({QStringLiteral("next")});
+    Neighbour next({u"next"_s});
     ASSERT_TRUE(eventually([&] { return m_sent.count() > 1; }));
-    EXPECT_EQ(sent(1), messageOf(QStringLiteral("next"))) << "nothing of the peer's went back";
+    EXPECT_EQ(sent(1), messageOf(u"next"_s)) << "nothing of the peer's went back";
 }
 
 TEST_F(ClipboardSharingTest, OnlyReasonableTextOfAnActiveServiceIsSent) {
     QClipboard* const clipboard = QGuiApplication::clipboard();
-    clipboard->setText(QStringLiteral("before"));
+    clipboard->setText(u"before"_s);
     m_sharing.start();
     m_sharing.start();
-    EXPECT_EQ(m_log.count("debug|ClipboardSharing already active"), 1);
+    EXPECT_TRUE(m_log.once("debug|ClipboardSharing already active"));
     clipboard->setImage(QImage(4, 4, QImage::Format_RGB32));
     clipboard->setText(QString());
     const QString largest(10'485'760, QLatin1Char('x'));
@@ -109,37 +101,31 @@ TEST_F(ClipboardSharingTest, OnlyReasonableTextOfAnActiveServiceIsSent) {
     EXPECT_TRUE(sent(0) == messageOf(largest));
 
     m_sharing.stop();
-    EXPECT_EQ(m_log.count("info|ClipboardSharing stopped"), 1);
-    clipboard->setText(QStringLiteral("after"));
+    EXPECT_TRUE(m_log.once("info|ClipboardSharing stopped"));
+    clipboard->setText(u"after"_s);
     m_sharing.start();
-    clipboard->setText(QStringLiteral("again"));
-    const QByteArray again = messageOf(QStringLiteral("again"));
+    clipboard->setText(u"again"_s);
+    const QByteArray again = messageOf(u"again"_s);
     EXPECT_TRUE(eventually([&] { return m_sent.last()[0] == again; }));
-    EXPECT_FALSE(m_sent.contains(QVariantList{messageOf(QStringLiteral("after"))}));
+    EXPECT_FALSE(m_sent.contains(QVariantList{messageOf(u"after"_s)}));
 }
 
 TEST_F(ClipboardSharingTest, MalformedMessagesLeaveTheClipboardAlone) {
     QGuiApplication::clipboard()->setText(kText);
-    const struct {
-        QByteArray message;
-        const char* line;
-    } cases[] = {
-        {"", "warning|ClipboardSharing: received message too small (0 bytes, minimum 5)"},
-        {QByteArray("\x04\x01\0\0", 4),
-         "warning|ClipboardSharing: received message too small (4 bytes, minimum 5)"},
-        {QByteArray("\x1e\x01\0\0\0x", 6),
-         "warning|ClipboardSharing: unexpected message type tag 0x1E, expected 0x04"},
-        {messageOf("x", 10'485'761), "warning|ClipboardSharing: remote clipboard text too large "
-                                     "(10485761 bytes, max 10485760 bytes) — ignoring"},
-        {messageOf("x", 0xFFFFFFFF), "warning|ClipboardSharing: remote clipboard text too large "
-                                     "(4294967295 bytes, max 10485760 bytes) — ignoring"},
-        {messageOf("abc", 4),
-         "warning|ClipboardSharing: message truncated — expected 9 bytes, got 8"},
-        {messageOf("", 0), "debug|ClipboardSharing: received empty clipboard text — ignoring"},
+    const std::pair<QByteArray, const char*> cases[] = {
+        {"", "received message too small (0 bytes, minimum 5)"},
+        {QByteArray("\x04\x01\0\0", 4), "received message too small (4 bytes, minimum 5)"},
+        {QByteArray("\x1e\x01\0\0\0x", 6), "unexpected message type tag 0x1E, expected 0x04"},
+        {messageOf("x", 10'485'761),
+         "remote clipboard text too large (10485761 bytes, max 10485760 bytes) — ignoring"},
+        {messageOf("x", 0xFFFFFFFF),
+         "remote clipboard text too large (4294967295 bytes, max 10485760 bytes) — ignoring"},
+        {messageOf("abc", 4), "message truncated — expected 9 bytes, got 8"},
+        {messageOf("", 0), "received empty clipboard text — ignoring"},
     };
-    for (const auto& malformed : cases) {
-        m_sharing.onRemoteClipboardData(malformed.message);
-        EXPECT_EQ(m_log.lines().back(), malformed.line);
+    for (const auto& [message, line] : cases) {
+        m_sharing.onRemoteClipboardData(message);
+        EXPECT_THAT(m_log.lines().back(), testing::EndsWith(line));
     }
     EXPECT_EQ(QGuiApplication::clipboard()->text(), kText);
 }

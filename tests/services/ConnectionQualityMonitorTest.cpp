@@ -25,19 +25,14 @@ protected:
 
 TEST_F(ConnectionQualityMonitorTest, LevelFollowsFramesAndLatency) {
     using enum QualityLevel;
-    const struct {
-        int frames;
-        double latency;
-        QualityLevel level;
-        int changes; ///< so far
-    } ticks[] = {
+    const std::tuple<int, double, QualityLevel, int> ticks[] = {
         {8, 99.9, Good, 0}, {30, 100, Fair, 1}, {30, 299.9, Fair, 1}, {7, 10, Fair, 1},
         {4, 299, Fair, 1},  {30, 300, Poor, 2}, {3, 1, Poor, 2},      {60, 0, Good, 3},
     };
-    for (const auto& second : ticks) {
-        tick(second.frames, second.latency);
-        EXPECT_EQ(m_monitor.qualityLevel(), second.level) << second.frames << second.latency;
-        EXPECT_EQ(m_changes.count(), second.changes);
+    for (const auto& [frames, latency, level, changesSoFar] : ticks) {
+        tick(frames, latency);
+        EXPECT_EQ(m_monitor.qualityLevel(), level) << frames << latency;
+        EXPECT_EQ(m_changes.count(), changesSoFar);
     }
     EXPECT_EQ(m_updates.count(), std::ssize(ticks));
     EXPECT_EQ(m_changes.last()[0].value<QualityLevel>(), Good);
@@ -68,10 +63,7 @@ TEST_F(ConnectionQualityMonitorTest, TicksStartAfreshAndTotalsDoNot) {
 }
 
 TEST(ConnectionSummary, RoundsAndScales) {
-    const struct {
-        ConnectionStats stats;
-        const char* text;
-    } cases[] = {
+    const std::pair<ConnectionStats, const char*> cases[] = {
         {{}, "FPS: 0 | Latency: 0ms | BW: 0 kbps | Uptime: 00:00:00"},
         {{.fps = 23.5, .latencyMs = 12.5, .bandwidthKbps = 999.6, .uptimeSeconds = 90'061},
          "FPS: 24 | Latency: 13ms | BW: 1000 kbps | Uptime: 25:01:01"},

@@ -1,4 +1,5 @@
 #include "FileTransferService.h"
+#include "Bytes.h"
 #include "FileMessage.h"
 #include "Files.h"
 #include "LogCapture.h"
@@ -19,10 +20,6 @@ using namespace Qt::StringLiterals;
 constexpr qint64 kMaximumMessage = 100'000;
 constexpr qint64 kLargestDownload = kMaximumMessage - kDownloadResponseOverhead;
 using Type = FileMessageType;
-
-ByteVector bytes(const QByteArray& data) {
-    return {data.begin(), data.end()};
-}
 
 QByteArray content(qint64 size) {
     QByteArray data(size, Qt::Uninitialized);
@@ -80,7 +77,7 @@ TEST_F(FileTransferServiceTest, MovesFilesOfAnySizeAndNameEitherWay) {
     for (const qint64 size : {0, 1, 65'535, 65'536, 65'537}) {
         const QByteArray data = content(size);
         const QString source = createFile(u"Übung — 文件 %1 n.txt"_s.arg(size), data);
-        const QString uploaded = path(u"up loaded %1"_s.arg(size));
+        const QString uploaded = createFile(u"up loaded %1"_s.arg(size), content(size + 1));
         m_types.clear();
         m_uploadProgress.clear();
         m_service.uploadFile(source, uploaded);
@@ -135,10 +132,7 @@ TEST_F(FileTransferServiceTest, WhatCannotBeDoneIsToldTheUser) {
     m_service.requestDownload(path(u"fits"_s), path(u"copy"_s));
     EXPECT_EQ(m_downloaded.count(), 1);
 
-    const struct {
-        std::function<void()> attempt;
-        QString error;
-    } cases[] = {
+    const std::pair<std::function<void()>, QString> cases[] = {
         {[&] { m_service.requestListing(missing); }, u"Directory does not exist: "_s + missing},
         {[&] { m_service.requestDownload(missing, unused); }, u"Cannot open file: "_s + missing},
         {[&] { m_service.requestDownload(m_folder.path(), unused); },
@@ -150,13 +144,15 @@ TEST_F(FileTransferServiceTest, WhatCannotBeDoneIsToldTheUser) {
         {[&] { m_service.uploadFile(missing, unused); }, u"Cannot open local file: "_s + missing},
         {[&] { m_service.uploadFile(existing, impossible); },
          u"Cannot write file: "_s + impossible},
+        {[&] { m_service.uploadFile(existing, m_folder.path()); },
+         u"Cannot write file: "_s + m_folder.path()},
         {[&] { m_service.uploadFile(existing, u"nowhere in particular"_s); },
          u"Cannot write file: nowhere in particular"_s},
     };
-    for (const auto& refused : cases) {
+    for (const auto& [attempt, error] : cases) {
         m_errors.clear();
-        refused.attempt();
-        EXPECT_EQ(errors(), QStringList{refused.error});
+        attempt();
+        EXPECT_EQ(errors(), QStringList{error});
     }
     EXPECT_FALSE(QFile::exists(unused));
     EXPECT_FALSE(QFile::remove(u"nowhere in particular"_s));
@@ -207,30 +203,26 @@ TEST_F(FileTransferServiceTest, BrokenOrUncalledForMessagesCostALogLineEach) {
     const QString target = path(u"target"_s);
     const ByteVector chunk = uploadChunk(0, bytes("data"));
     const ByteVector end = fileTextMessage(Type::UploadEnd, target);
-    const struct {
-        std::vector<ByteVector> messages;
-        const char* line;
-    } cases[] = {
-        {{bytes("\x09")}, "FileTransfer: unknown sub-type 0x09"},
-        {{bytes("\x01\xFF\xFF\xFF\xFFx")}, "FileTransfer: malformed message 0x01"},
-        {{bytes(QByteArray("\x02\0\0\0\0\1", 6))}, "FileTransfer: malformed message 0x02"},
-        {{downloadResponse(bytes("x"))},
-         "FileTransfer: dropping a download response that was not asked for"},
-        {{bytes(QByteArray("\x05\1\0\0\0xsize", 10))}, "FileTransfer: malformed message 0x05"},
-        {{chunk, chunk, chunk}, "FileTransfer: dropping upload data without an upload"},
-        {{end}, "FileTransfer: dropping the end of an upload that was not started"},
+    const std::pair<std::vector<ByteVector>, const char*> cases[] = {
+        {{bytes("\x09")}, "unknown sub-type 0x09"},
+        {{bytes("\x01\xFF\xFF\xFF\xFFx")}, "malformed message 0x01"},
+        {{bytes(QByteArray("\x02\0\0\0\0\1", 6))}, "malformed message 0x02"},
+        {{downloadResponse(bytes("x"))}, "dropping a download response that was not asked for"},
+        {{bytes(QByteArray("\x05\1\0\0\0xsize", 10))}, "malformed message 0x05"},
+        {{chunk, chunk, chunk}, "dropping upload data without an upload"},
+        {{end}, "dropping the end of an upload that was not started"},
         {{uploadStart({target, 7}), chunk, chunk, chunk},
-         "FileTransfer: dropping upload data beyond the announced size"},
-        {{bytes("\x08\xFF\xFF\xFF\xFFx")}, "FileTransfer: remote error: "},
-        {{fileTextMessage(Type::Error, u"two\nlines"_s)}, "FileTransfer: remote error: two?lines"},
+         "dropping upload data beyond the announced size"},
+        {{bytes("\x08\xFF\xFF\xFF\xFFx")}, "remote error: "},
+        {{fileTextMessage(Type::Error, u"two\nlines"_s)}, "remote error: two?lines"},
     };
     m_service.handleMessage({});
-    for (const auto& bad : cases) {
+    for (const auto& [messages, line] : cases) {
         m_log.clear();
-        for (const ByteVector& message : bad.messages) {
+        for (const ByteVector& message : messages) {
             m_service.handleMessage(message);
         }
-        EXPECT_EQ(m_log.count(std::string("warning|") + bad.line), 1) << bad.line;
+        EXPECT_TRUE(m_log.once(std::string("warning|FileTransfer: ") + line));
     }
     EXPECT_EQ(m_listed.count() + m_downloaded.count(), 0);
     EXPECT_TRUE(m_types.empty()) << "nothing is answered";
@@ -238,7 +230,7 @@ TEST_F(FileTransferServiceTest, BrokenOrUncalledForMessagesCostALogLineEach) {
 
     m_service.handleMessage(end);
     EXPECT_EQ(contentOf(target), QByteArray("data"));
-    EXPECT_EQ(m_log.count("warning|FileTransfer: upload truncated (4 < 7)"), 1);
+    EXPECT_TRUE(m_log.once("warning|FileTransfer: upload truncated (4 < 7)"));
 }
 
 TEST_F(FileTransferServiceTest, AListingIsReadAsFarAsItGoes) {
@@ -280,9 +272,8 @@ TEST_F(FileTransferServiceTest, ADownloadIsAnsweredOnce) {
     EXPECT_FALSE(QFile::exists(target));
     answer(QByteArray("\4\0\x07\0\0\0\0\0\0\x80half", 14));
     EXPECT_EQ(contentOf(target), QByteArray("half"));
-    EXPECT_EQ(m_log.count("warning|FileTransfer: download response truncated (4 < "
-                          "9223372036854775815)"),
-              1);
+    EXPECT_TRUE(m_log.once("warning|FileTransfer: download response truncated (4 < "
+                           "9223372036854775815)"));
 }
 
 } // namespace

@@ -10,44 +10,36 @@ namespace {
 /// Answers every frame with a packet, unless told to fail.
 class ScriptedEncoder : public IVideoEncoder {
 public:
-    struct Script {
-        bool opens = true;
-        bool holdsBack = false;
-        int openings = 0;
-        EncoderConfig config;
-        bool forcedKeyframe = false;
-        uint8_t packets = 0;
-    };
-
-    explicit ScriptedEncoder(Script& script) : m_script(script) {}
-
-    bool initialize(const EncoderConfig& config) override {
-        ++m_script.openings;
-        m_script.config = config;
-        m_open = m_script.opens;
-        return m_open;
+    bool initialize(const EncoderConfig& wanted) override {
+        ++openings;
+        config = wanted;
+        return open = opens;
     }
-    void shutdown() override { m_open = false; }
+    void shutdown() override { open = false; }
     std::unique_ptr<EncodedPacket> encode(const uint8_t*, int, int, uint64_t,
                                           bool forceKeyframe) override {
-        m_script.forcedKeyframe = forceKeyframe;
-        if (m_script.holdsBack) {
+        forcedKeyframe = forceKeyframe;
+        if (holdsBack) {
             return nullptr;
         }
         auto packet = std::make_unique<EncodedPacket>();
-        packet->data = {1, 2, ++m_script.packets};
+        packet->data = {1, 2, ++packets};
         packet->isKeyframe = forceKeyframe;
         return packet;
     }
-    bool isInitialized() const override { return m_open; }
+    bool isInitialized() const override { return open; }
     void updateBitrate(int) override {}
     std::pair<int32_t, int32_t> configuredSize() const override {
-        return {m_script.config.width, m_script.config.height};
+        return {config.width, config.height};
     }
 
-private:
-    Script& m_script;
-    bool m_open = false;
+    bool opens = true;
+    bool holdsBack = false;
+    bool open = false;
+    int openings = 0;
+    EncoderConfig config;
+    bool forcedKeyframe = false;
+    uint8_t packets = 0;
 };
 
 CapturedFrame frame(int width, int height) {
@@ -63,11 +55,12 @@ class FramePipelineTest : public ::testing::Test {
 protected:
     LogCapture m_log;
     AesGcmCipher m_cipher{ByteVector(32, 1), ByteVector(12, 2)};
-    ScriptedEncoder::Script m_script;
+    std::unique_ptr<ScriptedEncoder> m_encoder = std::make_unique<ScriptedEncoder>();
+    ScriptedEncoder& m_script = *m_encoder;
     FramePipeline m_pipeline{
         {.captureFrameRate = 24, .encoderQuality = 23, .encoderSpeed = "8", .monitorIndex = 0},
         m_cipher,
-        std::make_unique<ScriptedEncoder>(m_script)};
+        std::move(m_encoder)};
 };
 
 TEST_F(FramePipelineTest, SealsTheBarePacket) {
@@ -114,7 +107,7 @@ TEST_F(FramePipelineTest, ReopensTheEncoderOncePerSize) {
 TEST_F(FramePipelineTest, RetriesAFailedOpeningWithTheNextFrame) {
     m_script.opens = false;
     EXPECT_FALSE(m_pipeline.process(frame(64, 48)).has_value());
-    EXPECT_EQ(m_log.count("error|Failed to initialize AV1 encoder (64x48)"), 1);
+    EXPECT_TRUE(m_log.once("error|Failed to initialize AV1 encoder (64x48)"));
     m_script.opens = true;
     EXPECT_TRUE(m_pipeline.process(frame(64, 48)).has_value());
     m_script.holdsBack = true;

@@ -17,11 +17,13 @@ TEST(MessageGapsTest, AMissingMessageIsLostWhenItStaysAwayTooLong) {
     const MessageGaps::Time start{};
     MessageGaps gaps(kPatience);
     for (const uint64_t counter : {0U, 1U, 4U, 3U}) { // 2 is missing, 3 was overtaken
-        gaps.note(counter, start);
+        EXPECT_TRUE(gaps.note(counter, start));
+        EXPECT_FALSE(gaps.note(counter, start)) << "a repetition";
     }
     EXPECT_FALSE(gaps.takeLoss(start + kPatience - 1ms));
     EXPECT_TRUE(gaps.takeLoss(start + kPatience));
     EXPECT_FALSE(gaps.takeLoss(start + 2 * kPatience)) << "reported twice";
+    EXPECT_FALSE(gaps.note(2, start)) << "given up";
 
     gaps.note(9, start);
     for (const uint64_t counter : {6U, 8U, 5U, 7U, 7U, 2U}) {
@@ -32,12 +34,10 @@ TEST(MessageGapsTest, AMissingMessageIsLostWhenItStaysAwayTooLong) {
     gaps.note(20, start);
     gaps.forgetBefore(20);
     EXPECT_FALSE(gaps.isAnythingMissing());
-}
 
-TEST(MessageGapsTest, TheFirstMessagesCanBeMissingToo) {
-    MessageGaps gaps(kPatience);
-    gaps.note(1, {});
-    EXPECT_TRUE(gaps.takeLoss(MessageGaps::Time{} + kPatience));
+    MessageGaps begunLate(kPatience);
+    begunLate.note(1, start);
+    EXPECT_TRUE(begunLate.takeLoss(start + kPatience)) << "the first message";
 }
 
 TEST(MessageGapsTest, InventedCountersCostNeitherMemoryNorTime) {

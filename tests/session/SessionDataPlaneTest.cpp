@@ -1,4 +1,5 @@
 #include "SessionDataPlane.h"
+#include "Bytes.h"
 #include "ChatService.h"
 #include "FileTransferService.h"
 #include "LogCapture.h"
@@ -7,10 +8,10 @@
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
-#include <string_view>
-
 namespace corvane::test {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 const ByteVector kKey(32, 0x11);
 const ByteVector kIv(12, 0x22);
@@ -18,29 +19,19 @@ const ByteVector kIv(12, 0x22);
 /// Keeps what it is given to send.
 class RecordingTransport : public ITransport {
 public:
-    struct Message {
-        ChannelType channel;
-        ByteVector sealed;
-    };
-
     bool connect(const std::string&, uint16_t) override { return true; }
     void disconnect() override {}
     bool isConnected() const override { return true; }
     bool send(ChannelType channel, const uint8_t* data, size_t size) override {
-        sent.push_back({channel, ByteVector(data, data + size)});
+        sent.emplace_back(channel, ByteVector(data, data + size));
         return true;
     }
-
     qint64 bytesQueued() const override { return 0; }
     bool waitUntilQueued(qint64) override { return true; }
     std::optional<double> roundTripMilliseconds() const override { return 12.5; }
 
-    std::vector<Message> sent;
+    std::vector<std::pair<ChannelType, ByteVector>> sent;
 };
-
-ByteVector bytes(std::string_view text) {
-    return {text.begin(), text.end()};
-}
 
 /// One side of a session and the peer that talks to it.
 class DataPlaneTest : public ::testing::TestWithParam<SessionRole> {
@@ -64,8 +55,15 @@ protected:
                                              static_cast<qsizetype>(sealed.size())));
     }
 
-    void receiveCommand(std::string_view command) {
+    void receiveCommand(const QByteArray& command) {
         receive(ChannelType::Control, controlMessage(ControlTag::Command, bytes(command)));
+    }
+
+    /// A control message that was sent, opened.
+    ByteVector sent(size_t index) const {
+        const auto& [channel, sealed] = m_transport.sent[index];
+        EXPECT_EQ(channel, ChannelType::Control);
+        return m_peer.decrypt(sealed.data(), sealed.size());
     }
 
     LogCapture m_log;
@@ -79,8 +77,7 @@ protected:
 };
 
 TEST_F(DataPlaneTest, InputReachesTheTargetOnly) {
-    InputEvent event;
-    event.type = InputEventType::KeyPress;
+    const InputEvent event{.type = InputEventType::KeyPress};
     const ByteVector message = controlMessage(ControlTag::InputEvent, event.serialize());
     startAs(SessionRole::Master);
     receive(ChannelType::Control, message);
@@ -108,9 +105,9 @@ TEST_P(DataPlaneTest, OnlyTheExactCommandDisconnects) {
     EXPECT_EQ(m_disconnects, 0);
     receiveCommand("disconnect");
     EXPECT_EQ(m_disconnects, 1);
-    EXPECT_EQ(m_log.count("info|Session command received: disconnect"), 1);
-    EXPECT_EQ(m_log.count("info|Session command received: disconnect?"), 1);
-    receiveCommand(std::string(100'000, 'x'));
+    EXPECT_TRUE(m_log.once("info|Session command received: disconnect"));
+    EXPECT_TRUE(m_log.once("info|Session command received: disconnect?"));
+    receiveCommand(QByteArray(100'000, 'x'));
     EXPECT_LT(m_log.lines().back().size(), 300U);
 }
 
@@ -127,7 +124,7 @@ TEST_F(DataPlaneTest, OnlyTheTargetSwitchesMonitors) {
     EXPECT_EQ(m_log.count("warning|Ignoring monitor switch without a valid index"), 5);
     EXPECT_FALSE(m_log.contains("Switching capture"));
     receiveCommand("switch_monitor:3");
-    EXPECT_EQ(m_log.count("info|Switching capture to monitor 3"), 1);
+    EXPECT_TRUE(m_log.once("info|Switching capture to monitor 3"));
 }
 
 TEST_P(DataPlaneTest, UnknownAndForeignMessagesAreDropped) {
@@ -139,7 +136,7 @@ TEST_P(DataPlaneTest, UnknownAndForeignMessagesAreDropped) {
     }
     EXPECT_TRUE(m_log.lines().empty()) << m_log.lines().front();
     receive(ChannelType::Control, bytes("\x06"));
-    EXPECT_EQ(m_log.count("warning|Chat: service not initialized or message too short"), 1);
+    EXPECT_TRUE(m_log.once("warning|Chat: service not initialized or message too short"));
 }
 
 TEST_P(DataPlaneTest, ServicesStartInOrderAndAnswerOnTheirTag) {
@@ -155,9 +152,9 @@ TEST_P(DataPlaneTest, ServicesStartInOrderAndAnswerOnTheirTag) {
             // There is no clipboard without windows.
             "error|ClipboardSharing: QApplication::clipboard() returned null"}));
     receive(ChannelType::Control, bytes("\x05\x09"));
-    EXPECT_EQ(m_log.count("warning|FileTransfer: unknown sub-type 0x09"), 1);
+    EXPECT_TRUE(m_log.once("warning|FileTransfer: unknown sub-type 0x09"));
     receive(ChannelType::Control, bytes("\x06short"));
-    EXPECT_EQ(m_log.count("warning|ChatService: message too short (5 bytes)"), 1);
+    EXPECT_TRUE(m_log.once("warning|ChatService: message too short (5 bytes)"));
     constexpr auto kTooSmall =
         "warning|ClipboardSharing: received message too small (1 bytes, minimum 5)";
     for (const bool enabled : {true, false, true}) {
@@ -176,24 +173,20 @@ TEST_F(DataPlaneTest, ServicesSendOnTheirTagOnceConnected) {
     startAs(SessionRole::Master);
     m_plane->setState(SessionState::Connecting);
     m_plane->chatService()->sendMessage({});
-    EXPECT_EQ(
-        m_log.count("warning|Chat send blocked: state=Connecting, cipher=true, transport=true"), 1);
+    EXPECT_TRUE(
+        m_log.once("warning|Chat send blocked: state=Connecting, cipher=true, transport=true"));
     m_plane->setState(SessionState::Connected);
     m_plane->setTransport(nullptr);
     m_plane->chatService()->sendMessage({});
-    EXPECT_EQ(m_log.count("warning|Chat: no active transport"), 1);
+    EXPECT_TRUE(m_log.once("warning|Chat: no active transport"));
     EXPECT_TRUE(m_transport.sent.empty());
     m_plane->setTransport(&m_transport);
     m_plane->chatService()->sendMessage({});
-    m_plane->fileTransferService()->requestListing(QStringLiteral("/"));
+    m_plane->fileTransferService()->requestListing(u"/"_s);
     ASSERT_EQ(m_transport.sent.size(), 2U);
-    const auto sent = [this](size_t index) {
-        const ByteVector& sealed = m_transport.sent[index].sealed;
-        return m_peer.decrypt(sealed.data(), sealed.size());
-    };
     EXPECT_EQ(sent(0).front(), 0x06);
     EXPECT_EQ(sent(0).size(), 11U);
-    EXPECT_EQ(sent(1), bytes({"\x05\x01\x01\0\0\0/", 7}));
+    EXPECT_EQ(sent(1), bytes(QByteArray("\x05\x01\x01\0\0\0/", 7)));
 }
 
 TEST_F(DataPlaneTest, VideoIsForTheViewer) {
@@ -211,8 +204,7 @@ TEST_F(DataPlaneTest, VideoIsForTheViewer) {
 
 TEST_F(DataPlaneTest, NothingLeavesBeforeOrAfterTheConnection) {
     startAs(SessionRole::Master);
-    InputEvent event;
-    event.type = InputEventType::MouseMove;
+    const InputEvent event{.type = InputEventType::MouseMove};
     m_plane->sendInputEvent(event);
     m_plane->requestMonitorSwitch(1);
     m_plane->setState(SessionState::Connected);
@@ -220,13 +212,9 @@ TEST_F(DataPlaneTest, NothingLeavesBeforeOrAfterTheConnection) {
     m_plane->requestMonitorSwitch(1);
     m_plane->setState(SessionState::Closing);
     m_plane->sendInputEvent(event);
-
     ASSERT_EQ(m_transport.sent.size(), 2U);
-    EXPECT_EQ(m_transport.sent[0].channel, ChannelType::Control);
-    EXPECT_EQ(m_peer.decrypt(m_transport.sent[0].sealed.data(), m_transport.sent[0].sealed.size()),
-              controlMessage(ControlTag::InputEvent, event.serialize()));
-    EXPECT_EQ(m_peer.decrypt(m_transport.sent[1].sealed.data(), m_transport.sent[1].sealed.size()),
-              bytes("\x03switch_monitor:1"));
+    EXPECT_EQ(sent(0), controlMessage(ControlTag::InputEvent, event.serialize()));
+    EXPECT_EQ(sent(1), bytes("\x03switch_monitor:1"));
 }
 
 INSTANTIATE_TEST_SUITE_P(EitherRole, DataPlaneTest,

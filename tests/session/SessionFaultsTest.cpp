@@ -3,170 +3,128 @@
 namespace corvane::test {
 namespace {
 
-TEST_F(SessionTest, ServerRefusalsReachTheUserAndLeaveRoomForTheNext) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    struct Case {
-        QString id;
-        QString password;
-        QString part;
-    };
-    for (const Case& refused :
-         {Case{target->id, QStringLiteral("wrong"), QStringLiteral("password")},
-          Case{QStringLiteral("000000000"), QStringLiteral("x"), QStringLiteral("not available")},
-          Case{m_server.registerDevice().clientId, QStringLiteral("x"),
-               QStringLiteral("offline")}}) {
-        viewer->errors.clear();
-        viewer->session->initiateSession(refused.id, refused.password);
-        ASSERT_TRUE(eventually([&] { return viewer->is(SessionState::Failed); }));
-        ASSERT_EQ(viewer->errors.size(), 1);
-        EXPECT_TRUE(viewer->errors.first().contains(refused.part))
-            << viewer->errors.first().toStdString();
+using namespace Qt::StringLiterals;
+
+TEST_F(SessionPairTest, ServerRefusalsReachTheUserAndLeaveRoomForTheNext) {
+    const QString refusals[][2] = {{m_target->id, u"password"_s},
+                                   {u"000000000"_s, u"not available"_s},
+                                   {m_server.registerDevice().clientId, u"offline"_s}};
+    for (const auto& [id, part] : refusals) {
+        m_viewer->errors.clear();
+        m_viewer->session->initiateSession(id, u"wrong"_s);
+        ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Failed); }));
+        const QString errors = m_viewer->errors.join(u'\n');
+        EXPECT_TRUE(errors.contains(part) && !errors.contains(u'\n')) << errors.toStdString();
     }
-    EXPECT_TRUE(connectDevices(*viewer, *target));
+    EXPECT_TRUE(connectDevices());
     EXPECT_TRUE(closeReasons().isEmpty());
 }
 
-TEST_F(SessionTest, ASecondRequestIsRefusedAndLeavesTheFirstAlone) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    viewer->session->initiateSession(target->id, QStringLiteral("Password1"));
-    viewer->session->initiateSession(target->id, QStringLiteral("Password1"));
-    EXPECT_EQ(viewer->errors, QStringList{QStringLiteral("Cannot initiate session: not idle")});
-    EXPECT_TRUE(eventually([&] { return viewer->is(SessionState::Connected); }));
+TEST_F(SessionPairTest, ASecondRequestIsRefusedAndLeavesTheFirstAlone) {
+    m_viewer->session->initiateSession(m_target->id, u"Password1"_s);
+    m_viewer->session->initiateSession(m_target->id, u"Password1"_s);
+    EXPECT_EQ(m_viewer->errors, QStringList{u"Cannot initiate session: not idle"_s});
+    EXPECT_TRUE(eventually([&] { return m_viewer->is(SessionState::Connected); }));
 }
 
-TEST_F(SessionTest, AnswersToAGivenUpRequestDoNotReachTheNextOne) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
+TEST_F(SessionPairTest, AnswersToAGivenUpRequestDoNotReachTheNextOne) {
     m_server.misbehaviour().setReply(
-        QStringLiteral("/sessions/create"),
+        u"/sessions/create"_s,
         {.delayMs = 100, .status = 200, .body = R"({"session_id":"abandoned"})"});
-    viewer->session->initiateSession(target->id, QStringLiteral("Password1"));
+    m_viewer->session->initiateSession(m_target->id, u"Password1"_s);
     ASSERT_TRUE(eventually([&] { return !m_server.requests().isEmpty(); }));
-    viewer->session->endSession(QStringLiteral("user_disconnect"));
-    EXPECT_TRUE(viewer->is(SessionState::Idle));
+    m_viewer->session->endSession(u"user_disconnect"_s);
+    EXPECT_TRUE(m_viewer->is(SessionState::Idle));
     EXPECT_TRUE(closeReasons().isEmpty()) << "there was no ID to close";
 
-    m_server.misbehaviour().setReply(QStringLiteral("/sessions/create"), {.delayMs = 300});
-    viewer->session->initiateSession(target->id, QStringLiteral("Password1"));
-    ASSERT_TRUE(eventually([&] { return viewer->is(SessionState::Connected); }));
-    EXPECT_NE(viewer->session->sessionId(), QStringLiteral("abandoned"));
+    m_server.misbehaviour().setReply(u"/sessions/create"_s, {.delayMs = 300});
+    m_viewer->session->initiateSession(m_target->id, u"Password1"_s);
+    ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Connected); }));
+    EXPECT_NE(m_viewer->session->sessionId(), u"abandoned"_s);
 }
 
-TEST_F(SessionTest, UnusableCreationAnswersFail) {
-    const auto viewer = createDevice();
+TEST_F(SessionPairTest, UnusableCreationAnswersFail) {
     for (const char* body : {"{}", R"({"session_id":7})", R"(["session_id"])", "garbage", ""}) {
-        m_server.misbehaviour().setReply(QStringLiteral("/sessions/create"),
+        m_server.misbehaviour().setReply(u"/sessions/create"_s,
                                          {.status = 200, .body = QByteArray(body)});
-        viewer->errors.clear();
-        viewer->session->initiateSession(QStringLiteral("123456789"), QStringLiteral("x"));
-        ASSERT_TRUE(eventually([&] { return viewer->is(SessionState::Failed); })) << body;
-        EXPECT_EQ(viewer->errors,
-                  QStringList{QStringLiteral("Server returned invalid session data")});
+        m_viewer->errors.clear();
+        m_viewer->session->initiateSession(u"123456789"_s, u"x"_s);
+        ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Failed); })) << body;
+        EXPECT_EQ(m_viewer->errors, QStringList{u"Server returned invalid session data"_s});
     }
 }
 
-TEST_F(SessionTest, UnusableKeysFailOnEitherSide) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    target->session->acceptSession(QStringLiteral("s"), viewer->id, QStringLiteral("bm90IGEga2V5"));
-    EXPECT_TRUE(target->is(SessionState::Failed));
-    EXPECT_EQ(target->errors.last(), QStringLiteral("ECDH key derivation failed"));
+TEST_F(SessionPairTest, UnusableKeysFailOnEitherSide) {
+    m_target->session->acceptSession(u"s"_s, m_viewer->id, u"bm90IGEga2V5"_s);
+    EXPECT_TRUE(m_target->is(SessionState::Failed));
+    EXPECT_EQ(m_target->errors.last(), u"ECDH key derivation failed"_s);
 
-    struct Case {
-        const char* key;
-        const char* error;
-    };
-    for (const Case& bad : {Case{R"("")", "Missing target ECDH public key"},
-                            Case{"17", "Missing target ECDH public key"},
-                            Case{R"("AAAA")", "ECDH key derivation failed"}}) {
-        m_server.misbehaviour().setReply(QStringLiteral("/sessions/create"),
+    const QString answers[][2] = {{uR"("")"_s, u"Missing target ECDH public key"_s},
+                                  {u"17"_s, u"Missing target ECDH public key"_s},
+                                  {uR"("AAAA")"_s, u"ECDH key derivation failed"_s}};
+    for (const auto& [key, error] : answers) {
+        m_server.misbehaviour().setReply(u"/sessions/create"_s,
                                          {.status = 200, .body = R"({"session_id":"s"})"});
-        viewer->session->initiateSession(target->id, QStringLiteral("x"));
-        ASSERT_TRUE(eventually([&] { return viewer->is(SessionState::Handshaking); }));
-        m_server.pushText(viewer->id,
-                          QStringLiteral(R"({"type":"SESSION_HANDSHAKE_ACK","session_id":"s",)"
-                                         R"("target_ecdh_public_key":%1})")
-                              .arg(QLatin1String(bad.key)));
-        ASSERT_TRUE(eventually([&] { return viewer->is(SessionState::Failed); }));
-        EXPECT_EQ(viewer->errors.last(), QLatin1String(bad.error));
+        m_viewer->session->initiateSession(m_target->id, u"x"_s);
+        ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Handshaking); }));
+        m_server.pushText(m_viewer->id, uR"({"type":"SESSION_HANDSHAKE_ACK","session_id":"s",)"
+                                        R"("target_ecdh_public_key":%1})"_s.arg(key));
+        ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Failed); }));
+        EXPECT_EQ(m_viewer->errors.last(), error);
     }
 }
 
-TEST_F(SessionTest, ServerEndsTheSessionByItsReport) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    m_server.misbehaviour().setReply(QStringLiteral("/complete"), {.delayMs = 100});
-    struct Case {
-        const char* report;
-        SessionState state;
-    };
-    for (const Case& ended :
-         {Case{"closed", SessionState::Idle}, Case{"failed", SessionState::Failed}}) {
-        m_server.misbehaviour().setStateText(QStringLiteral("complete"),
-                                             QLatin1String(ended.report));
-        ASSERT_TRUE(connectDevices(*viewer, *target));
-        EXPECT_TRUE(eventually([&] {
-            return viewer->is(ended.state) && target->is(SessionState::Idle);
-        })) << ended.report;
+TEST_F(SessionPairTest, ServerEndsTheSessionByItsReport) {
+    m_server.misbehaviour().setReply(u"/complete"_s, {.delayMs = 100});
+    for (const auto& [report, state] :
+         {std::pair{u"closed"_s, SessionState::Idle}, {u"failed"_s, SessionState::Failed}}) {
+        m_server.misbehaviour().setStateText(u"complete"_s, report);
+        ASSERT_TRUE(connectDevices());
+        EXPECT_TRUE(become(state, SessionState::Idle)) << report.toStdString();
     }
     // Only the target, which saw the transport go, has something to tell the server.
-    const QStringList expected(2, QStringLiteral("remote_transport_closed"));
+    const QStringList expected(2, u"remote_transport_closed"_s);
     EXPECT_TRUE(eventually([&] { return closeReasons() == expected; }));
 }
 
-TEST_F(SessionTest, AReportAboutAnotherSessionIsIgnored) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    m_server.misbehaviour().setStateText(QStringLiteral("complete"), QStringLiteral("closed"));
-    m_server.misbehaviour().setSessionId(QStringLiteral("somebody else's"));
-    ASSERT_TRUE(connectDevices(*viewer, *target));
+TEST_F(SessionPairTest, AReportAboutAnotherSessionIsIgnored) {
+    m_server.misbehaviour().setStateText(u"complete"_s, u"closed"_s);
+    m_server.misbehaviour().setSessionId(u"somebody else's"_s);
+    ASSERT_TRUE(connectDevices());
     EXPECT_TRUE(eventually(
         [&] { return m_log.contains("Ignoring update of another session: somebody else's"); }));
-    EXPECT_TRUE(viewer->is(SessionState::Connected));
+    EXPECT_TRUE(m_viewer->is(SessionState::Connected));
 }
 
-TEST_F(SessionTest, ServerMayCallTheSessionConnectedFirst) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    m_server.misbehaviour().setStateText(QStringLiteral("handshake-ack"),
-                                         QStringLiteral("connected"));
-    target->machine->framesToShow = 1;
-    ASSERT_TRUE(connectDevices(*viewer, *target));
-    EXPECT_TRUE(eventually([&] { return viewer->picture != nullptr; }));
-    EXPECT_EQ(m_log.count("info|Starting streaming (role: Target)"), 1);
+TEST_F(SessionPairTest, ServerMayCallTheSessionConnectedFirst) {
+    m_server.misbehaviour().setStateText(u"handshake-ack"_s, u"connected"_s);
+    m_target->machine->framesToShow = 1;
+    ASSERT_TRUE(connectDevices());
+    EXPECT_TRUE(eventually([&] { return m_viewer->picture != nullptr; }));
+    EXPECT_TRUE(m_log.once("info|Starting streaming (role: Target)"));
 }
 
-TEST_F(SessionTest, RelayLossEndsTheSession) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    ASSERT_TRUE(connectDevices(*viewer, *target));
+TEST_F(SessionPairTest, RelayLossEndsTheSession) {
+    ASSERT_TRUE(connectDevices());
     m_server.relay().dropConnections();
-    EXPECT_TRUE(eventually(
-        [&] { return viewer->is(SessionState::Idle) && target->is(SessionState::Idle); }));
+    EXPECT_TRUE(become(SessionState::Idle, SessionState::Idle));
     EXPECT_TRUE(eventually([&] { return closeReasons().size() == 2; }));
-    EXPECT_EQ(closeReasons().count(QStringLiteral("remote_transport_closed")), 2);
-    EXPECT_TRUE(connectDevices(*viewer, *target));
+    EXPECT_EQ(closeReasons().count(u"remote_transport_closed"_s), 2);
+    EXPECT_TRUE(connectDevices());
 }
 
-TEST_F(SessionTest, AnUnreachableRelayFailsTheSession) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
+TEST_F(SessionPairTest, AnUnreachableRelayFailsTheSession) {
     m_server.relay().refuseConnections();
-    viewer->session->initiateSession(target->id, QStringLiteral("Password1"));
-    EXPECT_TRUE(eventually(
-        [&] { return viewer->is(SessionState::Failed) && target->is(SessionState::Failed); }));
-    ASSERT_EQ(viewer->errors.size(), 1);
-    EXPECT_TRUE(viewer->errors.first().startsWith(
+    m_viewer->session->initiateSession(m_target->id, u"Password1"_s);
+    EXPECT_TRUE(become(SessionState::Failed, SessionState::Failed));
+    ASSERT_EQ(m_viewer->errors.size(), 1);
+    EXPECT_TRUE(m_viewer->errors.first().startsWith(
         u"Transport failed: All connection methods failed. Last error: "));
 }
 
-TEST_F(SessionTest, WhatTheRelayInventsIsDroppedOrEndsTheSession) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    ASSERT_TRUE(connectDevices(*viewer, *target));
-    const QString sessionId = viewer->session->sessionId();
+TEST_F(SessionPairTest, WhatTheRelayInventsIsDroppedOrEndsTheSession) {
+    ASSERT_TRUE(connectDevices());
+    const QString sessionId = m_viewer->session->sessionId();
     // A whole frame of 30 bytes that nobody sealed, on either channel; then one too short to be.
     m_server.relay().inject(sessionId, QByteArray("\0\0\0\0\x1e", 5) + QByteArray(30, 'x'));
     m_server.relay().inject(sessionId, QByteArray("\1\0\0\0\x1e", 5) + QByteArray(30, 'x'));
@@ -176,23 +134,19 @@ TEST_F(SessionTest, WhatTheRelayInventsIsDroppedOrEndsTheSession) {
                m_log.count("warning|Failed to decrypt video data (30 bytes)") == 1 &&
                m_log.count("warning|Failed to decrypt control data (3 bytes)") == 2;
     }));
-    EXPECT_TRUE(viewer->is(SessionState::Connected));
-    EXPECT_TRUE(target->is(SessionState::Connected));
+    EXPECT_TRUE(become(SessionState::Connected, SessionState::Connected));
 
-    m_server.relay().inject(sessionId, QByteArray("\x07garbage"));
-    EXPECT_TRUE(eventually(
-        [&] { return viewer->is(SessionState::Failed) && target->is(SessionState::Failed); }));
-    EXPECT_TRUE(viewer->errors.last().endsWith(u"Invalid channel type in frame header"));
-    EXPECT_TRUE(connectDevices(*viewer, *target));
+    m_server.relay().inject(sessionId, "\x07garbage");
+    EXPECT_TRUE(become(SessionState::Failed, SessionState::Failed));
+    EXPECT_TRUE(m_viewer->errors.last().endsWith(u"Invalid channel type in frame header"));
+    EXPECT_TRUE(connectDevices());
 }
 
-TEST_F(SessionTest, WithoutAScreenTheSessionStillConnects) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    target->machine->canCapture = false;
-    ASSERT_TRUE(connectDevices(*viewer, *target));
-    EXPECT_EQ(target->errors, QStringList{QStringLiteral("Failed to start screen capture.")});
-    EXPECT_EQ(m_log.count("error|Failed to initialize any screen capture backend"), 1);
+TEST_F(SessionPairTest, WithoutAScreenTheSessionStillConnects) {
+    m_target->machine->canCapture = false;
+    ASSERT_TRUE(connectDevices());
+    EXPECT_EQ(m_target->errors, QStringList{u"Failed to start screen capture."_s});
+    EXPECT_TRUE(m_log.once("error|Failed to initialize any screen capture backend"));
 }
 
 } // namespace

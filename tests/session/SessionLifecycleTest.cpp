@@ -1,43 +1,35 @@
 #include "SessionTest.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace corvane::test {
 namespace {
 
-const QStringList kViewerPath{QStringLiteral("Initiating"), QStringLiteral("Handshaking"),
-                              QStringLiteral("Connecting"), QStringLiteral("Connected")};
+using namespace Qt::StringLiterals;
+
+const QStringList kViewerPath{u"Initiating"_s, u"Handshaking"_s, u"Connecting"_s, u"Connected"_s};
 const QStringList kTargetPath = kViewerPath.sliced(1);
 
 InputEvent clickAt(double x) {
-    InputEvent event;
-    event.type = InputEventType::MouseButtonPress;
-    event.x = x;
-    return event;
+    return {.type = InputEventType::MouseButtonPress, .x = x};
 }
 
-TEST_F(SessionTest, CarriesPictureAndInput) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    viewer->session->sendInputEvent(clickAt(0.1)); // before there is a session: dropped
-    ASSERT_TRUE(connectDevices(*viewer, *target));
-    EXPECT_EQ(viewer->states, kViewerPath);
-    EXPECT_EQ(target->states, kTargetPath);
-    EXPECT_EQ(viewer->session->transportMethod(), QStringLiteral("relay"));
-    EXPECT_EQ(viewer->session->peerClientId(), target->id);
-    EXPECT_EQ(target->session->peerClientId(), viewer->id);
+TEST_F(SessionPairTest, CarriesPictureAndInput) {
+    m_viewer->session->sendInputEvent(clickAt(0.1)); // before there is a session: dropped
+    ASSERT_TRUE(connectDevices());
+    EXPECT_EQ(m_viewer->states, kViewerPath);
+    EXPECT_EQ(m_target->states, kTargetPath);
+    EXPECT_EQ(m_viewer->session->transportMethod(), u"relay"_s);
+    EXPECT_EQ(m_viewer->session->peerClientId(), m_target->id);
+    EXPECT_EQ(m_target->session->peerClientId(), m_viewer->id);
 
-    ASSERT_TRUE(eventually([&] { return viewer->picture != nullptr; }));
-    EXPECT_EQ(viewer->picture->width, 160);
-    EXPECT_EQ(viewer->picture->height, 120);
+    ASSERT_TRUE(eventually([&] { return m_viewer->picture != nullptr; }));
+    EXPECT_EQ(QSize(m_viewer->picture->width, m_viewer->picture->height), QSize(160, 120));
 
-    viewer->session->sendInputEvent(clickAt(0.25));
-    target->session->sendInputEvent(clickAt(0.75)); // only the viewer's counts
-    ASSERT_TRUE(eventually([&] { return !target->machine->injected.empty(); }));
-    EXPECT_EQ(target->machine->injected.size(), 1U);
-    EXPECT_EQ(target->machine->injected.front().x, 0.25);
-    EXPECT_TRUE(viewer->machine->injected.empty());
+    m_viewer->session->sendInputEvent(clickAt(0.25));
+    m_target->session->sendInputEvent(clickAt(0.75)); // only the viewer's counts
+    ASSERT_TRUE(eventually([&] { return !m_target->machine->injected.empty(); }));
+    EXPECT_EQ(m_target->machine->injected.size(), 1U);
+    EXPECT_EQ(m_target->machine->injected.front().x, 0.25);
+    EXPECT_TRUE(m_viewer->machine->injected.empty());
 
     const auto requests = m_server.requests();
     const auto completed = std::find_if(requests.begin(), requests.end(), [](const auto& request) {
@@ -47,107 +39,91 @@ TEST_F(SessionTest, CarriesPictureAndInput) {
     EXPECT_EQ(completed->body, QByteArrayLiteral(R"({"connection_method":"relay"})"));
 }
 
-TEST_F(SessionTest, ThePartnerMayBeQuickerThanTheServersAnswer) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    m_server.misbehaviour().setReply(QStringLiteral("/sessions/create"), {.delayMs = 300});
-    EXPECT_TRUE(connectDevices(*viewer, *target));
-    EXPECT_EQ(viewer->states, kViewerPath);
+TEST_F(SessionPairTest, ThePartnerMayBeQuickerThanTheServersAnswer) {
+    m_server.misbehaviour().setReply(u"/sessions/create"_s, {.delayMs = 300});
+    EXPECT_TRUE(connectDevices());
+    EXPECT_EQ(m_viewer->states, kViewerPath);
 }
 
-TEST_F(SessionTest, AStillScreenIsSeen) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    target->machine->framesToShow = 1;
-    ASSERT_TRUE(connectDevices(*viewer, *target));
-    EXPECT_TRUE(eventually([&] { return viewer->picture != nullptr; }));
+TEST_F(SessionPairTest, AStillScreenIsSeen) {
+    m_target->machine->framesToShow = 1;
+    ASSERT_TRUE(connectDevices());
+    EXPECT_TRUE(eventually([&] { return m_viewer->picture != nullptr; }));
 }
 
-TEST_F(SessionTest, FollowsResolutionAndMonitor) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    ASSERT_TRUE(connectDevices(*viewer, *target));
-    ASSERT_TRUE(eventually([&] { return viewer->picture != nullptr; }));
-    target->machine->width = 200;
-    EXPECT_TRUE(eventually([&] { return viewer->picture->width == 200; }));
-    EXPECT_EQ(m_log.count("info|Frame resolution changed (160x120 -> 200x120), reinitializing "
-                          "encoder"),
-              1);
-    viewer->session->requestMonitorSwitch(2);
-    EXPECT_TRUE(eventually([&] { return target->machine->monitor == 2; }));
+TEST_F(SessionPairTest, FollowsResolutionAndMonitor) {
+    ASSERT_TRUE(connectDevices());
+    ASSERT_TRUE(eventually([&] { return m_viewer->picture != nullptr; }));
+    m_target->machine->width = 200;
+    EXPECT_TRUE(eventually([&] { return m_viewer->picture->width == 200; }));
+    EXPECT_TRUE(m_log.once("info|Frame resolution changed (160x120 -> 200x120), reinitializing "
+                           "encoder"));
+    m_viewer->session->requestMonitorSwitch(2);
+    EXPECT_TRUE(eventually([&] { return m_target->machine->monitor == 2; }));
 }
 
-TEST_F(SessionTest, EndsFromEitherSide) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    for (Device* ending : {viewer.get(), target.get()}) {
-        ASSERT_TRUE(connectDevices(*viewer, *target));
-        ending->session->endSession(QStringLiteral("user_disconnect"));
+TEST_F(SessionPairTest, EndsFromEitherSide) {
+    for (Device* ending : {m_viewer.get(), m_target.get()}) {
+        ASSERT_TRUE(connectDevices());
+        ending->session->endSession(u"user_disconnect"_s);
         EXPECT_TRUE(ending->is(SessionState::Idle));
         EXPECT_EQ(ending->session->role(), SessionRole::None);
-        EXPECT_TRUE(eventually(
-            [&] { return viewer->is(SessionState::Idle) && target->is(SessionState::Idle); }));
-        EXPECT_EQ(viewer->states.last(2), target->states.last(2));
+        EXPECT_TRUE(become(SessionState::Idle, SessionState::Idle));
+        EXPECT_EQ(m_viewer->states.last(2), m_target->states.last(2));
     }
-    EXPECT_TRUE(eventually([&] { return closeReasons().size() == 4; }));
-    EXPECT_EQ(closeReasons().count(QStringLiteral("user_disconnect")), 2);
-    EXPECT_EQ(closeReasons().count(QStringLiteral("remote_transport_closed")), 2);
-    EXPECT_EQ(viewer->errors + target->errors, QStringList());
+    EXPECT_TRUE(eventually([&] {
+        return closeReasons().count(u"user_disconnect"_s) == 2 &&
+               closeReasons().count(u"remote_transport_closed"_s) == 2;
+    }));
+    EXPECT_EQ(m_viewer->errors + m_target->errors, QStringList());
 }
 
-TEST_F(SessionTest, EndingNothingDoesNothing) {
-    const auto device = createDevice();
+TEST_F(SessionPairTest, EndingNothingDoesNothing) {
     m_log.clear();
-    device->session->endSession(QStringLiteral("user_disconnect"));
+    m_viewer->session->endSession(u"user_disconnect"_s);
     EXPECT_TRUE(m_log.lines().empty());
     EXPECT_TRUE(closeReasons().isEmpty());
 }
 
-TEST_F(SessionTest, ANewcomerDisplacesAConnectedSession) {
-    const auto target = createDevice();
-    const auto first = createDevice();
+TEST_F(SessionPairTest, ANewcomerDisplacesAConnectedSession) {
+    ASSERT_TRUE(connectDevices());
     const auto second = createDevice();
-    ASSERT_TRUE(connectDevices(*first, *target));
-    ASSERT_TRUE(connectDevices(*second, *target));
-    EXPECT_TRUE(eventually([&] { return first->is(SessionState::Idle); }));
-    EXPECT_EQ(target->session->peerClientId(), second->id);
+    ASSERT_TRUE(SessionTest::connectDevices(*second, *m_target));
+    EXPECT_TRUE(eventually([&] { return m_viewer->is(SessionState::Idle); }));
+    EXPECT_EQ(m_target->session->peerClientId(), second->id);
     EXPECT_TRUE(eventually([&] { return second->picture != nullptr; }));
     // The answer to the first session's close must not have ended the second.
     EXPECT_TRUE(
         eventually([&] { return m_log.contains("info|Ignoring update of another session"); }));
-    EXPECT_TRUE(target->is(SessionState::Connected));
-    EXPECT_TRUE(closeReasons().contains(QStringLiteral("new_session_incoming")));
+    EXPECT_TRUE(m_target->is(SessionState::Connected));
+    EXPECT_TRUE(closeReasons().contains(u"new_session_incoming"_s));
 }
 
-TEST_F(SessionTest, ManualAcceptanceWaitsForAKeyThatNeverComes) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    QObject::connect(&target->signaling, &SignalingClient::sessionHandshakeRequest,
+TEST_F(SessionPairTest, ManualAcceptanceWaitsForAKeyThatNeverComes) {
+    QObject::connect(&m_target->signaling, &SignalingClient::sessionHandshakeRequest,
                      [&](const QString& session, const QString& master, const QString& purpose) {
-                         EXPECT_EQ(purpose, QStringLiteral("remote_desktop"));
-                         target->session->acceptSession(session, master, QString());
+                         EXPECT_EQ(purpose, u"remote_desktop"_s);
+                         m_target->session->acceptSession(session, master, QString());
                      });
-    viewer->session->initiateSession(target->id, QStringLiteral("123456"));
+    m_viewer->session->initiateSession(m_target->id, u"123456"_s);
     // The viewer has the target's key and meets the relay alone.
-    ASSERT_TRUE(eventually([&] { return viewer->is(SessionState::Connected); }));
-    EXPECT_TRUE(target->is(SessionState::Handshaking));
+    ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Connected); }));
+    EXPECT_TRUE(m_target->is(SessionState::Handshaking));
 
     // A session that is being set up is never displaced.
-    target->session->acceptSession(QStringLiteral("other"), QStringLiteral("1"), QString());
-    EXPECT_EQ(target->errors, QStringList{QStringLiteral("Cannot accept session: not idle")});
-    EXPECT_EQ(target->session->peerClientId(), viewer->id);
+    m_target->session->acceptSession(u"other"_s, u"1"_s, QString());
+    EXPECT_EQ(m_target->errors, QStringList{u"Cannot accept session: not idle"_s});
+    EXPECT_EQ(m_target->session->peerClientId(), m_viewer->id);
 
-    target->session->endSession(QStringLiteral("user_disconnect"));
-    EXPECT_TRUE(target->is(SessionState::Idle));
+    m_target->session->endSession(u"user_disconnect"_s);
+    EXPECT_TRUE(m_target->is(SessionState::Idle));
 }
 
-TEST_F(SessionTest, DestroyingTheManagerEndsTheSession) {
-    const auto target = createDevice();
-    const auto viewer = createDevice();
-    ASSERT_TRUE(connectDevices(*viewer, *target));
-    target->session.reset();
-    EXPECT_TRUE(eventually([&] { return viewer->is(SessionState::Idle); }));
-    EXPECT_TRUE(closeReasons().contains(QStringLiteral("destructor_cleanup")));
+TEST_F(SessionPairTest, DestroyingTheManagerEndsTheSession) {
+    ASSERT_TRUE(connectDevices());
+    m_target->session.reset();
+    EXPECT_TRUE(eventually([&] { return m_viewer->is(SessionState::Idle); }));
+    EXPECT_TRUE(closeReasons().contains(u"destructor_cleanup"_s));
 }
 
 } // namespace

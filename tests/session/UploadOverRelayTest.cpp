@@ -1,3 +1,4 @@
+#include "Eventually.h"
 #include "FileTransferService.h"
 #include "LogCapture.h"
 #include "RelayNode.h"
@@ -5,19 +6,21 @@
 #include "SessionDataPlane.h"
 #include "TestPlatform.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
 #include <gtest/gtest.h>
 
 namespace corvane::test {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr qint64 kMebibyte = 1024 * 1024;
-constexpr qint64 kHugeFile = 300 * kMebibyte + 1;
-const QString kSession = QStringLiteral("s");
+constexpr int kPatienceMs = 60'000;
+const QString kSession = u"s"_s;
 
 /// An object that is made, lives and dies on a thread of its own.
 template <typename T>
@@ -71,17 +74,13 @@ struct Peer {
 class UploadOverRelayTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(eventually([this] { return joinedPeers(kSession) == 2; }));
+        ASSERT_TRUE(eventually([this] { return joinedPeers(kSession) == 2; }, kPatienceMs));
     }
 
     int joinedPeers(const QString& session) {
         int joined = 0;
         m_relay.run([&] { joined = m_relay->joinedPeers(session); });
         return joined;
-    }
-
-    static bool eventually(const std::function<bool()>& holds) {
-        return QTest::qWaitFor(holds, 60'000);
     }
 
     static std::unique_ptr<devserver::RelayNode> startRelay() {
@@ -102,23 +101,11 @@ protected:
         return file.fileName();
     }
 
-    static bool equalFiles(const QString& first, const QString& second) {
-        QFile a(first);
-        QFile b(second);
-        if (!a.open(QIODevice::ReadOnly) || !b.open(QIODevice::ReadOnly) || a.size() != b.size()) {
-            return false;
-        }
-        while (!a.atEnd()) {
-            if (a.read(kMebibyte) != b.read(kMebibyte)) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    bool received(const QString& path) {
-        return eventually(
-            [&] { return m_log.contains("received upload -> '" + path.toStdString()); });
+    static QByteArray checksum(const QString& path) {
+        QFile file(path);
+        QCryptographicHash hash(QCryptographicHash::Sha1);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly) && hash.addData(&file)) << path.toStdString();
+        return hash.result();
     }
 
     LogCapture m_log;
@@ -133,8 +120,8 @@ protected:
 };
 
 TEST_F(UploadOverRelayTest, AHugeFileArrivesWholeAndWaitsOnDiskNotInTheQueue) {
-    const QString source = createFile(QStringLiteral("source"), kHugeFile);
-    const QString target = m_folder.filePath(QStringLiteral("target"));
+    const QString source = createFile(u"source"_s, 300 * kMebibyte + 1);
+    const QString target = m_folder.filePath(u"target"_s);
     qint64 longestQueue = 0;
     QObject::connect(&m_user.files(), &FileTransferService::fileUploadProgress, [&] {
         longestQueue = std::max(longestQueue, m_user.transport.bytesQueued());
@@ -142,12 +129,13 @@ TEST_F(UploadOverRelayTest, AHugeFileArrivesWholeAndWaitsOnDiskNotInTheQueue) {
     m_user.files().uploadFile(source, target);
     EXPECT_EQ(m_errors.count(), 0);
     EXPECT_LT(longestQueue, 5 * kMebibyte);
-    ASSERT_TRUE(received(target));
-    EXPECT_TRUE(equalFiles(source, target));
+    const std::string received = "received upload -> '" + target.toStdString();
+    ASSERT_TRUE(eventually([&] { return m_log.contains(received); }, kPatienceMs));
+    EXPECT_EQ(checksum(source), checksum(target));
 }
 
 TEST_F(UploadOverRelayTest, TwoPeersThatSendAtOnceDoNotWaitForEachOther) {
-    const QString session = QStringLiteral("two senders");
+    const QString session = u"two senders"_s;
     const auto join = [&] {
         auto transport = std::make_unique<RelayTransport>();
         transport->setSessionId(session);
@@ -156,7 +144,7 @@ TEST_F(UploadOverRelayTest, TwoPeersThatSendAtOnceDoNotWaitForEachOther) {
     };
     OnThread<RelayTransport> peer(join);
     const auto user = join();
-    ASSERT_TRUE(eventually([&] { return joinedPeers(session) == 2; }));
+    ASSERT_TRUE(eventually([&] { return joinedPeers(session) == 2; }, kPatienceMs));
     // Together more than all sockets on the way take while nobody reads.
     const auto sendMuch = [](RelayTransport& transport) {
         const ByteVector message(kMebibyte);
@@ -168,7 +156,7 @@ TEST_F(UploadOverRelayTest, TwoPeersThatSendAtOnceDoNotWaitForEachOther) {
     peer.post([&] { sendMuch(*peer); });
     QSignalSpy received(user.get(), &ITransport::dataReceived);
     sendMuch(*user);
-    EXPECT_TRUE(eventually([&] { return received.count() == 64; }));
+    EXPECT_TRUE(eventually([&] { return received.count() == 64; }, kPatienceMs));
 }
 
 TEST_F(UploadOverRelayTest, AnUploadSurvivesTheEndOfItsConnection) {
@@ -177,18 +165,16 @@ TEST_F(UploadOverRelayTest, AnUploadSurvivesTheEndOfItsConnection) {
         m_user.plane.setTransport(nullptr);
         m_user.transport.disconnect();
     });
-    const auto begun = QObject::connect(
-        &m_user.files(), &FileTransferService::fileUploadProgress, [this](auto, int percent) {
-            if (percent == 10) {
-                m_relay.post([this] { m_relay->inject(kSession, "\x07garbage"); });
-            }
-        });
-    const QString source = createFile(QStringLiteral("source"), 40 * kMebibyte);
-    m_user.files().uploadFile(source, m_folder.filePath(QStringLiteral("target")));
+    QObject::connect(&m_user.files(), &FileTransferService::fileUploadProgress,
+                     [this](auto, int percent) {
+                         if (percent == 10) {
+                             m_relay.post([this] { m_relay->inject(kSession, "\x07garbage"); });
+                         }
+                     });
+    const QString source = createFile(u"source"_s, 40 * kMebibyte);
+    m_user.files().uploadFile(source, m_folder.filePath(u"target"_s));
     ASSERT_EQ(m_errors.count(), 1);
-    EXPECT_EQ(m_errors[0][0].toString(),
-              QStringLiteral("The connection was lost while sending: ") + source);
-    QObject::disconnect(begun);
+    EXPECT_EQ(m_errors[0][0].toString(), u"The connection was lost while sending: "_s + source);
 }
 
 } // namespace

@@ -56,13 +56,11 @@ TEST_F(SettingsControllerTest, EverySetterWritesItsKeyAndItsGetterReadsIt) {
 }
 
 TEST_F(SettingsControllerTest, DisplayModeDecidesRateAndQuality) {
-    const struct {
-        int mode, frameRate, quality;
-    } modes[] = {{0, 24, 23}, {1, 10, 45}, {2, 10, 45}, {-1, 10, 45}};
-    for (const auto& expected : modes) {
-        m_settings.setDisplayMode(expected.mode);
-        EXPECT_EQ(m_settings.captureFrameRate(), expected.frameRate) << expected.mode;
-        EXPECT_EQ(m_settings.encoderQuality(), expected.quality) << expected.mode;
+    const int modes[][3] = {{0, 24, 23}, {1, 10, 45}, {2, 10, 45}, {-1, 10, 45}};
+    for (const auto& [mode, frameRate, quality] : modes) {
+        m_settings.setDisplayMode(mode);
+        EXPECT_EQ(m_settings.captureFrameRate(), frameRate) << mode;
+        EXPECT_EQ(m_settings.encoderQuality(), quality) << mode;
     }
 }
 

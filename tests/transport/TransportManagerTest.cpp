@@ -1,6 +1,6 @@
 #include "TransportManager.h"
+#include "IPeerTransport.h"
 #include "LogCapture.h"
-#include "ScriptedPeerTransport.h"
 #include "ScriptedRelay.h"
 
 #include <QPointer>
@@ -11,14 +11,12 @@ namespace corvane {
 namespace {
 
 using namespace std::chrono_literals;
-using test::ScriptedPeerTransport;
-
-const QString kSession = QStringLiteral("s-1");
+using namespace Qt::StringLiterals;
 
 TEST(RelayCandidate, SmallestKnownMetricWinsAndTiesKeepTheEarlier) {
     const std::pair<std::vector<int32_t>, int> cases[] = {
-        {{}, -1},        {{-1}, 0},        {{-1, 30, 20, 20}, 2}, {{-1, -5}, 0},
-        {{5, -1, 5}, 0}, {{10, 0, -1}, 1}, {{-1, 7}, 1},          {{20, 30}, 0},
+        {{}, -1},        {{-1}, 0},        {{-1, 30, 20, 20}, 2},
+        {{5, -1, 5}, 0}, {{10, 0, -1}, 1}, {{-1, -5}, 0},
     };
     for (const auto& [metrics, chosen] : cases) {
         std::vector<RelayCandidate> candidates;
@@ -31,25 +29,56 @@ TEST(RelayCandidate, SmallestKnownMetricWinsAndTiesKeepTheEarlier) {
     }
 }
 
+/// Records what it is told in `calls`, which may outlive it; the test emits its signals.
+class ScriptedPeerTransport : public IPeerTransport {
+public:
+    explicit ScriptedPeerTransport(QStringList& calls) : m_calls(calls) {}
+
+    bool connect(const std::string&, uint16_t) override { return note(u"offer"_s); }
+    void startAsAnswerer() override { note(u"answer"_s); }
+    void disconnect() override { note(u"disconnect"_s); }
+    bool isConnected() const override { return false; }
+    bool send(ChannelType, const uint8_t*, size_t) override { return false; }
+    qint64 bytesQueued() const override { return 0; }
+    bool waitUntilQueued(qint64) override { return false; }
+    std::optional<double> roundTripMilliseconds() const override { return std::nullopt; }
+    void setRemoteDescription(const QString& sdp, const QString& type) override {
+        note(u"description %1 %2"_s.arg(type, sdp));
+    }
+    void addRemoteCandidate(const QString& candidate, const QString& mid) override {
+        note(u"candidate %1 %2"_s.arg(candidate, mid));
+    }
+
+private:
+    bool note(const QString& call) {
+        m_calls.append(call);
+        return true;
+    }
+
+    QStringList& m_calls;
+};
+
 class TransportManagerTest : public ::testing::Test {
 protected:
-    PeerTransportFactory scriptedPeer() {
-        return [this] {
-            auto made = std::make_unique<ScriptedPeerTransport>(peerCalls);
+    /// A manager that has a scripted peer-to-peer transport, or none.
+    void create(bool hasPeer = true, std::chrono::milliseconds timeout = 10'000ms) {
+        const auto factory = [this, hasPeer] {
+            auto made = hasPeer ? std::make_unique<ScriptedPeerTransport>(peerCalls) : nullptr;
             peer = made.get();
             return made;
         };
-    }
-
-    void create(PeerTransportFactory factory, std::chrono::milliseconds timeout = 10'000ms) {
-        manager = std::make_unique<TransportManager>(nullptr, std::move(factory), timeout);
+        manager = std::make_unique<TransportManager>(nullptr, factory, timeout);
         established =
             std::make_unique<QSignalSpy>(manager.get(), &TransportManager::connectionEstablished);
         failed = std::make_unique<QSignalSpy>(manager.get(), &TransportManager::connectionFailed);
     }
 
-    std::vector<RelayCandidate> relayAt(uint16_t port) const {
-        return {{QStringLiteral("node"), QStringLiteral("127.0.0.1"), port, -1}};
+    void establish(std::optional<uint16_t> relayPort = {}, int natType = 0) {
+        std::vector<RelayCandidate> candidates;
+        if (relayPort) {
+            candidates.push_back({u"node"_s, u"127.0.0.1"_s, *relayPort, -1});
+        }
+        manager->establishConnection(u"s-1"_s, natType, natType, candidates, true);
     }
 
     bool waitFor(const QSignalSpy& spy) {
@@ -66,94 +95,87 @@ protected:
 };
 
 TEST_F(TransportManagerTest, OnlyNatTypesZeroToThreeTryThePeerFirst) {
-    const struct {
-        int local, remote;
-        bool triesPeer;
-    } cases[] = {{0, 0, true},  {3, 3, true},   {4, 0, false},
-                 {0, 4, false}, {-1, 0, false}, {0, 255, false}};
-    create(scriptedPeer());
-    for (const auto& item : cases) {
+    const std::tuple<int, int, bool> cases[] = {{0, 0, true},  {3, 3, true},   {4, 0, false},
+                                                {0, 4, false}, {-1, 0, false}, {0, 255, false}};
+    create();
+    for (const auto& [local, remote, triesPeer] : cases) {
         peerCalls.clear();
-        manager->establishConnection(kSession, item.local, item.remote, {}, true);
-        EXPECT_EQ(peerCalls.contains(u"offer"_qs), item.triesPeer)
-            << item.local << " and " << item.remote;
+        manager->establishConnection(u"s-1"_s, local, remote, {}, true);
+        EXPECT_EQ(peerCalls.contains(u"offer"_s), triesPeer) << local << " and " << remote;
     }
 }
 
 TEST_F(TransportManagerTest, PeerThatConnectsWinsWhateverErrorsCameBefore) {
-    create(scriptedPeer());
-    manager->establishConnection(kSession, 0, 0, relayAt(relay.port()), false);
-    ASSERT_EQ(peerCalls, QStringList(u"answer"_qs));
-    Q_EMIT peer->transportError(u"ice failed"_qs);
+    create();
+    manager->establishConnection(u"s-1"_s, 0, 0, {{u"n"_s, u"127.0.0.1"_s, relay.port(), -1}},
+                                 false);
+    ASSERT_EQ(peerCalls, QStringList(u"answer"_s));
+    Q_EMIT peer->transportError(u"ice failed"_s);
     EXPECT_TRUE(log.contains("TransportManager: P2P error: ice failed"));
     EXPECT_EQ(manager->activeTransport(), nullptr);
     Q_EMIT peer->connected();
     ASSERT_EQ(established->count(), 1);
-    EXPECT_EQ((*established)[0][0].toString(), u"p2p"_qs);
+    EXPECT_EQ((*established)[0][0].toString(), u"p2p"_s);
     EXPECT_EQ(manager->activeTransport(), peer);
     EXPECT_EQ(failed->count(), 0);
     EXPECT_FALSE(relay.hasVisitor());
 }
 
 TEST_F(TransportManagerTest, NegotiationPassesBothWaysInOrder) {
-    create(scriptedPeer());
-    manager->setRemoteDescription(u"early"_qs, u"offer"_qs);
-    manager->addRemoteCandidate(u"early"_qs, u"0"_qs);
-    manager->establishConnection(kSession, 0, 0, {}, true);
+    create();
+    manager->setRemoteDescription(u"early"_s, u"offer"_s);
+    manager->addRemoteCandidate(u"early"_s, u"0"_s);
+    establish();
     QSignalSpy descriptions(manager.get(), &TransportManager::localDescriptionReady);
     QSignalSpy candidates(manager.get(), &TransportManager::localCandidateReady);
-    Q_EMIT peer->localDescriptionReady(u"offer"_qs, u"v=0"_qs);
-    Q_EMIT peer->localCandidateReady(u"cand"_qs, u"0"_qs);
-    manager->setRemoteDescription(u"v=1"_qs, u"answer"_qs);
-    manager->addRemoteCandidate(u"far"_qs, u"1"_qs);
-    ASSERT_EQ(descriptions.count(), 1);
-    EXPECT_EQ(descriptions[0], (QVariantList{u"offer"_qs, u"v=0"_qs}));
-    ASSERT_EQ(candidates.count(), 1);
-    EXPECT_EQ(candidates[0], (QVariantList{u"cand"_qs, u"0"_qs}));
+    Q_EMIT peer->localDescriptionReady(u"offer"_s, u"v=0"_s);
+    Q_EMIT peer->localCandidateReady(u"cand"_s, u"0"_s);
+    manager->setRemoteDescription(u"v=1"_s, u"answer"_s);
+    manager->addRemoteCandidate(u"far"_s, u"1"_s);
+    EXPECT_EQ(descriptions.value(0), (QVariantList{u"offer"_s, u"v=0"_s}));
+    EXPECT_EQ(candidates.value(0), (QVariantList{u"cand"_s, u"0"_s}));
     EXPECT_EQ(peerCalls,
-              (QStringList{u"offer"_qs, u"description answer v=1"_qs, u"candidate far 1"_qs}));
+              (QStringList{u"offer"_s, u"description answer v=1"_s, u"candidate far 1"_s}));
 }
 
 TEST_F(TransportManagerTest, TimeoutFallsBackToTheRelay) {
-    create(scriptedPeer(), 20ms);
-    manager->establishConnection(kSession, 0, 0, relayAt(relay.port()), true);
+    create(true, 20ms);
+    establish(relay.port());
     ASSERT_TRUE(waitFor(*established));
-    EXPECT_EQ(log.count("warning|TransportManager: P2P connection timed out after 20 ms, falling "
-                        "back to relay"),
-              1);
-    EXPECT_EQ((*established)[0][0].toString(), u"relay"_qs);
-    EXPECT_TRUE(peerCalls.contains(u"disconnect"_qs));
+    EXPECT_TRUE(log.once("warning|TransportManager: P2P connection timed out after 20 ms, falling "
+                         "back to relay"));
+    EXPECT_EQ((*established)[0][0].toString(), u"relay"_s);
+    EXPECT_TRUE(peerCalls.contains(u"disconnect"_s));
     ASSERT_TRUE(relay.accept());
     EXPECT_TRUE(relay.read(45).endsWith(R"({"session_id":"s-1","type":"relay_join"})"));
-    ASSERT_NE(manager->activeTransport(), nullptr);
     EXPECT_TRUE(manager->activeTransport()->isConnected());
 }
 
 TEST_F(TransportManagerTest, WithoutAPeerTransportTheRelayIsTriedAtOnce) {
-    create([] { return nullptr; });
-    manager->establishConnection(kSession, 0, 0, relayAt(relay.port()), true);
-    EXPECT_EQ(log.count("info|TransportManager: P2P is not built in, going directly to relay"), 1);
+    create(false);
+    establish(relay.port());
+    EXPECT_TRUE(log.once("info|TransportManager: P2P is not built in, going directly to relay"));
     EXPECT_TRUE(waitFor(*established));
 }
 
 TEST_F(TransportManagerTest, FailuresNameTheirReason) {
-    create(scriptedPeer(), 20ms);
-    manager->establishConnection(kSession, 0, 0, {}, true);
+    create(true, 20ms);
+    establish();
     ASSERT_TRUE(waitFor(*failed));
-    EXPECT_EQ((*failed)[0][0], u"No relay candidates available"_qs);
+    EXPECT_EQ((*failed)[0][0], u"No relay candidates available"_s);
     failed->clear();
-    manager->establishConnection(kSession, 4, 4, relayAt(1), true);
+    establish(1, 4);
     ASSERT_TRUE(waitFor(*failed));
-    EXPECT_EQ((*failed)[0][0], u"All connection methods failed. Last error: Connection refused"_qs);
+    EXPECT_EQ((*failed)[0][0], u"All connection methods failed. Last error: Connection refused"_s);
 }
 
 TEST_F(TransportManagerTest, OwnerMayCleanUpOrDestroyFromInsideTheFailure) {
     for (const bool destroy : {false, true}) {
-        create([] { return nullptr; });
+        create(false);
         QObject::connect(manager.get(), &TransportManager::connectionFailed, manager.get(),
                          [&] { destroy ? manager.reset() : manager->cleanup(); });
         const QPointer<TransportManager> alive(manager.get());
-        manager->establishConnection(kSession, 0, 0, relayAt(1), true);
+        establish(1);
         ASSERT_TRUE(waitFor(*failed));
         EXPECT_EQ(alive.isNull(), destroy);
         EXPECT_FALSE(log.contains("reconnecting in"));
@@ -161,25 +183,25 @@ TEST_F(TransportManagerTest, OwnerMayCleanUpOrDestroyFromInsideTheFailure) {
 }
 
 TEST_F(TransportManagerTest, CleanUpFromInsideATransportSignalDefersItsEnd) {
-    create(scriptedPeer());
+    create();
     QObject::connect(manager.get(), &TransportManager::connectionEstablished, manager.get(),
                      &TransportManager::cleanup);
-    manager->establishConnection(kSession, 0, 0, relayAt(relay.port()), true);
+    establish(relay.port());
     Q_EMIT peer->connected();
     EXPECT_EQ(manager->activeTransport(), nullptr);
     ASSERT_FALSE(peer.isNull());
-    EXPECT_EQ(peerCalls.last(), u"disconnect"_qs);
-    Q_EMIT peer->localDescriptionReady(u"offer"_qs, u"late"_qs);
+    EXPECT_EQ(peerCalls.last(), u"disconnect"_s);
+    Q_EMIT peer->localDescriptionReady(u"offer"_s, u"late"_s);
     Q_EMIT peer->connected();
     EXPECT_EQ(established->count(), 1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return peer.isNull(); }));
 }
 
 TEST_F(TransportManagerTest, StartingOverGivesUpTheFormerAttempt) {
-    create(scriptedPeer());
-    manager->establishConnection(kSession, 0, 0, {}, true);
+    create();
+    establish();
     const QPointer<ScriptedPeerTransport> former = peer;
-    manager->establishConnection(kSession, 0, 0, {}, true);
+    establish();
     Q_EMIT former->connected();
     EXPECT_EQ(established->count(), 0);
     Q_EMIT peer->connected();

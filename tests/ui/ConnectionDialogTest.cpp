@@ -61,11 +61,7 @@ TEST_F(ConnectionDialogTest, HandsOverWhatIsComplete) {
     constexpr int kRegister = 1;
     const QString incomplete = u"Error|Please fill in username and password."_s;
     const QString tooShort = u"Error|Password must be at least 8 characters."_s;
-    const struct {
-        int page;
-        QStringList typed;
-        QString outcome;
-    } cases[] = {
+    const std::tuple<int, QStringList, QString> cases[] = {
         {kLogin, {u"ann"_s, u""_s}, u"Error|Please fill in all fields."_s},
         {kLogin, {u""_s, u"abc"_s}, u"Error|Please fill in all fields."_s},
         {kLogin, {u" ann"_s, u"abc"_s}, u" ann|abc"_s},
@@ -76,10 +72,10 @@ TEST_F(ConnectionDialogTest, HandsOverWhatIsComplete) {
     };
     m_dialog.show();
     bool byMouse = false;
-    for (const auto& c : cases) {
+    for (const auto& [page, typed, outcome] : cases) {
         byMouse = !byMouse;
-        fillIn(c.page, c.typed);
-        EXPECT_EQ(submit(c.page, byMouse), c.outcome) << c.typed.join(u'|').toStdString();
+        fillIn(page, typed);
+        EXPECT_EQ(submit(page, byMouse), outcome) << typed.join(u'|').toStdString();
         EXPECT_TRUE(m_dialog.isVisible());
     }
 }

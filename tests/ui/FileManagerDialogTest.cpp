@@ -16,6 +16,7 @@
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <deque>
 #include <memory>
 
@@ -40,11 +41,6 @@ public:
 /// Messages wait until `settle` delivers them.
 class FileManagerDialogTest : public ::testing::Test {
 protected:
-    struct Message {
-        bool toPeer;
-        ByteVector bytes;
-    };
-
     FileManagerDialogTest() {
         for (const QString& folder : {m_remote, m_local, m_remote + u"/sub dir"_s}) {
             EXPECT_TRUE(QDir().mkpath(folder));
@@ -58,17 +54,19 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowExposed(m_dialog.get()));
     }
 
-    SendFunction sender(bool toPeer) {
-        return [this, toPeer](const ByteVector& bytes) {
-            m_messages.push_back({toPeer, bytes});
+    /// A service that sends to the other one.
+    std::unique_ptr<FileTransferService> service(std::unique_ptr<FileTransferService>& other) {
+        const auto send = [this, &other](const ByteVector& bytes) {
+            m_messages.push_back([&other, bytes] { other->handleMessage(bytes); });
             return m_isConnected;
         };
+        return std::make_unique<FileTransferService>(send, 1 << 20);
     }
 
     void deliver() {
-        const Message message = m_messages.front();
+        const auto message = m_messages.front();
         m_messages.pop_front();
-        (message.toPeer ? m_peer : m_service)->handleMessage(message.bytes);
+        message();
     }
 
     void settle() {
@@ -81,21 +79,21 @@ protected:
         } while (!m_messages.empty());
     }
 
-    /// Goes to the remote folder by a click on a drive of that name.
-    void openRemoteFolder() {
+    /// Goes to the remote folder by a click on a drive of that name, and to the local one.
+    void openFolders() {
         settle();
         m_dialog->onRemoteDirectoryListed(QString(), {{m_remote, true, 0}});
         const QRect drive = m_tree->visualItemRect(m_tree->topLevelItem(0));
         QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, drive.center());
         QTest::mouseDClick(m_tree->viewport(), Qt::LeftButton, {}, drive.center());
         settle();
+        selectLocal({u""_s});
         m_statuses.clear();
     }
 
     /// Leaves a question open on top of a download, with one more to come.
     void downloadUntilAQuestion() {
-        openRemoteFolder();
-        selectLocal({u""_s});
+        openFolders();
         writeFile(m_local + u"/a.txt"_s, "local a");
         download({u"empty"_s, u"ü &amp; b.bin"_s});
         download({u"a.txt"_s});
@@ -143,10 +141,8 @@ protected:
         click("uploadButton");
     }
 
-    QString label(const char* name) const {
-        return m_dialog->findChild<QLabel*>(QLatin1String(name))->text();
-    }
-    QString status() const { return label("transferStatus"); }
+    QString path() const { return m_dialog->findChild<QLabel*>(u"remotePathLabel"_s)->text(); }
+    QString status() const { return m_dialog->findChild<QLabel*>(u"transferStatus"_s)->text(); }
     int percent() const { return m_dialog->findChild<QProgressBar*>()->value(); }
 
     /// The open question; null without one.
@@ -162,12 +158,10 @@ protected:
     const QString m_remote = m_folder.filePath(u"remote"_s);
     const QString m_local = m_folder.filePath(u"local"_s);
     const QByteArray m_large{3 * 65'536 + 1, 'x'};
-    std::deque<Message> m_messages;
+    std::deque<std::function<void()>> m_messages;
     bool m_isConnected = true;
-    std::unique_ptr<FileTransferService> m_service =
-        std::make_unique<FileTransferService>(sender(true), 1 << 20);
-    std::unique_ptr<FileTransferService> m_peer =
-        std::make_unique<FileTransferService>(sender(false), 1 << 20);
+    std::unique_ptr<FileTransferService> m_service = service(m_peer);
+    std::unique_ptr<FileTransferService> m_peer = service(m_service);
     std::unique_ptr<FileManagerDialog> m_dialog =
         std::make_unique<FileManagerDialog>(m_service.get());
     QTreeWidget* const m_tree = m_dialog->findChild<QTreeWidget*>();
@@ -175,12 +169,12 @@ protected:
 };
 
 TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
-    EXPECT_EQ(label("remotePathLabel"), u"<b>Remote: </b>/"_s);
+    EXPECT_EQ(path(), u"<b>Remote: </b>/"_s);
     EXPECT_EQ(status(), u"Loading remote directory..."_s);
     settle();
     EXPECT_EQ(status(), QString::number(m_tree->topLevelItemCount()) + u" items"_s);
 
-    openRemoteFolder();
+    openFolders();
     EXPECT_EQ(status(), u"4 items"_s);
     EXPECT_EQ(column(0), QStringList({u"a.txt"_s, u"empty"_s, u"sub dir"_s, u"ü &amp; b.bin"_s}));
     EXPECT_EQ(column(2), QStringList({u"File"_s, u"File"_s, u"Folder"_s, u"File"_s}));
@@ -207,7 +201,7 @@ TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
 
     m_dialog->onRemoteDirectoryListed(m_remote, {{u"<i>&"_s + QString(500, u'x'), true, 0}});
     Q_EMIT m_tree->itemDoubleClicked(m_tree->topLevelItem(0), 0);
-    EXPECT_TRUE(label("remotePathLabel").startsWith(u"<b>Remote: </b>…xxx"));
+    EXPECT_TRUE(path().startsWith(u"<b>Remote: </b>…xxx"));
     settle();
     EXPECT_TRUE(status().startsWith(u"Error: Directory does not exist: "));
     EXPECT_LT(status().size(), 400);
@@ -220,7 +214,7 @@ TEST_F(FileManagerDialogTest, BrowsesTheRemoteFolders) {
 }
 
 TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
-    openRemoteFolder();
+    openFolders();
     download({});
     EXPECT_EQ(status(), u"Select one or more remote files to download."_s);
     download({u"sub dir"_s});
@@ -234,9 +228,8 @@ TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
     EXPECT_EQ(m_messages.size(), 1U);
     settle();
     QStringList statuses;
-    for (const auto& signal : m_statuses) {
-        statuses << signal.first().toString();
-    }
+    std::ranges::transform(m_statuses, std::back_inserter(statuses),
+                           [](const auto& signal) { return signal.first().toString(); });
     EXPECT_EQ(
         statuses,
         QStringList({u"Downloading 1 of 2: a.txt"_s, u"Downloading 1 of 3: a.txt"_s,
@@ -250,7 +243,7 @@ TEST_F(FileManagerDialogTest, DownloadsOneAfterAnother) {
 }
 
 TEST_F(FileManagerDialogTest, UploadsUnderVisibleProgress) {
-    openRemoteFolder();
+    openFolders();
     for (const QStringList& nothing : {QStringList(), QStringList(u""_s)}) {
         upload(nothing);
         EXPECT_EQ(status(), u"Select one or more local files to upload."_s);
@@ -276,22 +269,17 @@ TEST_F(FileManagerDialogTest, UploadsUnderVisibleProgress) {
 }
 
 TEST_F(FileManagerDialogTest, AsksBeforeItOverwrites) {
-    openRemoteFolder();
+    openFolders();
     writeFile(m_local + u"/a.txt"_s, "local a");
     writeFile(m_local + u"/empty"_s, "not empty");
     writeFile(m_local + u"/sub dir"_s, "a file here, a folder there");
-    selectLocal({u""_s});
     for (const auto button : {QMessageBox::NoButton, QMessageBox::No, QMessageBox::Yes}) {
         download({u"a.txt"_s, u"empty"_s, u"ü &amp; b.bin"_s});
         ASSERT_NE(question(), nullptr);
         EXPECT_EQ(question()->text(), u"These files already exist locally and will be "
                                       "overwritten:\na.txt\nempty\n\nContinue?"_s);
         EXPECT_EQ(question()->defaultButton(), question()->button(QMessageBox::No));
-        if (button == QMessageBox::NoButton) {
-            QTest::keyClick(question(), Qt::Key_Escape);
-        } else {
-            answer(button);
-        }
+        button ? answer(button) : QTest::keyClick(question(), Qt::Key_Escape);
         EXPECT_EQ(m_messages.empty(), button != QMessageBox::Yes);
         settle();
     }
@@ -312,16 +300,13 @@ TEST_F(FileManagerDialogTest, AsksBeforeItOverwrites) {
 }
 
 TEST_F(FileManagerDialogTest, StaysInTheChosenFolderWhateverTheNames) {
-    openRemoteFolder();
+    openFolders();
+    const QStringList names{u"../up 1"_s, m_local + u"/up 1"_s, u"\n2026 forged"_s + QChar(0)};
     QList<FileEntry> entries;
-    QStringList names;
-    for (const QString& name :
-         {u"../up 1"_s, m_local + u"/up 1"_s, u"\n2026 forged"_s + QChar(0)}) {
+    for (const QString& name : names) {
         entries.append({name, false, 1});
-        names << name;
     }
     m_dialog->onRemoteDirectoryListed(m_remote, entries);
-    selectLocal({u""_s});
     download(names);
     EXPECT_TRUE(m_messages.empty());
     EXPECT_TRUE(m_log.contains("warning|FileManagerDialog: skipping '"));
@@ -329,8 +314,7 @@ TEST_F(FileManagerDialogTest, StaysInTheChosenFolderWhateverTheNames) {
 }
 
 TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
-    openRemoteFolder();
-    selectLocal({u""_s});
+    openFolders();
     EXPECT_TRUE(QFile::remove(m_remote + u"/a.txt"_s));
     download({u"a.txt"_s, u"empty"_s});
     upload({u"up 2"_s}); // waits for the downloads
@@ -356,8 +340,7 @@ TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
 }
 
 TEST_F(FileManagerDialogTest, GoesOnWhenOnlyAFolderCannotBeListed) {
-    openRemoteFolder();
-    selectLocal({u""_s});
+    openFolders();
     EXPECT_TRUE(QDir(m_remote).rmdir(u"sub dir"_s));
     Q_EMIT m_tree->itemDoubleClicked(remoteItem(u"sub dir"_s), 0);
     click("remoteBackButton");

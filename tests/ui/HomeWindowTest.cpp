@@ -17,6 +17,8 @@ using test::eventually;
 
 class HomeWindowTest : public test::WindowFixture {
 protected:
+    void SetUp() override { start(); }
+
     QString partner() const { return widget<QLineEdit>("partnerEdit")->text(); }
     void typePartner(const QString& text) const {
         widget<QLineEdit>("partnerEdit")->clear();
@@ -31,7 +33,6 @@ protected:
 };
 
 TEST_F(HomeWindowTest, KeepsFavoritesAtHand) {
-    start();
     const auto* const list = widget<QListWidget>("favoritesList");
     for (const QString& text : {u"12345678"_s, u"123 456 789"_s, u"987654321"_s}) {
         typePartner(text);
@@ -49,7 +50,6 @@ TEST_F(HomeWindowTest, KeepsFavoritesAtHand) {
 }
 
 TEST_F(HomeWindowTest, HasRoomForAllThatItShows) {
-    start();
     EXPECT_LE(m_window.centralWidget()->minimumSizeHint().width(), 420);
     typePartner(u"123456789"_s);
     click("favoriteButton");
@@ -62,7 +62,6 @@ TEST_F(HomeWindowTest, HasRoomForAllThatItShows) {
 }
 
 TEST_F(HomeWindowTest, WakesAPartnerWhoseAddressItAsksForOnce) {
-    start();
     typePartner(u"123 456 789"_s);
     const QString sent = u"WoL|Wake-on-LAN packet sent to 01-02-03-0a-0B-0c"_s;
     const std::pair<QString, QString> cases[] = {{u"01:02:03"_s, u"WoL|Invalid MAC address."_s},
@@ -85,7 +84,6 @@ TEST_F(HomeWindowTest, WakesAPartnerWhoseAddressItAsksForOnce) {
 }
 
 TEST_F(HomeWindowTest, HidesInTheTrayOnlyWhereThereIsOne) {
-    start();
     int quits = 0;
     QObject::connect(&m_window, &MainWindow::quitRequested, [&] { ++quits; });
     auto* const tray = m_window.findChild<SystemTrayIcon*>();
@@ -107,7 +105,6 @@ TEST_F(HomeWindowTest, HidesInTheTrayOnlyWhereThereIsOne) {
 }
 
 TEST_F(HomeWindowTest, MirrorsTheSessionInTheTrayMenu) {
-    start();
     EXPECT_NE(trayAction(u"Online (Ready)"_s), nullptr);
     EXPECT_FALSE(trayAction(u"Disconnect"_s)->isEnabled());
     ASSERT_NE(viewNewDevice(), nullptr);
@@ -127,7 +124,6 @@ TEST_F(HomeWindowTest, MirrorsTheSessionInTheTrayMenu) {
 }
 
 TEST_F(HomeWindowTest, OffersAnUpdateAndStartsItsInstaller) {
-    start();
     auto* const banner = widget<QWidget>("updateBanner");
     m_window.showUpdateBanner(u"<b>9</b>"_s, u"http://127.0.0.1/setup"_s, {});
     EXPECT_TRUE(banner->isVisible());

@@ -27,17 +27,14 @@ TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
     EXPECT_EQ(history, QStringList(u"Ready|#007700"_s));
     EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
     EXPECT_TRUE(connectButton->isEnabled());
-    const struct {
-        const char *label, *button;
-        QString shown, copied;
-    } values[] = {
+    const std::tuple<const char*, const char*, QString, QString> values[] = {
         {"clientIdLabel", "copyIdButton", formatPartnerId(id), id},
         {"passwordLabel", "copyPasswordButton", u"Password1"_s, u"Password1"_s},
         {"pairingCodeLabel", "copyPairingCodeButton", m_auth.pairingCode(), m_auth.pairingCode()}};
-    for (const auto& value : values) {
-        EXPECT_EQ(label(value.label), value.shown);
-        click(value.button);
-        EXPECT_EQ(QGuiApplication::clipboard()->text(), value.copied);
+    for (const auto& [name, button, shown, copied] : values) {
+        EXPECT_EQ(label(name), shown);
+        click(button);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), copied);
     }
 
     m_server.dropSignaling(id);
@@ -71,28 +68,24 @@ TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
     const auto online = createDevice();
     const QString unreachable = u"The partner is not available or offline."_s;
     const devserver::Reply odd{.status = 500, .body = R"({"detail": "<img src='x'>\n"})"};
-    const struct {
-        QString partner;
-        devserver::Reply reply;
-        QString detail, text;
-    } cases[] = {
+    const std::tuple<QString, devserver::Reply, QString, QString> cases[] = {
         {u"999999999"_s, {}, u"Target client is not available"_s, unreachable},
         {offline, {}, u"Target client is offline"_s, unreachable},
         {online->id, {}, u"Invalid session password"_s, u"Invalid session password."_s},
         {online->id, odd, u"<img src='x'>\n"_s, u"Failed to connect. Please try again."_s},
     };
-    for (const auto& c : cases) {
+    for (const auto& [partner, reply, detail, text] : cases) {
         m_server.misbehaviour().clear();
-        if (c.reply.status) {
-            m_server.misbehaviour().setReply(u"/sessions/create"_s, c.reply);
+        if (reply.status) {
+            m_server.misbehaviour().setReply(u"/sessions/create"_s, reply);
         }
-        connectTo(c.partner, u"Wrong0000"_s);
+        connectTo(partner, u"Wrong0000"_s);
         EXPECT_FALSE(widget<QPushButton>("primaryButton")->isEnabled());
         ASSERT_TRUE(eventually([this] { return boxes().size() == 2; }));
         auto shown = takeBoxes();
         shown.sort();
         EXPECT_EQ(shown,
-                  (QStringList{u"Connection Error|"_s + c.text, u"Session Error|"_s + c.detail}));
+                  (QStringList{u"Connection Error|"_s + text, u"Session Error|"_s + detail}));
         EXPECT_EQ(status(), u"Online (Ready)|#007700"_s);
         EXPECT_TRUE(widget<QPushButton>("primaryButton")->isEnabled());
     }

@@ -70,10 +70,9 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_view));
         ASSERT_EQ(m_view.grabFramebuffer().size(), kViewSize);
         // The suite runs twice: as it is, and on an OpenGL that is held down to 3.0.
-        ASSERT_EQ(m_log.count(qEnvironmentVariableIsSet("MESA_GLSL_VERSION_OVERRIDE")
-                                  ? "info|Using GLSL 1.30 fallback shaders"
-                                  : "info|Using GLSL 3.30 shaders"),
-                  1);
+        ASSERT_TRUE(m_log.once(qEnvironmentVariableIsSet("MESA_GLSL_VERSION_OVERRIDE")
+                                   ? "info|Using GLSL 1.30 fallback shaders"
+                                   : "info|Using GLSL 3.30 shaders"));
     }
 
     /// The four quarters fill `picture` and black the rest.
@@ -97,33 +96,27 @@ protected:
 };
 
 TEST_F(RemoteDesktopPictureTest, DrawsEveryGeometryInEveryScaleMode) {
-    const struct {
-        QSize size;
-        int yStride, uvStride;
-        QRect fitted;
-    } cases[] = {
+    const std::tuple<QSize, int, int, QRect> cases[] = {
         {{64, 64}, 64, 64, {50, 0, 300, 300}},
         {{33, 17}, 33, 40, {0, 47, 400, 206}},
         {{33, 17}, 48, 40, {0, 47, 400, 206}},
         {{500, 350}, 512, 512, {0, 10, 400, 280}},
     };
-    for (const auto& c : cases) {
-        const std::string name = fmt::format("{}x{}", c.size.width(), c.size.height());
-        const QRect original(QPoint(0, kViewSize.height() - c.size.height()), c.size);
-        const auto frame = quarters(c.size, c.yStride, c.uvStride);
+    for (const auto& [size, yStride, uvStride, fitted] : cases) {
+        const std::string name = fmt::format("{}x{}", size.width(), size.height());
+        const QRect original(QPoint(0, kViewSize.height() - size.height()), size);
+        const auto frame = quarters(size, yStride, uvStride);
         m_view.updateFrame(frame);
         m_view.setScaleMode(ScaleMode::Fit);
-        expectQuarters(c.fitted, name + " fit");
+        expectQuarters(fitted, name + " fit");
         m_view.setScaleMode(ScaleMode::Stretch);
         expectQuarters(QRect(QPoint(0, 0), kViewSize), name + " stretched");
         m_view.setScaleMode(ScaleMode::Original);
         expectQuarters(original, name + " original");
         m_view.updateFrame(frame);
         expectQuarters(original, name + " again");
-        EXPECT_EQ(
-            m_log.count(fmt::format("info|Created NV12 textures: {} (yStride={}, uvStride={})",
-                                    name, c.yStride, c.uvStride)),
-            1);
+        EXPECT_TRUE(m_log.once(fmt::format(
+            "info|Created NV12 textures: {} (yStride={}, uvStride={})", name, yStride, uvStride)));
     }
     EXPECT_FALSE(m_log.contains("OpenGL error"));
 }

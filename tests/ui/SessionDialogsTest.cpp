@@ -44,23 +44,20 @@ TEST_F(ChatDialogTest, SendsWhatWasTyped) {
     EXPECT_EQ(m_dialog.focusWidget(), m_input);
 
     const QString longest(ChatDialog::kLongestMessage, u'x');
-    const struct {
-        QString typed;
-        std::optional<QString> sent;
-    } cases[] = {
+    const std::pair<QString, std::optional<QString>> cases[] = {
         {u"hello"_s, u"hello"_s},
         {u"\t <b>&amp;</b> ü  "_s, u"<b>&amp;</b> ü"_s},
         {u"    "_s, std::nullopt},
         {longest, longest},
         {u"  "_s + longest + u"yz"_s, longest},
     };
-    for (const auto& c : cases) {
+    for (const auto& [typed, sent] : cases) {
         m_sent.clear();
-        m_input->setText(c.typed);
+        m_input->setText(typed);
         QTest::keyClick(m_input, Qt::Key_Return);
-        EXPECT_EQ(m_sent.size(), c.sent ? 1 : 0);
-        EXPECT_EQ(m_sent.value(0).value(0).toString(), c.sent.value_or(QString()));
-        EXPECT_EQ(m_input->text(), c.sent ? QString() : c.typed);
+        EXPECT_EQ(m_sent.size(), sent ? 1 : 0);
+        EXPECT_EQ(m_sent.value(0).value(0).toString(), sent.value_or(QString()));
+        EXPECT_EQ(m_input->text(), sent ? QString() : typed);
     }
     m_input->setText(u"sent"_s);
     QTest::mouseClick(m_dialog.findChild<QPushButton*>(), Qt::LeftButton);

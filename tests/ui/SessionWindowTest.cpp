@@ -14,11 +14,12 @@ class SessionWindowTest : public test::WindowFixture {
 protected:
     void SetUp() override { start(); }
 
-    QJsonObject request(const QString& session, const QString& purpose = {}) const {
-        return {{u"type"_s, u"SESSION_HANDSHAKE_REQUEST"_s},
-                {u"session_id"_s, session},
-                {u"master_client_id"_s, u"123456789"_s},
-                {u"purpose"_s, purpose}};
+    void request(const QString& session, const QString& purpose) {
+        const nlohmann::json message{{"type", "SESSION_HANDSHAKE_REQUEST"},
+                                     {"session_id", session.toStdString()},
+                                     {"master_client_id", "123456789"},
+                                     {"purpose", purpose.toStdString()}};
+        m_server.pushText(m_api.clientId(), QString::fromStdString(message.dump()));
     }
 
     void expectHome() const {
@@ -84,7 +85,7 @@ TEST_F(SessionWindowTest, AsksBeforeASessionWithoutPassword) {
     for (const auto answer : {QMessageBox::NoButton, QMessageBox::No, QMessageBox::Yes}) {
         const bool byKey = answer == QMessageBox::NoButton;
         m_window.hide();
-        push(request(u"s1"_s, byKey ? odd : QString()));
+        request(u"s1"_s, byKey ? odd : QString());
         ASSERT_TRUE(eventually([this] { return boxes().size() == 1; }));
         EXPECT_TRUE(m_window.isVisible());
         QMessageBox* const box = boxes().first();
@@ -111,7 +112,7 @@ TEST_F(SessionWindowTest, AsksBeforeASessionWithoutPassword) {
 
 TEST_F(SessionWindowTest, KeepsAFloodOfRequestsToOneQuestionOnTheScreen) {
     for (int i = 0; i < 200; ++i) {
-        push(request(QString::number(i), QString(100, u'\n')));
+        request(QString::number(i), QString(100, u'\n'));
     }
     ASSERT_TRUE(eventually([this] { return m_log.contains("Rejected session 198"); }));
     EXPECT_TRUE(eventually([this] { return m_window.findChildren<QMessageBox*>().size() == 1; }));

@@ -36,9 +36,7 @@ TEST(KeyTranslation, EveryKeySurvivesTheWayThroughTheWire) {
 }
 
 TEST(KeyTranslation, KnownKeysOnTheWireWithLettersAndDigitsOfTheLayout) {
-    const struct {
-        uint32_t keysym, xKeycode, virtualKey, scanCode;
-    } cases[] = {
+    const uint32_t cases[][4] = {
         {0, KEY_LEFT + 8, 0x25, 0xE04B},      {0, KEY_KP4 + 8, 0x64, 0x4B},
         {0, KEY_NUMLOCK + 8, 0x90, 0x45},     {0, KEY_SYSRQ + 8, 0x2C, 0xE037},
         {0, KEY_RIGHTCTRL + 8, 0xA3, 0xE01D}, {0, KEY_LEFTCTRL + 8, 0xA2, 0x1D},
@@ -49,10 +47,10 @@ TEST(KeyTranslation, KnownKeysOnTheWireWithLettersAndDigitsOfTheLayout) {
         {'&', KEY_1 + 8, '1', 0x02},          {'z', 3, 'Z', 0},
         {0, KEY_DELETE + 8, 0x2E, 0xE053},    {0xFF1B, 0xFFFFFFFF, 0, 0},
     };
-    for (const auto& item : cases) {
-        const NativeKey wire = wireKeyFromNative(item.keysym, item.xKeycode);
-        EXPECT_EQ(wire.virtualKey, item.virtualKey) << "keycode " << item.xKeycode;
-        EXPECT_EQ(wire.scanCode, item.scanCode) << "keycode " << item.xKeycode;
+    for (const auto& [keysym, xKeycode, virtualKey, scanCode] : cases) {
+        const NativeKey wire = wireKeyFromNative(keysym, xKeycode);
+        EXPECT_EQ(wire.virtualKey, virtualKey) << "keycode " << xKeycode;
+        EXPECT_EQ(wire.scanCode, scanCode) << "keycode " << xKeycode;
     }
 }
 

@@ -13,6 +13,7 @@ namespace corvane {
 namespace {
 
 using enum InputEventType;
+using namespace Qt::StringLiterals;
 
 constexpr QSize kScreen(1001, 501);
 
@@ -61,13 +62,12 @@ protected:
                 const bool key = type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE;
                 const bool down = type == XCB_KEY_PRESS || type == XCB_BUTTON_PRESS;
                 const auto* input = reinterpret_cast<const xcb_key_press_event_t*>(event.get());
-                events.append(QStringLiteral("%1 %2 %3")
-                                  .arg(QLatin1String(key ? "key" : "button"))
+                events.append(u"%1 %2 %3"_s.arg(QLatin1String(key ? "key" : "button"))
                                   .arg(input->detail)
                                   .arg(QLatin1String(down ? "down" : "up")));
             }
         }
-        return events.join(QStringLiteral(", ")).toStdString();
+        return events.join(u", "_s).toStdString();
     }
 
     static std::string downAndUp(const char* what, int number) {
@@ -84,20 +84,16 @@ protected:
 TEST_F(XtestInputBackendTest, FractionsSpanThePrimaryMonitorAndStayInsideIt) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
-    const struct {
-        double x;
-        double y;
-        QPoint pixel;
-    } cases[] = {
+    const std::tuple<double, double, QPoint> cases[] = {
         {0.5, 0.25, {500, 125}},    {1.0, 1.0, {1000, 500}},
         {0.0, 0.0, {0, 0}},         {1.7, -0.2, {1000, 0}},
         {0.5, 0.5, {500, 250}},     {nan, nan, {0, 0}},
         {0.0015, 0.001, {2, 1}},    {infinity, infinity, {1000, 500}},
         {-infinity, 0.5, {0, 250}},
     };
-    for (const auto& item : cases) {
-        EXPECT_TRUE(inject(MouseMove, item.x, item.y));
-        EXPECT_EQ(pointer(), item.pixel) << item.x << ", " << item.y;
+    for (const auto& [x, y, pixel] : cases) {
+        EXPECT_TRUE(inject(MouseMove, x, y));
+        EXPECT_EQ(pointer(), pixel) << x << ", " << y;
     }
     program->setMonitor("test-monitor", {200, 100, 401, 201}, true);
     EXPECT_TRUE(QTest::qWaitFor([this] {
@@ -118,34 +114,27 @@ TEST_F(XtestInputBackendTest, ButtonsGoDownAndUpWhereTheEventSays) {
 }
 
 TEST_F(XtestInputBackendTest, WheelClicksOncePerNotchAndKeepsTheRest) {
-    const struct {
-        int16_t delta;
-        int button;
-        int clicks;
-    } cases[] = {
+    const std::tuple<int16_t, int, int> cases[] = {
         {120, 4, 1}, {-240, 5, 2}, {50, 4, 0}, {50, 4, 0},
         {50, 4, 1},  {-149, 5, 0}, {-1, 5, 1}, {32767, 4, 273},
     };
-    for (const auto& item : cases) {
-        EXPECT_TRUE(inject(MouseWheel, 0.5, 0.5, 1, item.delta));
+    for (const auto& [delta, button, clicks] : cases) {
+        EXPECT_TRUE(inject(MouseWheel, 0.5, 0.5, 1, delta));
         std::string expected;
-        for (int click = 0; click < item.clicks; ++click) {
-            expected += (click == 0 ? "" : ", ") + downAndUp("button", item.button);
+        for (int click = 0; click < clicks; ++click) {
+            expected += (click == 0 ? "" : ", ") + downAndUp("button", button);
         }
-        EXPECT_EQ(takeEvents(), expected) << item.delta;
+        EXPECT_EQ(takeEvents(), expected) << delta;
     }
 }
 
 TEST_F(XtestInputBackendTest, KeysArriveUnderTheirKeycode) {
-    const struct {
-        uint32_t keyCode;
-        uint32_t scanCode;
-        int keycode;
-    } cases[] = {{'A', 0x1E, 38}, {0x25, 0x14B, 113}, {0x13, 0, 127}};
-    for (const auto& item : cases) {
-        EXPECT_TRUE(injectKey(KeyPress, item.keyCode, item.scanCode));
-        EXPECT_TRUE(injectKey(KeyRelease, item.keyCode, item.scanCode));
-        EXPECT_EQ(takeEvents(), downAndUp("key", item.keycode));
+    const std::tuple<uint32_t, uint32_t, int> cases[] = {
+        {'A', 0x1E, 38}, {0x25, 0x14B, 113}, {0x13, 0, 127}};
+    for (const auto& [keyCode, scanCode, keycode] : cases) {
+        EXPECT_TRUE(injectKey(KeyPress, keyCode, scanCode));
+        EXPECT_TRUE(injectKey(KeyRelease, keyCode, scanCode));
+        EXPECT_EQ(takeEvents(), downAndUp("key", keycode));
     }
 }
 
@@ -160,7 +149,7 @@ TEST_F(XtestInputBackendTest, UnusableEventsAreNamedAndSendNothing) {
     for (const char* problem : {"mouse button 7", "mouse button 0", "event type 9",
                                 "key, virtual key 0xFE, scan code 0x7F"}) {
         const std::string line = std::string("warning|XtestInputBackend: unknown ") + problem;
-        EXPECT_EQ(log.count(line), 1) << line;
+        EXPECT_TRUE(log.once(line)) << line;
     }
 }
 
@@ -171,8 +160,8 @@ TEST_F(XtestInputBackendTest, ShutdownReleasesWhatIsHeldAndEndsInjection) {
     backend.shutdown();
     EXPECT_EQ(takeEvents(), "button 1 up, key 37 up");
     EXPECT_FALSE(inject(MouseMove, 0.5, 0.5));
-    EXPECT_EQ(log.count("warning|XtestInputBackend: injectEvent called before initialization"), 1);
-    EXPECT_EQ(log.count("info|XtestInputBackend: shut down"), 1);
+    EXPECT_TRUE(log.once("warning|XtestInputBackend: injectEvent called before initialization"));
+    EXPECT_TRUE(log.once("info|XtestInputBackend: shut down"));
     EXPECT_TRUE(backend.initialize());
     EXPECT_TRUE(inject(MouseMove, 0.25, 0.0));
     EXPECT_EQ(pointer(), QPoint(250, 0));

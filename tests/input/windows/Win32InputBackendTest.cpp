@@ -15,6 +15,7 @@ namespace {
 using ::testing::Contains;
 using ::testing::SizeIs;
 using Type = InputEventType;
+using namespace Qt::StringLiterals;
 
 InputEvent mouseEvent(Type type, double x, double y, int button = 1, int16_t wheel = 0) {
     return {.type = type,
@@ -72,13 +73,7 @@ protected:
 };
 
 TEST_F(Win32InputRecords, MouseEventsByKind) {
-    const struct {
-        Type type;
-        int button;
-        int16_t wheel;
-        uint32_t flags;
-        uint32_t data;
-    } cases[] = {
+    const std::tuple<Type, int, int16_t, uint32_t, uint32_t> cases[] = {
         {Type::MouseMove, 1, 0, 0x8001, 0},
         {Type::MouseMove, 9, 120, 0x8001, 0},
         {Type::MouseButtonPress, 1, 0, 0x8003, 0},
@@ -95,39 +90,33 @@ TEST_F(Win32InputRecords, MouseEventsByKind) {
         {Type::MouseWheel, 1, -120, 0x8801, 0xFFFFFF88},
         {Type::MouseWheel, 1, -32768, 0x8801, 0xFFFF8000},
     };
-    for (const auto& item : cases) {
-        EXPECT_EQ(recordOf(mouseEvent(item.type, 0.5, 1.0, item.button, item.wheel)),
-                  mouseWords(32768, 65535, item.data, item.flags))
-            << std::hex << item.flags << " " << item.data;
+    for (const auto& [type, button, wheel, flags, data] : cases) {
+        EXPECT_EQ(recordOf(mouseEvent(type, 0.5, 1.0, button, wheel)),
+                  mouseWords(32768, 65535, data, flags))
+            << std::hex << flags << " " << data;
     }
 }
 
 TEST_F(Win32InputRecords, PositionsAreRoundedAndStayOnThePrimaryMonitor) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
-    const struct {
-        double fraction;
-        uint32_t place;
-    } cases[] = {
+    const std::pair<double, uint32_t> cases[] = {
         {0.0, 0},     {1.0, 65535},       {0.5, 32768},   {0.25, 16384},  {0.1 / 65535, 0},
         {1.7, 65535}, {0.5 / 65535.0, 1}, {-0.2, 0},      {-0.0, 0},      {0.75, 49151},
         {nan, 0},     {infinity, 65535},  {-infinity, 0}, {1e300, 65535},
     };
-    for (const auto& item : cases) {
-        EXPECT_EQ(recordOf(mouseEvent(Type::MouseMove, item.fraction, 0.0)),
-                  mouseWords(item.place, 0, 0, 0x8001))
-            << item.fraction;
-        EXPECT_EQ(recordOf(mouseEvent(Type::MouseMove, 0.0, item.fraction)),
-                  mouseWords(0, item.place, 0, 0x8001))
-            << item.fraction;
+    for (const auto& [fraction, place] : cases) {
+        EXPECT_EQ(recordOf(mouseEvent(Type::MouseMove, fraction, 0.0)),
+                  mouseWords(place, 0, 0, 0x8001))
+            << fraction;
+        EXPECT_EQ(recordOf(mouseEvent(Type::MouseMove, 0.0, fraction)),
+                  mouseWords(0, place, 0, 0x8001))
+            << fraction;
     }
 }
 
 TEST_F(Win32InputRecords, KeysGoByScanCodeWhereThereIsOne) {
-    const struct {
-        InputEvent event;
-        Words words;
-    } cases[] = {
+    const std::pair<InputEvent, Words> cases[] = {
         {keyEvent(Type::KeyPress, 'A', 0x1E), keyWords('A', 0x1E, 0x8)},
         {keyEvent(Type::KeyRelease, VK_RETURN, 0x1C), keyWords(VK_RETURN, 0x1C, 0xA)},
         {keyEvent(Type::KeyPress, VK_LEFT, 0xE04B, true), keyWords(VK_LEFT, 0xE04B, 0x9)},
@@ -137,17 +126,13 @@ TEST_F(Win32InputRecords, KeysGoByScanCodeWhereThereIsOne) {
         {keyEvent(Type::KeyRelease, VK_LWIN, 0, true), keyWords(VK_LWIN, 0, 0x3)},
         {keyEvent(Type::KeyPress, 0xABCD0041, 0xABCD0000), keyWords('A', 0, 0x8)},
     };
-    for (const auto& item : cases) {
-        EXPECT_EQ(recordOf(item.event), item.words)
-            << std::hex << item.event.keyCode << " " << item.event.scanCode;
+    for (const auto& [event, words] : cases) {
+        EXPECT_EQ(recordOf(event), words) << std::hex << event.keyCode << " " << event.scanCode;
     }
 }
 
 TEST_F(Win32InputRecords, RefusalsAreNamedByKind) {
-    const struct {
-        InputEvent event;
-        const char* line;
-    } cases[] = {
+    const std::pair<InputEvent, const char*> cases[] = {
         {mouseEvent(Type::MouseMove, 0, 0), "(mouse move)"},
         {mouseEvent(Type::MouseButtonPress, 0, 0, 5), "(mouse button)"},
         {mouseEvent(Type::MouseWheel, 0, 0), "(mouse wheel)"},
@@ -155,13 +140,12 @@ TEST_F(Win32InputRecords, RefusalsAreNamedByKind) {
     };
     for (const UINT result : {0U, 2U}) {
         accepted = result;
-        for (const auto& item : cases) {
+        for (const auto& [event, line] : cases) {
             log.clear();
-            EXPECT_FALSE(backend.injectEvent(item.event));
-            EXPECT_EQ(log.count(std::string("warning|Win32InputBackend: SendInput ") + item.line +
-                                " failed, error 5"),
-                      1)
-                << item.line;
+            EXPECT_FALSE(backend.injectEvent(event));
+            EXPECT_TRUE(log.once(std::string("warning|Win32InputBackend: SendInput ") + line +
+                                 " failed, error 5"))
+                << line;
         }
     }
 }
@@ -169,8 +153,8 @@ TEST_F(Win32InputRecords, RefusalsAreNamedByKind) {
 TEST_F(Win32InputRecords, UnknownEventsAndButtonsAreNotSent) {
     for (const int type : {0, 7, 255}) {
         EXPECT_FALSE(backend.injectEvent(mouseEvent(static_cast<Type>(type), 0, 0)));
-        EXPECT_EQ(
-            log.count("warning|Win32InputBackend: unknown event type " + std::to_string(type)), 1);
+        EXPECT_TRUE(
+            log.once("warning|Win32InputBackend: unknown event type " + std::to_string(type)));
     }
     for (const int button : {0, 6, 7, 255}) {
         EXPECT_FALSE(backend.injectEvent(mouseEvent(Type::MouseButtonPress, 0, 0, button)));
@@ -210,7 +194,7 @@ protected:
     QStringList tap(uint32_t keyCode, uint32_t scanCode, bool extended, const QString& arrives) {
         inject(keyEvent(Type::KeyPress, keyCode, scanCode, extended));
         inject(keyEvent(Type::KeyRelease, keyCode, scanCode, extended));
-        return witness.takeUntil(QStringLiteral("key up %1").arg(arrives));
+        return witness.takeUntil(u"key up %1"_s.arg(arrives));
     }
 
     test::LogCapture log;
@@ -226,25 +210,19 @@ TEST_F(Win32InputArrival, MouseEventsReachThePlaceTheyName) {
         const QString name = QString::fromLatin1(names[button - 1]);
         inject(mouseEvent(Type::MouseButtonPress, 0.0, 1.0, button));
         inject(mouseEvent(Type::MouseButtonRelease, 1.0, 0.0, button));
-        EXPECT_THAT(witness.takeUntil(QStringLiteral("%1 up %2,0").arg(name).arg(right)),
-                    Contains(QStringLiteral("%1 down 0,%2").arg(name).arg(bottom)));
+        EXPECT_THAT(witness.takeUntil(u"%1 up %2,0"_s.arg(name).arg(right)),
+                    Contains(u"%1 down 0,%2"_s.arg(name).arg(bottom)));
     }
     inject(mouseEvent(Type::MouseMove, 0.0, 0.0));
-    EXPECT_THAT(witness.takeUntil(QStringLiteral("move 0,0")), SizeIs(1));
+    EXPECT_THAT(witness.takeUntil(u"move 0,0"_s), SizeIs(1));
     inject(mouseEvent(Type::MouseWheel, 0.0, 0.0, 1, -240));
     inject(mouseEvent(Type::MouseWheel, 0.0, 0.0, 1, 50));
-    EXPECT_THAT(witness.takeUntil(QStringLiteral("wheel 50")),
-                Contains(QStringLiteral("wheel -240")));
+    EXPECT_THAT(witness.takeUntil(u"wheel 50"_s), Contains(u"wheel -240"_s));
 }
 
 TEST_F(Win32InputArrival, KeysArriveAsTheKeysTheyAre) {
-    const struct {
-        uint32_t keyCode;
-        uint32_t scanCode;
-        bool extended;
-        const char* arrives; ///< virtual key and scan code
-        const char* character;
-    } cases[] = {
+    // Key code, scan code, extended; what arrives as virtual key and scan code, and as a character.
+    const std::tuple<uint32_t, uint32_t, bool, const char*, const char*> cases[] = {
         {'A', 0x1E, false, "41 1E", "char 61"},
         {'Z', 0, false, "5A 0", "char 7A"},
         {VK_RETURN, 0x1C, false, "D 1C", "char D"},
@@ -257,18 +235,18 @@ TEST_F(Win32InputArrival, KeysArriveAsTheKeysTheyAre) {
         {VK_SNAPSHOT, 0xE037, true, "2C 137", nullptr},
     };
     for (int round = 0; round < 2; ++round) {
-        for (const auto& item : cases) {
-            const QString arrives = QString::fromLatin1(item.arrives);
-            const QStringList seen = tap(item.keyCode, item.scanCode, item.extended, arrives);
-            if (item.character != nullptr) {
-                EXPECT_THAT(seen, Contains(QString::fromLatin1(item.character)));
+        for (const auto& [keyCode, scanCode, extended, name, character] : cases) {
+            const QString arrives = QString::fromLatin1(name);
+            const QStringList seen = tap(keyCode, scanCode, extended, arrives);
+            if (character != nullptr) {
+                EXPECT_THAT(seen, Contains(QString::fromLatin1(character)));
             }
-            if (item.keyCode != VK_SNAPSHOT) { // The system keeps its press to itself.
-                EXPECT_THAT(seen, Contains(QStringLiteral("key down %1").arg(arrives)));
+            if (keyCode != VK_SNAPSHOT) { // The system keeps its press to itself.
+                EXPECT_THAT(seen, Contains(u"key down %1"_s.arg(arrives)));
             }
         }
         const int numLock = GetKeyState(VK_NUMLOCK);
-        tap(VK_NUMLOCK, 0xE045, true, QStringLiteral("90 145"));
+        tap(VK_NUMLOCK, 0xE045, true, u"90 145"_s);
         EXPECT_NE(GetKeyState(VK_NUMLOCK) & 1, numLock & 1);
     }
 }

@@ -18,15 +18,14 @@ CapturedFrame greyFrame(int width, int height) {
 }
 
 TEST(CursorImageTest, BlendsPremultipliedColoursOverTheFrame) {
-    struct Case {
-        uint32_t argb;
-        std::array<uint8_t, 3> bgr;
-    };
-    for (const Case& c : {Case{0xff112233, {0x33, 0x22, 0x11}}, Case{0x00000000, {100, 100, 100}},
-                          Case{0x80402000, {50, 82, 114}}, Case{0x40ffffff, {255, 255, 255}}}) {
+    const std::pair<uint32_t, std::array<uint8_t, 3>> cases[] = {{0xff112233, {0x33, 0x22, 0x11}},
+                                                                 {0x00000000, {100, 100, 100}},
+                                                                 {0x80402000, {50, 82, 114}},
+                                                                 {0x40ffffff, {255, 255, 255}}};
+    for (const auto& [argb, bgr] : cases) {
         CapturedFrame frame = greyFrame(1, 1);
-        blendCursor({.width = 1, .height = 1, .pixels = {c.argb}}, frame);
-        EXPECT_EQ((std::array{frame.data[0], frame.data[1], frame.data[2]}), c.bgr);
+        blendCursor({.width = 1, .height = 1, .pixels = {argb}}, frame);
+        EXPECT_EQ((std::array{frame.data[0], frame.data[1], frame.data[2]}), bgr);
     }
 }
 

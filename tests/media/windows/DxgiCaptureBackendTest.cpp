@@ -6,11 +6,6 @@
 #include <gmock/gmock.h>
 
 namespace corvane {
-
-bool operator==(const FrameRect& a, const FrameRect& b) {
-    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
 namespace {
 
 using ::testing::ElementsAre;
@@ -68,14 +63,12 @@ protected:
     }
 
     GdiFunctions gdi() {
-        GdiFunctions functions;
-        functions.getCursorInfo = [this](CURSORINFO* info) -> WINBOOL {
+        return {.getCursorInfo = [this](CURSORINFO* info) -> WINBOOL {
             info->flags = cursorShown ? CURSOR_SHOWING : 0;
             info->hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
             info->ptScreenPos = cursorPlace;
             return TRUE;
-        };
-        return functions;
+        }};
     }
 
     test::LogCapture log;
@@ -116,9 +109,8 @@ TEST_F(DxgiCaptureBackendTest, EachFailingCallOfInitializeIsNamed) {
         EXPECT_EQ(backend.captureFrame(), nullptr);
         EXPECT_EQ(desktop.objects, 0) << call;
         const bool isQuery = call.starts_with("IDXGI");
-        EXPECT_EQ(log.count("error|DxgiCaptureBackend: " +
-                            (isQuery ? "QueryInterface " + call : call) + " failed (0x80070005)"),
-                  1)
+        EXPECT_TRUE(log.once("error|DxgiCaptureBackend: " +
+                             (isQuery ? "QueryInterface " + call : call) + " failed (0x80070005)"))
             << call;
         EXPECT_EQ(log.lines().back(),
                   call == "D3D11CreateDevice"
@@ -143,9 +135,8 @@ TEST_F(DxgiCaptureBackendTest, MonitorsAreTheOutputsOfAllAdapters) {
     EXPECT_EQ(backend.currentMonitor().name, monitors[2].name);
     for (const int index : {3, -1}) {
         EXPECT_FALSE(backend.initialize(index));
-        EXPECT_EQ(log.count("error|DxgiCaptureBackend: monitor index " + std::to_string(index) +
-                            " not found"),
-                  1);
+        EXPECT_TRUE(log.once("error|DxgiCaptureBackend: monitor index " + std::to_string(index) +
+                             " not found"));
     }
     desktop.failures = {{"CreateDXGIFactory1", E_FAIL}};
     EXPECT_THAT(backend.monitors(), IsEmpty());
@@ -206,7 +197,7 @@ TEST_F(DxgiCaptureBackendTest, LostAccessIsRegainedFiveTimes) {
     ASSERT_TRUE(backend.initialize(static_cast<int>(backend.currentMonitor().index)));
     desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
     backend.captureFrame();
-    EXPECT_EQ(log.count("info|DxgiCaptureBackend: reinitializing (attempt 1/5)"), 1);
+    EXPECT_TRUE(log.once("info|DxgiCaptureBackend: reinitializing (attempt 1/5)"));
     EXPECT_TRUE(backend.isInitialized());
 }
 

@@ -57,11 +57,9 @@ TEST(GdiCaptureBackendTest, WindowsAreSeenInTheirPlaceAndColour) {
     const test::LogCapture log;
     const ColouredWindow red({100, 100, 180, 150}, RGB(250, 20, 30));
     const ColouredWindow blue({180, 150, 300, 200}, RGB(10, 40, 240));
-    GdiFunctions functions;
-    functions.getCursorInfo = [](CURSORINFO*) -> WINBOOL {
+    GdiCaptureBackend backend({.getCursorInfo = [](CURSORINFO*) -> WINBOOL {
         return FALSE;
-    };
-    GdiCaptureBackend backend(functions);
+    }});
     const auto monitors = backend.monitors();
     ASSERT_FALSE(monitors.empty());
     const auto primary =
@@ -100,66 +98,63 @@ protected:
     };
 
     GdiFunctions script() {
-        GdiFunctions functions;
-        functions.enumDisplayMonitors = [this](HDC context, LPCRECT clip, MONITORENUMPROC visit,
-                                               LPARAM data) -> WINBOOL {
-            EXPECT_EQ(context, nullptr);
-            EXPECT_EQ(clip, nullptr);
-            for (size_t i = 0; i < places.size(); ++i) {
-                visit(reinterpret_cast<HMONITOR>(i + 1), nullptr, &places[i].rect, data);
-            }
-            return TRUE;
+        return {
+            .enumDisplayMonitors = [this](HDC context, LPCRECT clip, MONITORENUMPROC visit,
+                                          LPARAM data) -> WINBOOL {
+                EXPECT_EQ(context, nullptr);
+                EXPECT_EQ(clip, nullptr);
+                for (size_t i = 0; i < places.size(); ++i) {
+                    visit(reinterpret_cast<HMONITOR>(i + 1), nullptr, &places[i].rect, data);
+                }
+                return TRUE;
+            },
+            .getMonitorInfo = [this](HMONITOR monitor, MONITORINFO* info) -> WINBOOL {
+                EXPECT_EQ(info->cbSize, 72U);
+                const Place& place = places[reinterpret_cast<size_t>(monitor) - 1];
+                info->rcMonitor = place.rect;
+                info->dwFlags = place.flags;
+                std::strcpy(reinterpret_cast<MONITORINFOEXA*>(info)->szDevice, place.name);
+                return failing != "GetMonitorInfoA";
+            },
+            .getDc = [this](HWND window) { return made("GetDC", GetDC(window)); },
+            .releaseDc = [this](HWND window,
+                                HDC context) { return --alive, ReleaseDC(window, context); },
+            .createCompatibleDc =
+                [this](HDC context) {
+                    return made("CreateCompatibleDC", CreateCompatibleDC(context));
+                },
+            .deleteDc = [this](HDC context) { return --alive, DeleteDC(context); },
+            .createDibSection =
+                [this](HDC context, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
+                       DWORD offset) {
+                    return made("CreateDIBSection",
+                                CreateDIBSection(context, info, usage, bits, section, offset));
+                },
+            .deleteObject = [this](HGDIOBJ object) { return --alive, DeleteObject(object); },
+            .bitBlt = [this](HDC, int x, int y, int width, int height, HDC, int fromX, int fromY,
+                             DWORD operation) -> WINBOOL {
+                blit = {x, y, width, height, fromX, fromY, static_cast<int>(operation)};
+                return failing != "BitBlt";
+            },
+            .getDiBits =
+                [this](HDC context, HBITMAP bitmap, UINT first, UINT count, void* bits,
+                       BITMAPINFO* info, UINT usage) {
+                    const int lines = GetDIBits(context, bitmap, first, count, bits, info, usage);
+                    return failing == "GetDIBits" ? 0 : lines;
+                },
+            .getCursorInfo =
+                [this](CURSORINFO* info) {
+                    EXPECT_EQ(info->cbSize, 24U);
+                    *info = cursor;
+                    return cursorKnown;
+                },
+            .drawIcon = [this](HDC, int x, int y, HICON icon, int width, int height, UINT step,
+                               HBRUSH, UINT flags) -> WINBOOL {
+                EXPECT_EQ(icon, reinterpret_cast<HICON>(1));
+                drawn = {x, y, width, height, static_cast<int>(step), static_cast<int>(flags)};
+                return TRUE;
+            },
         };
-        functions.getMonitorInfo = [this](HMONITOR monitor, MONITORINFO* info) -> WINBOOL {
-            EXPECT_EQ(info->cbSize, 72U);
-            const Place& place = places[reinterpret_cast<size_t>(monitor) - 1];
-            info->rcMonitor = place.rect;
-            info->dwFlags = place.flags;
-            std::strcpy(reinterpret_cast<MONITORINFOEXA*>(info)->szDevice, place.name);
-            return failing != "GetMonitorInfoA";
-        };
-        functions.getDc = [this](HWND window) {
-            return made("GetDC", GetDC(window));
-        };
-        functions.releaseDc = [this](HWND window, HDC context) {
-            return --alive, ReleaseDC(window, context);
-        };
-        functions.createCompatibleDc = [this](HDC context) {
-            return made("CreateCompatibleDC", CreateCompatibleDC(context));
-        };
-        functions.deleteDc = [this](HDC context) {
-            return --alive, DeleteDC(context);
-        };
-        functions.createDibSection = [this](HDC context, const BITMAPINFO* info, UINT usage,
-                                            void** bits, HANDLE section, DWORD offset) {
-            return made("CreateDIBSection",
-                        CreateDIBSection(context, info, usage, bits, section, offset));
-        };
-        functions.deleteObject = [this](HGDIOBJ object) {
-            return --alive, DeleteObject(object);
-        };
-        functions.bitBlt = [this](HDC, int x, int y, int width, int height, HDC, int fromX,
-                                  int fromY, DWORD operation) -> WINBOOL {
-            blit = {x, y, width, height, fromX, fromY, static_cast<int>(operation)};
-            return failing != "BitBlt";
-        };
-        functions.getDiBits = [this](HDC context, HBITMAP bitmap, UINT first, UINT count,
-                                     void* bits, BITMAPINFO* info, UINT usage) {
-            const int lines = GetDIBits(context, bitmap, first, count, bits, info, usage);
-            return failing == "GetDIBits" ? 0 : lines;
-        };
-        functions.getCursorInfo = [this](CURSORINFO* info) {
-            EXPECT_EQ(info->cbSize, 24U);
-            *info = cursor;
-            return cursorKnown;
-        };
-        functions.drawIcon = [this](HDC, int x, int y, HICON icon, int width, int height, UINT step,
-                                    HBRUSH, UINT flags) -> WINBOOL {
-            EXPECT_EQ(icon, reinterpret_cast<HICON>(1));
-            drawn = {x, y, width, height, static_cast<int>(step), static_cast<int>(flags)};
-            return TRUE;
-        };
-        return functions;
     }
 
     /// `handle`, or null when the call `name` is to fail.
@@ -204,15 +199,14 @@ TEST_F(ScriptedGdi, AMonitorLeftOfThePrimaryIsReadFromNegativePlaces) {
 
 TEST_F(ScriptedGdi, AHiddenPointerIsNotDrawn) {
     ASSERT_TRUE(backend.initialize(1));
-    const CURSORINFO shown = cursor;
-    cursor.flags = 0;
+    for (const DWORD flags : {0U, 2U}) { // put away by a program, by touch input
+        cursor.flags = flags;
+        EXPECT_TRUE(backend.captureFrame());
+    }
+    cursor.flags = CURSOR_SHOWING;
+    const HCURSOR shape = std::exchange(cursor.hCursor, nullptr);
     EXPECT_TRUE(backend.captureFrame());
-    cursor.flags = 2; // put away by touch input
-    EXPECT_TRUE(backend.captureFrame());
-    cursor = shown;
-    cursor.hCursor = nullptr;
-    EXPECT_TRUE(backend.captureFrame());
-    cursor = shown;
+    cursor.hCursor = shape;
     cursorKnown = FALSE;
     EXPECT_TRUE(backend.captureFrame());
     EXPECT_THAT(drawn, IsEmpty());
@@ -221,17 +215,15 @@ TEST_F(ScriptedGdi, AHiddenPointerIsNotDrawn) {
 TEST_F(ScriptedGdi, UnusableMonitorsAreRefused) {
     for (const int index : {2, -1}) {
         EXPECT_FALSE(backend.initialize(index));
-        EXPECT_EQ(
-            log.count(fmt::format(
-                "error|GdiCaptureBackend: monitor index {} not found (have 2 monitors)", index)),
-            1);
+        EXPECT_TRUE(log.once("error|GdiCaptureBackend: monitor index " + std::to_string(index) +
+                             " not found (have 2 monitors)"));
     }
     places[1].rect.right = -1920;
     EXPECT_FALSE(backend.initialize(1));
-    EXPECT_EQ(log.count("error|GdiCaptureBackend: invalid monitor dimensions 0x1080"), 1);
+    EXPECT_TRUE(log.once("error|GdiCaptureBackend: invalid monitor dimensions 0x1080"));
     failing = "GetMonitorInfoA";
     EXPECT_FALSE(backend.initialize(0));
-    EXPECT_EQ(log.count("error|GdiCaptureBackend: invalid monitor dimensions 0x0"), 1);
+    EXPECT_TRUE(log.once("error|GdiCaptureBackend: invalid monitor dimensions 0x0"));
     EXPECT_EQ(backend.captureFrame(), nullptr);
 }
 

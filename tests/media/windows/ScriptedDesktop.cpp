@@ -42,16 +42,13 @@ HRESULT give(ScriptedDesktop& desktop, const char* name, Target** target, size_t
 template <typename I>
 HRESULT WINAPI query(I* object, REFIID wanted, void** target) {
     auto& self = of(object);
-    if (IsEqualGUID(wanted, IID_IDXGIDevice)) {
-        return give<IDXGIDevice>(*self.desktop, "IDXGIDevice", target);
-    }
-    if (IsEqualGUID(wanted, IID_IDXGIOutput1)) {
-        return give<IDXGIOutput1>(*self.desktop, "IDXGIOutput1", target);
-    }
-    if (IsEqualGUID(wanted, IID_ID3D11Texture2D)) {
-        return give<ID3D11Texture2D>(*self.desktop, "ID3D11Texture2D", target);
-    }
-    return E_NOINTERFACE;
+    return IsEqualGUID(wanted, IID_IDXGIDevice)
+               ? give<IDXGIDevice>(*self.desktop, "IDXGIDevice", target)
+           : IsEqualGUID(wanted, IID_IDXGIOutput1)
+               ? give<IDXGIOutput1>(*self.desktop, "IDXGIOutput1", target)
+           : IsEqualGUID(wanted, IID_ID3D11Texture2D)
+               ? give<ID3D11Texture2D>(*self.desktop, "ID3D11Texture2D", target)
+               : E_NOINTERFACE;
 }
 
 template <typename I>
@@ -189,11 +186,6 @@ void fillIn(IDXGIOutput1Vtbl& table) {
 
 void fillIn(IDXGIResourceVtbl&) {}
 
-UINT metadataSize(const ScriptedDesktop& desktop) {
-    return static_cast<UINT>(desktop.dirtyRects.size() * sizeof(RECT) +
-                             desktop.moveTargets.size() * sizeof(DXGI_OUTDUPL_MOVE_RECT));
-}
-
 void fillIn(IDXGIOutputDuplicationVtbl& table) {
     table.AcquireNextFrame = [](IDXGIOutputDuplication* object, UINT timeout,
                                 DXGI_OUTDUPL_FRAME_INFO* info, IDXGIResource** target) -> HRESULT {
@@ -207,7 +199,9 @@ void fillIn(IDXGIOutputDuplicationVtbl& table) {
         if (SUCCEEDED(result)) {
             ++desktop.framesHeld;
             *info = {};
-            info->TotalMetadataBufferSize = metadataSize(desktop);
+            info->TotalMetadataBufferSize =
+                static_cast<UINT>(desktop.dirtyRects.size() * sizeof(RECT) +
+                                  desktop.moveTargets.size() * sizeof(DXGI_OUTDUPL_MOVE_RECT));
             *target = make<IDXGIResource>(desktop);
         }
         return result;

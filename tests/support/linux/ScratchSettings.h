@@ -1,6 +1,7 @@
 #pragma once
 
-#include <memory>
+#include <QSettings>
+#include <QTemporaryDir>
 
 namespace corvane::test {
 
@@ -8,14 +9,12 @@ namespace corvane::test {
 /// implementation per platform.
 class ScratchSettings {
 public:
-    ScratchSettings();
-    ~ScratchSettings();
-    ScratchSettings(const ScratchSettings&) = delete;
-    ScratchSettings& operator=(const ScratchSettings&) = delete;
+    ScratchSettings() {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
+    }
 
 private:
-    struct Place;
-    std::unique_ptr<Place> m_place;
+    QTemporaryDir m_folder;
 };
 
 } // namespace corvane::test
