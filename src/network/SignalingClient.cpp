@@ -33,25 +33,31 @@ QString field(const nlohmann::json& message, std::string_view key) {
 } // namespace
 
 SignalingClient::SignalingClient(QObject* parent, std::chrono::milliseconds handshakeTimeout)
-    : QObject(parent), m_socket(QString(), QWebSocketProtocol::Version13) {
-    m_socket.setMaxAllowedIncomingMessageSize(kMaxMessageBytes);
-    m_socket.setMaxAllowedIncomingFrameSize(kMaxMessageBytes);
+    : QObject(parent) {
     m_reconnectTimer.setSingleShot(true);
     m_handshakeTimer.setSingleShot(true);
     m_handshakeTimer.setInterval(handshakeTimeout);
-    connect(&m_socket, &QWebSocket::connected, this, &SignalingClient::onConnected);
-    connect(&m_socket, &QWebSocket::disconnected, this, &SignalingClient::onDisconnected);
-    connect(&m_socket, &QWebSocket::textMessageReceived, this,
-            &SignalingClient::onTextMessageReceived);
-    connect(&m_socket, qOverload<QAbstractSocket::SocketError>(&QWebSocket::error), this,
-            &SignalingClient::onError);
     connect(&m_reconnectTimer, &QTimer::timeout, this, &SignalingClient::attemptReconnect);
     connect(&m_handshakeTimer, &QTimer::timeout, this, &SignalingClient::onHandshakeTimeout);
 }
 
 // The socket reports its own closing, which must not reach an object half destroyed.
 SignalingClient::~SignalingClient() {
-    m_socket.disconnect(this);
+    if (m_socket) {
+        m_socket->disconnect(this);
+    }
+}
+
+void SignalingClient::createSocket() {
+    m_socket = std::make_unique<QWebSocket>(QString(), QWebSocketProtocol::Version13);
+    m_socket->setMaxAllowedIncomingMessageSize(kMaxMessageBytes);
+    m_socket->setMaxAllowedIncomingFrameSize(kMaxMessageBytes);
+    connect(m_socket.get(), &QWebSocket::connected, this, &SignalingClient::onConnected);
+    connect(m_socket.get(), &QWebSocket::disconnected, this, &SignalingClient::onDisconnected);
+    connect(m_socket.get(), &QWebSocket::textMessageReceived, this,
+            &SignalingClient::onTextMessageReceived);
+    connect(m_socket.get(), qOverload<QAbstractSocket::SocketError>(&QWebSocket::error), this,
+            &SignalingClient::onError);
 }
 
 void SignalingClient::connectToServer(const QUrl& serverUrl, const QString& clientId,
@@ -64,7 +70,10 @@ void SignalingClient::connectToServer(const QUrl& serverUrl, const QString& clie
     const QUrl url = webSocketUrl(serverUrl, clientId);
     spdlog::info("Connecting to signaling server: {}", url.toString().toStdString());
     m_handshakeTimer.start();
-    m_socket.open(url);
+    if (!m_socket) {
+        createSocket();
+    }
+    m_socket->open(url);
 }
 
 void SignalingClient::disconnectFromServer() {
@@ -72,9 +81,9 @@ void SignalingClient::disconnectFromServer() {
     m_reconnectTimer.stop();
     m_handshakeTimer.stop();
     if (isConnected()) {
-        m_socket.close(QWebSocketProtocol::CloseCodeNormal);
-    } else {
-        m_socket.abort();
+        m_socket->close(QWebSocketProtocol::CloseCodeNormal);
+    } else if (m_socket) {
+        m_socket->abort();
     }
 }
 
@@ -83,11 +92,11 @@ void SignalingClient::sendMessage(const nlohmann::json& message) {
         spdlog::warn("Cannot send message: not connected");
         return;
     }
-    m_socket.sendTextMessage(QString::fromStdString(jsonText(message)));
+    m_socket->sendTextMessage(QString::fromStdString(jsonText(message)));
 }
 
 bool SignalingClient::isConnected() const {
-    return m_socket.state() == QAbstractSocket::ConnectedState;
+    return m_socket && m_socket->state() == QAbstractSocket::ConnectedState;
 }
 
 void SignalingClient::onConnected() {
@@ -100,7 +109,7 @@ void SignalingClient::onDisconnected() {
     m_handshakeTimer.stop();
     spdlog::info("Signaling WebSocket disconnected");
     Q_EMIT disconnected();
-    const bool reopened = m_socket.state() != QAbstractSocket::UnconnectedState;
+    const bool reopened = m_socket->state() != QAbstractSocket::UnconnectedState;
     if (reopened || m_reconnectAttempts >= kMaxReconnectAttempts) {
         return;
     }
@@ -118,11 +127,11 @@ void SignalingClient::attemptReconnect() {
 
 void SignalingClient::onHandshakeTimeout() {
     spdlog::warn("SignalingClient: the server did not answer the WebSocket handshake");
-    m_socket.abort();
+    m_socket->abort();
 }
 
 void SignalingClient::onError(QAbstractSocket::SocketError error) {
-    const QString text = m_socket.errorString();
+    const QString text = m_socket->errorString();
     spdlog::error("WebSocket error ({}): {}", static_cast<int>(error), text.toStdString());
     Q_EMIT connectionError(text);
 }
@@ -206,7 +215,7 @@ void SignalingClient::acceptAuthentication() {
 void SignalingClient::rejectAuthentication() {
     spdlog::error("Signaling auth rejected by server — not reconnecting");
     m_reconnectAttempts = kMaxReconnectAttempts;
-    m_socket.close(QWebSocketProtocol::CloseCodeNormal);
+    m_socket->close(QWebSocketProtocol::CloseCodeNormal);
     Q_EMIT connectionError(tr("Authentication rejected by server"));
 }
 

@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <memory>
 
 namespace corvane {
 
@@ -61,12 +62,14 @@ private Q_SLOTS:
     void attemptReconnect();
 
 private:
+    void createSocket();
     void dispatch(const nlohmann::json& message);
     void acceptAuthentication();
     void rejectAuthentication();
     void onHandshakeTimeout();
 
-    QWebSocket m_socket;
+    /// From the first connection on: Qt loads the system's certificates for it, which takes time.
+    std::unique_ptr<QWebSocket> m_socket;
     QTimer m_reconnectTimer;
     QTimer m_handshakeTimer;
     QUrl m_serverUrl;

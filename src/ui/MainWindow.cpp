@@ -142,8 +142,7 @@ void MainWindow::connectViewer() {
     connect(m_dialogs, &SessionDialogs::chatWaiting, bar, &ViewerToolBar::setChatWaiting);
     connect(bar, &ViewerToolBar::disconnectRequested, this, &MainWindow::onDisconnectClicked);
     connect(bar, &ViewerToolBar::monitorChosen, m_session, &SessionManager::requestMonitorSwitch);
-    connect(m_viewer->view(), &RemoteDesktopWidget::inputEvent, m_session,
-            &SessionManager::sendInputEvent);
+    connect(m_viewer, &ViewerPage::inputEvent, m_session, &SessionManager::sendInputEvent);
 }
 
 void MainWindow::connectServices() {
@@ -234,7 +233,7 @@ void MainWindow::onSettingsClicked() {
 
 void MainWindow::endSession(const QString& reason) {
     // While the partner still listens: whatever the user holds down must not stay down over there.
-    m_viewer->view()->setViewingMode(false);
+    m_viewer->stopViewing();
     m_session->endSession(reason);
 }
 
@@ -308,7 +307,7 @@ void MainWindow::onSessionError(const QString& error) {
 void MainWindow::onFrameDecoded(std::shared_ptr<DecodedFrame> frame) {
     if (frame) {
         m_quality->countFrame();
-        m_viewer->view()->updateFrame(std::move(frame));
+        m_viewer->showFrame(std::move(frame));
     }
 }
 
@@ -418,17 +417,15 @@ void MainWindow::enterSession() {
 
 void MainWindow::enterViewer() {
     m_pages->setCurrentWidget(m_viewer);
-    m_viewer->view()->setViewingMode(true);
-    m_viewer->view()->setFocus();
     setMinimumSize(kViewerMinimum);
     resize(initialViewerSize().expandedTo(kViewerMinimum));
+    m_viewer->startViewing();
     setWindowTitle(tr("Corvane - Connected to %1").arg(formatPartnerId(m_session->peerClientId())));
 }
 
 void MainWindow::returnHome() {
-    RemoteDesktopWidget* const view = m_viewer->view();
-    view->setViewingMode(false);
-    view->clearPicture();
+    m_viewer->stopViewing();
+    m_viewer->clearPicture();
     m_quality->stop();
     m_viewer->toolBar()->setSummary({});
     m_viewer->toolBar()->qualityIndicator()->reset();

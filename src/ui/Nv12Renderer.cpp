@@ -3,7 +3,6 @@
 #include "DecodedFrame.h"
 #include "Nv12Shaders.h"
 
-#include <QOpenGLContext>
 #include <QOpenGLShaderProgram>
 #include <spdlog/spdlog.h>
 
@@ -23,13 +22,6 @@ constexpr GLsizei kVertexStride = kFloatsPerVertex * sizeof(float);
 constexpr std::array<float, kFloatsPerVertex * kVertexCount> kVertices{
     -1.0F, 1.0F, 0.0F, 0.0F, -1.0F, -1.0F, 0.0F, 1.0F, 1.0F, -1.0F, 1.0F, 1.0F,
     -1.0F, 1.0F, 0.0F, 0.0F, 1.0F,  -1.0F, 1.0F, 1.0F, 1.0F, 1.0F,  1.0F, 0.0F};
-
-/// Windows without a graphics driver offers OpenGL 1.1, where calls about shaders lead nowhere.
-bool hasShaders() {
-    constexpr std::pair kFirstWithShaders(2, 0);
-    const QSurfaceFormat format = QOpenGLContext::currentContext()->format();
-    return std::pair(format.majorVersion(), format.minorVersion()) >= kFirstWithShaders;
-}
 
 } // namespace
 
@@ -54,10 +46,6 @@ Nv12Renderer::~Nv12Renderer() {
 }
 
 bool Nv12Renderer::initialize() {
-    if (!hasShaders()) {
-        spdlog::error("OpenGL has no shaders, the remote picture stays black");
-        return false;
-    }
     if (!buildModernProgram() && !buildFallbackProgram()) {
         return false;
     }

@@ -1,20 +1,66 @@
 #include "ViewerPage.h"
 
+#include "OpenGlProbe.h"
+#include "RemoteDesktopWidget.h"
+#include "WindowRenewal.h"
+
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace corvane {
 
 ViewerPage::ViewerPage(QWidget* parent) : QWidget(parent) {
     m_toolBar = new ViewerToolBar(this);
-    m_view = new RemoteDesktopWidget(this);
+    m_layout = new QVBoxLayout(this);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_toolBar);
+}
+
+void ViewerPage::startViewing() {
+    if (m_screen == nullptr) {
+        createView();
+    }
+    if (m_view != nullptr) {
+        m_view->setViewingMode(true);
+        m_view->setFocus();
+    }
+}
+
+void ViewerPage::stopViewing() {
+    if (m_view != nullptr) {
+        m_view->setViewingMode(false);
+    }
+}
+
+void ViewerPage::showFrame(std::shared_ptr<DecodedFrame> frame) {
+    if (m_view != nullptr) {
+        m_view->updateFrame(std::move(frame));
+    }
+}
+
+void ViewerPage::clearPicture() {
+    if (m_view != nullptr) {
+        m_view->clearPicture();
+    }
+}
+
+void ViewerPage::createView() {
+    if (!isOpenGlUsable()) {
+        m_screen = new QWidget;
+        m_screen->setStyleSheet(QStringLiteral("background: black"));
+        m_layout->addWidget(m_screen, 1);
+        return;
+    }
+    m_view = new RemoteDesktopWidget;
     connect(m_toolBar, &ViewerToolBar::scaleModeChosen, m_view, &RemoteDesktopWidget::setScaleMode);
     connect(m_toolBar, &ViewerToolBar::fullScreenRequested, m_view,
             &RemoteDesktopWidget::toggleFullScreen);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_toolBar);
-    layout->addWidget(m_view, 1);
+    connect(m_view, &RemoteDesktopWidget::inputEvent, this, &ViewerPage::inputEvent);
+    m_screen = m_view;
+    // Qt draws a window without OpenGL until it holds the first widget that needs it.
+    renewWindow(*window(), [this] { m_layout->addWidget(m_view, 1); });
 }
 
 } // namespace corvane

@@ -1,25 +1,48 @@
 #pragma once
 
-#include "RemoteDesktopWidget.h"
+#include "DecodedFrame.h"
+#include "InputEvent.h"
 #include "ViewerToolBar.h"
 
 #include <QWidget>
 
+#include <memory>
+
+class QVBoxLayout;
+
 namespace corvane {
 
-/// Page shown while this side views a partner: the remote screen and its tool bar.
+class RemoteDesktopWidget;
+
+/// Page shown while this side views a partner: the remote screen and its tool bar. Where the system
+/// has no OpenGL for it, the remote screen is a black area that takes no input.
 class ViewerPage : public QWidget {
     Q_OBJECT
 
 public:
     explicit ViewerPage(QWidget* parent = nullptr);
 
-    RemoteDesktopWidget* view() const { return m_view; }
     ViewerToolBar* toolBar() const { return m_toolBar; }
 
+    /// Forwards the user's input from here on. The first time, this creates the view.
+    void startViewing();
+
+    /// Releases what the user holds down over there and forwards nothing more.
+    void stopViewing();
+
+    void showFrame(std::shared_ptr<DecodedFrame> frame);
+    void clearPicture();
+
+Q_SIGNALS:
+    void inputEvent(corvane::InputEvent event);
+
 private:
+    void createView();
+
+    QVBoxLayout* m_layout = nullptr;
     ViewerToolBar* m_toolBar = nullptr;
-    RemoteDesktopWidget* m_view = nullptr;
+    QWidget* m_screen = nullptr;           ///< the view, or what stands in for it
+    RemoteDesktopWidget* m_view = nullptr; ///< null before the first session, and without OpenGL
 };
 
 } // namespace corvane
