@@ -33,6 +33,8 @@
 #include <QUrl>
 #include <spdlog/spdlog.h>
 
+#include <algorithm>
+
 namespace corvane {
 
 namespace {
@@ -54,6 +56,19 @@ QSize initialViewerSize() {
     const QScreen* const screen = QGuiApplication::primaryScreen();
     return screen != nullptr ? (screen->availableSize() * 3 / 4).boundedTo(kViewerLargest)
                              : kViewerLargest;
+}
+
+/// For a window that has grown beyond its screen's edge.
+void keepOnScreen(QWidget& window) {
+    const QRect available = window.screen()->availableGeometry();
+    QRect frame = window.frameGeometry();
+    frame.moveBottomRight(
+        {std::min(frame.right(), available.right()), std::min(frame.bottom(), available.bottom())});
+    frame.moveTopLeft(
+        {std::max(frame.left(), available.left()), std::max(frame.top(), available.top())});
+    if (frame.topLeft() != window.pos()) {
+        window.move(frame.topLeft());
+    }
 }
 
 } // namespace
@@ -419,6 +434,7 @@ void MainWindow::enterViewer() {
     m_pages->setCurrentWidget(m_viewer);
     setMinimumSize(kViewerMinimum);
     resize(initialViewerSize().expandedTo(kViewerMinimum));
+    keepOnScreen(*this);
     m_viewer->startViewing();
     setWindowTitle(tr("Corvane - Connected to %1").arg(formatPartnerId(m_session->peerClientId())));
 }
