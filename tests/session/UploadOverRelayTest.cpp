@@ -13,6 +13,10 @@
 #include <QThread>
 #include <gtest/gtest.h>
 
+#include <future>
+#include <mutex>
+#include <queue>
+
 namespace corvane::test {
 namespace {
 
@@ -41,13 +45,33 @@ public:
     T& operator*() { return *m_object; }
 
     void run(const std::function<void()>& action) {
-        QMetaObject::invokeMethod(&m_context, action, Qt::BlockingQueuedConnection);
+        std::promise<void> done;
+        post([&] {
+            action();
+            done.set_value();
+        });
+        done.get_future().wait();
     }
-    void post(const std::function<void()>& action) {
-        QMetaObject::invokeMethod(&m_context, action, Qt::QueuedConnection);
+    void post(std::function<void()> action) {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_actions.push(std::move(action));
+        }
+        QMetaObject::invokeMethod(
+            &m_context, [this] { runNext(); }, Qt::QueuedConnection);
     }
 
 private:
+    void runNext() {
+        std::unique_lock lock(m_mutex);
+        const auto action = std::move(m_actions.front());
+        m_actions.pop();
+        lock.unlock();
+        action();
+    }
+
+    std::mutex m_mutex; ///< guards the actions: Qt's own locks are hidden from the sanitizer
+    std::queue<std::function<void()>> m_actions;
     QThread m_thread;
     QObject m_context;
     std::unique_ptr<T> m_object;

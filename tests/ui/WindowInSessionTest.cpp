@@ -82,10 +82,10 @@ TEST_F(WindowInSessionTest, SharesTheScreenAndPutsTheChatBeforeIt) {
 }
 
 TEST_F(WindowInSessionTest, ShowsQualityFilesAndInformation) {
-    const auto partner = viewNewDevice();
-    ASSERT_NE(partner, nullptr);
     const auto* const swatch = widget<QWidget>("qualityIndicator");
     EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
+    const auto partner = viewNewDevice();
+    ASSERT_NE(partner, nullptr);
     m_window.onStatsUpdated({.fps = 29.9, .latencyMs = 400});
     EXPECT_EQ(m_window.windowTitle(), u"Corvane - %1 [29 FPS]"_s.arg(formatPartnerId(partner->id)));
     EXPECT_TRUE(swatch->toolTip().contains(u"(29 FPS, 400ms)"));
