@@ -77,16 +77,19 @@ void RelayPeer::pump(qint64 highWater) {
         return;
     }
     m_pumping = true;
-    while (mayRead(highWater)) {
-        const bool valid = m_scanner.payloadBytesMissing() == 0 ? readHeader() : readPayload();
-        if (!valid) {
-            abort();
+    do {
+        while (mayRead(highWater)) {
+            const bool valid = m_scanner.payloadBytesMissing() == 0 ? readHeader() : readPayload();
+            if (!valid) {
+                abort();
+            }
         }
-    }
+        // This may make room again without a signal, where one of the socket's is being handled.
+        if (m_partner) {
+            m_partner->m_socket->flush();
+        }
+    } while (mayRead(highWater));
     m_pumping = false;
-    if (m_partner) {
-        m_partner->m_socket->flush();
-    }
 }
 
 bool RelayPeer::mayRead(qint64 highWater) const {
