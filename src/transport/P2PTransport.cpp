@@ -310,7 +310,6 @@ void P2PTransport::onChannelOpen(ChannelType type) {
         }
         m_connected = true;
     }
-    m_standstill.restart();
     m_queueWatch.start();
     spdlog::info("P2PTransport: both data channels open — P2P connected!");
     Q_EMIT connected();

@@ -13,16 +13,15 @@ public:
 
     explicit Standstill(std::chrono::milliseconds limit) : m_limit(limit) {}
 
-    /// Has the time run from now on.
-    void restart() { m_movedAt = Clock::now(); }
-
     /// To be asked again and again. `accepted`: bytes given to the queue so far; `queued`: bytes of
-    /// them that are still in it.
+    /// them that are still in it. The time runs from the first look at a queue that holds
+    /// something: nobody may have looked for long before.
     bool reached(qint64 accepted, qint64 queued) {
         const qint64 sent = accepted - queued;
-        if (queued == 0 || sent > m_sent) {
+        if (!m_waiting || queued == 0 || sent > m_sent) {
             restart();
         }
+        m_waiting = queued > 0;
         m_sent = sent;
         return Clock::now() >= deadline();
     }
@@ -32,7 +31,10 @@ public:
     std::chrono::milliseconds limit() const { return m_limit; }
 
 private:
+    void restart() { m_movedAt = Clock::now(); }
+
     const std::chrono::milliseconds m_limit;
+    bool m_waiting = false; ///< at the last look
     qint64 m_sent = 0;
     Clock::time_point m_movedAt = Clock::now();
 };
