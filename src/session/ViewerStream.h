@@ -22,7 +22,8 @@ public:
     explicit ViewerStream(QObject* parent = nullptr);
     ~ViewerStream() override;
 
-    /// A message of either channel, with its sender's counter, was opened.
+    /// A message of either channel, with its sender's counter, was opened. False when it is a
+    /// repetition, or comes too late for anything.
     bool onMessage(uint64_t counter) { return m_recovery.onMessage(counter); }
 
     /// The packet's picture, or null when none came out: it makes no sense, or it was overtaken by
