@@ -15,8 +15,8 @@ namespace {
 
 using Messages = std::vector<std::pair<ChannelType, QByteArray>>;
 
-/// After which a connection counts as silent.
-constexpr int kSilenceMs = 10'000;
+/// After which a connection counts as silent. The largest message shows nothing of its progress.
+constexpr int kSilenceMs = 40'000;
 
 QByteArray randomBytes(size_t size) {
     std::minstd_rand random(static_cast<unsigned>(size));
