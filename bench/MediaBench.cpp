@@ -2,18 +2,16 @@
 #include "AV1Encoder.h"
 #include "DesktopScene.h"
 #include "FrameConverter.h"
+#include "SideBySide.h"
 
 #include <aom/aom_encoder.h>
 #include <aom/aomcx.h>
 #include <benchmark/benchmark.h>
 #include <dav1d/dav1d.h>
-#include <spdlog/spdlog.h>
 
-#include <chrono>
 #include <cstring>
 #include <map>
 #include <stdexcept>
-#include <string>
 #include <vector>
 
 namespace corvane {
@@ -63,57 +61,22 @@ const Clip& clipOf(const benchmark::State& state) {
                : clips.emplace(height, makeClip(static_cast<int>(height))).first->second;
 }
 
-/// Frames per second by the wall clock: the libraries also work on threads of their own, whose time
-/// the framework's own rates leave out.
-class FrameRate {
-public:
-    /// To be called right after the loop.
-    void report(benchmark::State& state) const {
-        const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - m_begin;
-        state.counters["frames/s"] =
-            static_cast<double>(state.iterations() * kFrames) / elapsed.count();
-    }
-
-private:
-    const std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
-};
-
-void ConvertNv12(benchmark::State& state) {
+void convert(benchmark::State& state) {
     const auto height = static_cast<int>(state.range(0));
     const int width = height * 16 / 9;
     const ByteVector bgra = test::desktopScene(width, height, 0);
     ByteVector nv12 = allocateNV12(width, height);
+    ByteVector copy(bgra.size());
     const FrameConverter converter;
-    for ([[maybe_unused]] auto _ : state) {
+    const auto ours = [&] {
         converter.convert(bgra.data(), width, height, width * 4, nv12.data(), 0);
         benchmark::ClobberMemory();
-    }
-    state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(bgra.size()));
-}
-
-void ConvertMemcpy(benchmark::State& state) {
-    const auto height = static_cast<int>(state.range(0));
-    const ByteVector bgra = test::desktopScene(height * 16 / 9, height, 0);
-    ByteVector copy(bgra.size());
-    for ([[maybe_unused]] auto _ : state) {
+    };
+    const auto limit = [&] {
         std::memcpy(copy.data(), bgra.data(), bgra.size());
         benchmark::ClobberMemory();
-    }
-    state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(bgra.size()));
-}
-
-void Encode(benchmark::State& state) {
-    const Clip& clip = clipOf(state);
-    const FrameRate rate;
-    for ([[maybe_unused]] auto _ : state) {
-        AV1Encoder encoder;
-        encoder.initialize(configOf(clip));
-        for (const ByteVector& frame : clip.nv12) {
-            benchmark::DoNotOptimize(
-                encoder.encode(frame.data(), clip.width, clip.height, 0, false));
-        }
-    }
-    rate.report(state);
+    };
+    sideBySide(state, 1, ours, limit);
 }
 
 /// Planar pictures, as the library takes them, ready before the clock runs.
@@ -165,101 +128,87 @@ void openBareEncoder(aom_codec_ctx_t& context, const EncoderConfig& config) {
     aom_codec_control(&context, AV1E_SET_TILE_ROWS, 1);
 }
 
-void EncodeBareAom(benchmark::State& state) {
+void encodeBare(const Clip& clip, const std::vector<aom_image_t*>& images) {
+    aom_codec_ctx_t context{};
+    openBareEncoder(context, configOf(clip));
+    for (size_t i = 0; i < images.size(); ++i) {
+        aom_codec_encode(&context, images[i], static_cast<aom_codec_pts_t>(i), 1, 0);
+        aom_codec_iter_t position = nullptr;
+        while (const auto* const packet = aom_codec_get_cx_data(&context, &position)) {
+            benchmark::DoNotOptimize(packet->data.frame.sz);
+        }
+    }
+    aom_codec_destroy(&context);
+}
+
+void encode(benchmark::State& state) {
     const Clip& clip = clipOf(state);
     const auto images = planarImages(clip);
-    const FrameRate rate;
-    for ([[maybe_unused]] auto _ : state) {
-        aom_codec_ctx_t context{};
-        openBareEncoder(context, configOf(clip));
-        for (size_t i = 0; i < images.size(); ++i) {
-            aom_codec_encode(&context, images[i], static_cast<aom_codec_pts_t>(i), 1, 0);
-            aom_codec_iter_t position = nullptr;
-            while (const auto* const packet = aom_codec_get_cx_data(&context, &position)) {
-                benchmark::DoNotOptimize(packet->data.frame.sz);
-            }
+    const auto ours = [&] {
+        AV1Encoder encoder;
+        encoder.initialize(configOf(clip));
+        for (const ByteVector& frame : clip.nv12) {
+            benchmark::DoNotOptimize(
+                encoder.encode(frame.data(), clip.width, clip.height, 0, false));
         }
-        aom_codec_destroy(&context);
-    }
-    rate.report(state);
+    };
+    sideBySide(state, kFrames, ours, [&] { encodeBare(clip, images); });
     for (aom_image_t* const image : images) {
         aom_img_free(image);
     }
 }
 
-void Decode(benchmark::State& state) {
-    const Clip& clip = clipOf(state);
-    AV1Decoder decoder;
-    decoder.initialize(clip.width, clip.height);
-    const FrameRate rate;
-    for ([[maybe_unused]] auto _ : state) {
-        for (const ByteVector& packet : clip.packets) {
-            const auto frame = decoder.decode(packet.data(), packet.size(), 0);
-            if (!frame) {
-                state.SkipWithError("no picture");
-                return;
-            }
-            benchmark::DoNotOptimize(frame->yPlane.data());
-        }
-    }
-    rate.report(state);
-}
-
-void DecodeBareDav1d(benchmark::State& state) {
-    const Clip& clip = clipOf(state);
+Dav1dContext* openBareDecoder() {
     Dav1dSettings settings;
     dav1d_default_settings(&settings);
     settings.n_threads = 0;
     settings.max_frame_delay = 1;
     Dav1dContext* context = nullptr;
     dav1d_open(&context, &settings);
-    const FrameRate rate;
-    for ([[maybe_unused]] auto _ : state) {
-        for (const ByteVector& packet : clip.packets) {
-            Dav1dData data{};
-            std::memcpy(dav1d_data_create(&data, packet.size()), packet.data(), packet.size());
-            dav1d_send_data(context, &data);
-            Dav1dPicture picture{};
-            if (dav1d_get_picture(context, &picture) != 0) {
-                state.SkipWithError("no picture");
-                break;
-            }
-            benchmark::DoNotOptimize(picture.data[0]);
-            dav1d_picture_unref(&picture);
-        }
-    }
-    rate.report(state);
-    dav1d_close(&context);
+    return context;
 }
 
-BENCHMARK(ConvertNv12)->Arg(1080);
-BENCHMARK(ConvertMemcpy)->Arg(1080);
-BENCHMARK(Encode)->Arg(720)->Arg(1080);
-BENCHMARK(EncodeBareAom)->Arg(720)->Arg(1080);
-BENCHMARK(Decode)->Arg(720)->Arg(1080);
-BENCHMARK(DecodeBareDav1d)->Arg(720)->Arg(1080);
+bool decodeBare(Dav1dContext* context, const ByteVector& packet) {
+    Dav1dData data{};
+    std::memcpy(dav1d_data_create(&data, packet.size()), packet.data(), packet.size());
+    dav1d_send_data(context, &data);
+    Dav1dPicture picture{};
+    if (dav1d_get_picture(context, &picture) != 0) {
+        return false;
+    }
+    benchmark::DoNotOptimize(picture.data[0]);
+    dav1d_picture_unref(&picture);
+    return true;
+}
+
+void decode(benchmark::State& state) {
+    const Clip& clip = clipOf(state);
+    AV1Decoder decoder;
+    decoder.initialize(clip.width, clip.height);
+    Dav1dContext* bare = openBareDecoder();
+    bool complete = true;
+    const auto ours = [&] {
+        for (const ByteVector& packet : clip.packets) {
+            const auto frame = decoder.decode(packet.data(), packet.size(), 0);
+            complete = complete && frame != nullptr;
+            benchmark::DoNotOptimize(frame.get());
+        }
+    };
+    const auto limit = [&] {
+        for (const ByteVector& packet : clip.packets) {
+            complete = decodeBare(bare, packet) && complete;
+        }
+    };
+    sideBySide(state, kFrames, ours, limit);
+    dav1d_close(&bare);
+    if (!complete) {
+        state.SkipWithError("no picture");
+    }
+}
+
+BENCHMARK(convert)->Name("Convert")->Arg(1080)->UseManualTime()->Iterations(500);
+BENCHMARK(encode)->Name("Encode")->Arg(720)->Arg(1080)->UseManualTime()->Iterations(5);
+BENCHMARK(decode)->Name("Decode")->Arg(720)->Arg(1080)->UseManualTime()->Iterations(200);
 
 } // namespace
 } // namespace corvane
-
-int main(int argc, char** argv) {
-    spdlog::set_level(spdlog::level::err);
-    // Repetitions of ours and of the bare libraries are shuffled, so that a slow moment of the
-    // machine hits both. Arguments given by the user come later and win.
-    std::vector<char*> arguments(argv, argv + argc);
-    std::string defaults[] = {
-        "--benchmark_repetitions=5", "--benchmark_enable_random_interleaving=true",
-        "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.3"};
-    for (std::string& argument : defaults) {
-        arguments.insert(arguments.begin() + 1, argument.data());
-    }
-    int count = static_cast<int>(arguments.size());
-    arguments.push_back(nullptr);
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

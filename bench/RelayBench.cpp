@@ -1,12 +1,12 @@
 #include "RelayFrameParser.h"
 #include "RelayNode.h"
 #include "RelayTransport.h"
+#include "SideBySide.h"
 
 #include <QCoreApplication>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <benchmark/benchmark.h>
-#include <spdlog/spdlog.h>
 
 #include <algorithm>
 
@@ -30,74 +30,100 @@ void processEventsUntil(Condition done) {
     }
 }
 
+/// Two transports that joined a session at a relay node.
+class RelayPair {
+public:
+    RelayPair() {
+        if (!m_node.start(QHostAddress::LocalHost, 0, m_error)) {
+            return;
+        }
+        const QString session = QStringLiteral("bench");
+        for (RelayTransport* transport : {&m_sender, &m_receiver}) {
+            transport->setSessionId(session);
+            transport->connect("127.0.0.1", m_node.port());
+        }
+        processEventsUntil([&] { return m_node.joinedPeers(session) == 2; });
+        QObject::connect(
+            &m_receiver, &ITransport::dataReceived,
+            [this](ChannelType, const QByteArray& data) { m_received += data.size(); });
+    }
+
+    /// Empty unless the node did not start.
+    const QString& error() const { return m_error; }
+
+    void pass(const ByteVector& message, int64_t count) {
+        m_received = 0;
+        for (int64_t i = 0; i < count; ++i) {
+            m_sender.send(ChannelType::Video, message.data(), message.size());
+        }
+        const int64_t expected = count * static_cast<int64_t>(message.size());
+        processEventsUntil([&] { return m_received == expected; });
+    }
+
+private:
+    QString m_error;
+    int64_t m_received = 0;
+    devserver::RelayNode m_node{nullptr};
+    RelayTransport m_sender;
+    RelayTransport m_receiver;
+};
+
+/// Two bare sockets and a forwarder of bytes between them.
+class SocketPair {
+public:
+    SocketPair() {
+        m_server.listen(QHostAddress::LocalHost);
+        QTcpSocket* const in = connectOne(m_sender);
+        QTcpSocket* const out = connectOne(m_receiver);
+        QObject::connect(in, &QTcpSocket::readyRead, [=] { out->write(in->readAll()); });
+        QObject::connect(&m_receiver, &QTcpSocket::readyRead,
+                         [this] { m_received += m_receiver.readAll().size(); });
+    }
+
+    void pass(const QByteArray& message, int64_t count) {
+        m_received = 0;
+        for (int64_t i = 0; i < count; ++i) {
+            m_sender.write(message.constData(), message.size());
+        }
+        processEventsUntil([&] { return m_received == count * message.size(); });
+    }
+
+private:
+    QTcpSocket* connectOne(QTcpSocket& socket) {
+        socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        socket.connectToHost(QHostAddress::LocalHost, m_server.serverPort());
+        processEventsUntil([&] { return m_server.hasPendingConnections(); });
+        return m_server.nextPendingConnection();
+    }
+
+    int64_t m_received = 0;
+    QTcpServer m_server;
+    QTcpSocket m_sender;
+    QTcpSocket m_receiver;
+};
+
 void relay(benchmark::State& state) {
-    devserver::RelayNode node(nullptr);
-    QString error;
-    if (!node.start(QHostAddress::LocalHost, 0, error)) {
-        state.SkipWithError(error.toUtf8().constData());
+    const int64_t size = state.range(0);
+    const int64_t count = messagesPerRound(size);
+    const ByteVector message(static_cast<size_t>(size), 0x5A);
+    const QByteArray bareMessage(static_cast<qsizetype>(size), '\x5A');
+    RelayPair transports;
+    SocketPair sockets;
+    if (!transports.error().isEmpty()) {
+        state.SkipWithError(transports.error().toUtf8().constData());
         return;
     }
-    const QString session = QStringLiteral("bench");
-    RelayTransport sender;
-    RelayTransport receiver;
-    for (RelayTransport* transport : {&sender, &receiver}) {
-        transport->setSessionId(session);
-        transport->connect("127.0.0.1", node.port());
-    }
-    processEventsUntil([&] { return node.joinedPeers(session) == 2; });
-
-    int64_t received = 0;
-    QObject::connect(&receiver, &ITransport::dataReceived,
-                     [&](ChannelType, const QByteArray& data) { received += data.size(); });
-    const ByteVector message(static_cast<size_t>(state.range(0)), 0x5A);
-    const int64_t count = messagesPerRound(state.range(0));
-    for (auto _ : state) {
-        received = 0;
-        for (int64_t i = 0; i < count; ++i) {
-            sender.send(ChannelType::Video, message.data(), message.size());
-        }
-        processEventsUntil([&] { return received == count * state.range(0); });
-    }
-    state.SetBytesProcessed(state.iterations() * count * state.range(0));
+    sideBySide(
+        state, count, [&] { transports.pass(message, count); },
+        [&] { sockets.pass(bareMessage, count); });
 }
-BENCHMARK(relay)->Name("Relay")->Arg(1 << 10)->Arg(1 << 16)->Arg(1 << 20)->UseRealTime();
-
-void relayBareSockets(benchmark::State& state) {
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    QTcpSocket sender;
-    QTcpSocket receiver;
-    for (QTcpSocket* socket : {&sender, &receiver}) {
-        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        socket->connectToHost(QHostAddress::LocalHost, server.serverPort());
-        processEventsUntil([&] { return socket->state() == QAbstractSocket::ConnectedState; });
-    }
-    processEventsUntil([&] { return server.hasPendingConnections(); });
-    QTcpSocket* in = server.nextPendingConnection();
-    processEventsUntil([&] { return server.hasPendingConnections(); });
-    QTcpSocket* out = server.nextPendingConnection();
-    QObject::connect(in, &QTcpSocket::readyRead, [=] { out->write(in->readAll()); });
-
-    int64_t received = 0;
-    QObject::connect(&receiver, &QTcpSocket::readyRead,
-                     [&] { received += receiver.readAll().size(); });
-    const QByteArray message(static_cast<qsizetype>(state.range(0)), '\x5A');
-    const int64_t count = messagesPerRound(state.range(0));
-    for (auto _ : state) {
-        received = 0;
-        for (int64_t i = 0; i < count; ++i) {
-            sender.write(message.constData(), message.size());
-        }
-        processEventsUntil([&] { return received == count * state.range(0); });
-    }
-    state.SetBytesProcessed(state.iterations() * count * state.range(0));
-}
-BENCHMARK(relayBareSockets)
-    ->Name("RelayBareSockets")
+BENCHMARK(relay)
+    ->Name("Relay")
     ->Arg(1 << 10)
     ->Arg(1 << 16)
     ->Arg(1 << 20)
-    ->UseRealTime();
+    ->UseManualTime()
+    ->Iterations(200);
 
 void parseFrames(benchmark::State& state) {
     constexpr size_t kPayloadSize = 64;
@@ -124,12 +150,3 @@ BENCHMARK(parseFrames)->Name("ParseFrames")->Arg(10)->Arg(100)->Arg(1000);
 
 } // namespace
 } // namespace corvane
-
-int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-    spdlog::set_level(spdlog::level::err);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
