@@ -1,14 +1,12 @@
 #include "AV1Decoder.h"
 
-#include "SharedLoop.h"
-
 #include <dav1d/dav1d.h>
 #include <spdlog/spdlog.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <utility>
 
 namespace corvane {
 
@@ -18,10 +16,6 @@ constexpr int kTryAgain = DAV1D_ERR(EAGAIN);
 
 /// No screen is larger; a packet that claims more must not make us allocate it.
 constexpr unsigned kMaximumPixels = 16384U * 16384U;
-
-/// Rows that are copied at a time: even, large enough to be worth handing out, and small enough
-/// that neither thread waits long for the other's last ones.
-constexpr int kBandRows = 64;
 
 /// A packet on its way into the library. Whatever the library did not take is released.
 struct PacketData {
@@ -33,6 +27,7 @@ struct PacketData {
     ~PacketData() { dav1d_data_unref(&data); }
 };
 
+/// A reference to one of the library's pictures, which others may hold as well.
 struct Picture {
     Dav1dPicture picture{};
 
@@ -42,28 +37,21 @@ struct Picture {
     ~Picture() { dav1d_picture_unref(&picture); }
 };
 
-/// Some rows of a picture's luma plane, or of its chroma planes.
-struct Rows {
-    size_t first;
-    size_t count;
-};
-
-void copyLuma(const Dav1dPicture& picture, Rows rows, DecodedFrame& frame) {
-    const auto width = static_cast<size_t>(frame.width);
-    const ptrdiff_t stride = picture.stride[0];
-    const auto* source =
-        static_cast<const uint8_t*>(picture.data[0]) + static_cast<ptrdiff_t>(rows.first) * stride;
-    uint8_t* target = frame.yPlane.data() + rows.first * width;
-    if (stride == static_cast<ptrdiff_t>(width)) {
-        // One large copy moves common screen widths faster than many short ones.
-        std::memcpy(target, source, rows.count * width);
-        return;
+/// The luma plane without padding: the picture's own memory if its rows have none, or a copy.
+PlaneBytes lumaOf(std::shared_ptr<const Picture> owner) {
+    const Dav1dPicture& picture = owner->picture;
+    const auto* source = static_cast<const uint8_t*>(picture.data[0]);
+    const auto width = static_cast<size_t>(picture.p.w);
+    const auto height = static_cast<size_t>(picture.p.h);
+    if (picture.stride[0] == picture.p.w) {
+        return {std::shared_ptr<const uint8_t>(std::move(owner), source), width * height};
     }
-    for (size_t row = 0; row < rows.count; ++row) {
-        std::memcpy(target, source, width);
-        source += stride;
-        target += width;
+    ByteVector luma(width * height);
+    for (size_t row = 0; row < height; ++row) {
+        std::memcpy(luma.data() + row * width, source, width);
+        source += picture.stride[0];
     }
+    return luma;
 }
 
 void interleaveRow(const uint8_t* __restrict cb, const uint8_t* __restrict cr, size_t pairs,
@@ -74,43 +62,36 @@ void interleaveRow(const uint8_t* __restrict cb, const uint8_t* __restrict cr, s
     }
 }
 
-void copyChroma(const Dav1dPicture& picture, Rows rows, DecodedFrame& frame) {
-    const auto width = static_cast<size_t>(frame.width);
-    const ptrdiff_t stride = picture.stride[1];
-    const ptrdiff_t offset = static_cast<ptrdiff_t>(rows.first) * stride;
-    const auto* cb = static_cast<const uint8_t*>(picture.data[1]) + offset;
-    const auto* cr = static_cast<const uint8_t*>(picture.data[2]) + offset;
-    uint8_t* target = frame.uvPlane.data() + rows.first * width;
-    for (size_t row = 0; row < rows.count; ++row) {
+ByteVector chromaOf(const Dav1dPicture& picture) {
+    const auto width = static_cast<size_t>(picture.p.w);
+    const auto height = static_cast<size_t>(picture.p.h) / 2;
+    const auto* cb = static_cast<const uint8_t*>(picture.data[1]);
+    const auto* cr = static_cast<const uint8_t*>(picture.data[2]);
+    ByteVector chroma(width * height);
+    uint8_t* target = chroma.data();
+    for (size_t row = 0; row < height; ++row) {
         interleaveRow(cb, cr, width / 2, target);
         if (width % 2 != 0) {
             target[width - 1] = 0;
         }
-        cb += stride;
-        cr += stride;
+        cb += picture.stride[1];
+        cr += picture.stride[1];
         target += width;
     }
+    return chroma;
 }
 
-std::unique_ptr<DecodedFrame> frameOf(const Dav1dPicture& picture, uint64_t timestamp,
-                                      SharedLoop& copying) {
+std::unique_ptr<DecodedFrame> frameOf(const std::shared_ptr<const Picture>& output,
+                                      uint64_t timestamp) {
+    const Dav1dPicture& picture = output->picture;
     auto frame = std::make_unique<DecodedFrame>();
+    frame->yPlane = lumaOf(output);
+    frame->uvPlane = chromaOf(picture);
     frame->width = picture.p.w;
     frame->height = picture.p.h;
     frame->yStride = picture.p.w;
     frame->uvStride = picture.p.w;
     frame->timestamp = timestamp;
-    const auto width = static_cast<size_t>(frame->width);
-    const auto height = static_cast<size_t>(frame->height);
-    frame->yPlane.resize(height * width);
-    frame->uvPlane.resize(height / 2 * width);
-    const int bands = (frame->height + kBandRows - 1) / kBandRows;
-    copying.run(bands, [&](int band) {
-        const size_t top = static_cast<size_t>(band) * kBandRows;
-        const size_t bottom = std::min(top + kBandRows, height);
-        copyLuma(picture, {top, bottom - top}, *frame);
-        copyChroma(picture, {top / 2, bottom / 2 - top / 2}, *frame);
-    });
     return frame;
 }
 
@@ -139,7 +120,6 @@ bool AV1Decoder::initialize(int width, int height) {
         spdlog::error("AV1Decoder: dav1d_open failed (error {})", result);
         return false;
     }
-    m_copying = std::make_unique<SharedLoop>();
     m_initialized = true;
     spdlog::info("AV1Decoder: initialized using dav1d (expected {}x{})", m_expectedWidth,
                  m_expectedHeight);
@@ -150,7 +130,6 @@ void AV1Decoder::shutdown() {
     if (m_context != nullptr) {
         dav1d_close(&m_context);
     }
-    m_copying.reset();
     m_initialized = false;
 }
 
@@ -168,9 +147,9 @@ std::unique_ptr<DecodedFrame> AV1Decoder::decode(const uint8_t* data, size_t siz
         return nullptr;
     }
 
-    Picture output;
-    const Dav1dPicture& picture = output.picture;
-    const int result = dav1d_get_picture(m_context, &output.picture);
+    const auto output = std::make_shared<Picture>();
+    const Dav1dPicture& picture = output->picture;
+    const int result = dav1d_get_picture(m_context, &output->picture);
     if (result == kTryAgain) {
         spdlog::debug("AV1Decoder: decoder needs more data (EAGAIN)");
         return nullptr;
@@ -184,7 +163,7 @@ std::unique_ptr<DecodedFrame> AV1Decoder::decode(const uint8_t* data, size_t siz
                       static_cast<int>(picture.p.layout), picture.p.bpc);
         return nullptr;
     }
-    auto frame = frameOf(picture, timestamp, *m_copying);
+    auto frame = frameOf(output, timestamp);
     spdlog::trace("AV1Decoder: decoded frame {}x{} ({} + {} bytes)", frame->width, frame->height,
                   frame->yPlane.size(), frame->uvPlane.size());
     return frame;

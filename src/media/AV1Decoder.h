@@ -6,10 +6,9 @@ struct Dav1dContext;
 
 namespace corvane {
 
-class SharedLoop;
-
-/// dav1d set for the lowest latency: each packet's picture comes out of the same call. Its
-/// planes are copied on the calling thread and a helper, as the library rests by then.
+/// dav1d set for the lowest latency: each packet's picture comes out of the same call. A frame
+/// keeps the library's picture for its luma plane where the rows have no padding, and may outlive
+/// the decoder.
 class AV1Decoder : public IVideoDecoder {
 public:
     AV1Decoder();
@@ -33,7 +32,6 @@ private:
     int m_expectedWidth = 0;
     int m_expectedHeight = 0;
     bool m_initialized = false;
-    std::unique_ptr<SharedLoop> m_copying; ///< while initialised
 };
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ByteVector.h"
+#include "PlaneBytes.h"
 
 #include <QMetaType>
 
@@ -11,7 +12,7 @@ namespace corvane {
 
 /// One full-range NV12 picture without row padding.
 struct DecodedFrame {
-    ByteVector yPlane;   ///< `height` rows of `yStride` bytes
+    PlaneBytes yPlane;   ///< `height` rows of `yStride` bytes
     ByteVector uvPlane;  ///< `height / 2` rows of `uvStride` bytes, Cb at even positions, Cr at odd
     int32_t width = 0;   ///< pixels
     int32_t height = 0;  ///< pixels

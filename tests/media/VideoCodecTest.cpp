@@ -20,7 +20,8 @@ ByteVector sceneNv12(int width, int height, int step) {
     return nv12;
 }
 
-double psnr(const uint8_t* expected, const ByteVector& actual) {
+template <typename Bytes>
+double psnr(const uint8_t* expected, const Bytes& actual) {
     double squares = 0;
     for (size_t i = 0; i < actual.size(); ++i) {
         squares += std::pow(double{1} * expected[i] - actual[i], 2);
@@ -63,7 +64,7 @@ TEST_F(VideoCodecTest, SpeedPresetsMapToLibrarySpeeds) {
 }
 
 TEST_F(VideoCodecTest, RoundTripKeepsThePicture) {
-    for (const auto& [width, height] : {std::pair{320, 180}, {64, 64}}) {
+    for (const auto& [width, height] : {std::pair{320, 180}, {64, 64}, {256, 144}}) {
         SCOPED_TRACE(::testing::Message() << width << "x" << height);
         ASSERT_TRUE(encoder.initialize(configFor(width, height)));
         ASSERT_TRUE(decoder.initialize(0, 0));
@@ -84,6 +85,24 @@ TEST_F(VideoCodecTest, RoundTripKeepsThePicture) {
             EXPECT_GT(psnr(sent.data(), frame->yPlane), 30);
             EXPECT_GT(psnr(sent.data() + lumaSize, frame->uvPlane), 32);
         }
+    }
+}
+
+TEST_F(VideoCodecTest, FramesStayAsTheyAreWhenTheDecoderGoesOnAndEnds) {
+    // 256 wide, a picture has no padding and the frame shares its luma plane with the library.
+    ASSERT_TRUE(encoder.initialize(configFor(256, 144)));
+    ASSERT_TRUE(decoder.initialize(0, 0));
+    std::vector<std::unique_ptr<DecodedFrame>> frames;
+    for (int step = 0; step < 12; ++step) {
+        frames.push_back(decode(encode(step)->data));
+        ASSERT_TRUE(frames.back());
+    }
+    decoder.shutdown();
+    for (int step = 0; step < 12; ++step) {
+        const ByteVector sent = sceneNv12(256, 144, step);
+        const DecodedFrame& frame = *frames[static_cast<size_t>(step)];
+        EXPECT_GT(psnr(sent.data(), frame.yPlane), 30) << step;
+        EXPECT_GT(psnr(sent.data() + 256 * 144, frame.uvPlane), 32) << step;
     }
 }
 

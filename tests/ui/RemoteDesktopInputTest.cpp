@@ -29,7 +29,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_view));
         auto frame = std::make_shared<DecodedFrame>();
         frame->width = frame->height = frame->yStride = frame->uvStride = 16;
-        frame->yPlane.resize(256);
+        frame->yPlane = ByteVector(256);
         frame->uvPlane.resize(128);
         m_view.updateFrame(frame);
         m_view.grabFramebuffer();

@@ -32,13 +32,13 @@ std::shared_ptr<DecodedFrame> quarters(QSize size, int yStride, int uvStride) {
     frame->height = size.height();
     frame->yStride = yStride;
     frame->uvStride = uvStride;
-    frame->yPlane.assign(static_cast<size_t>(yStride * size.height()), 0);
+    ByteVector luma(static_cast<size_t>(yStride * size.height()), 0);
     frame->uvPlane.assign(static_cast<size_t>(uvStride * (size.height() / 2)), 0);
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
             const int quarter = (y * 2 >= size.height()) * 2 + (x * 2 >= size.width());
             const Ink& ink = kInks[static_cast<size_t>(quarter)];
-            frame->yPlane[static_cast<size_t>(y * yStride + x)] = ink.y;
+            luma[static_cast<size_t>(y * yStride + x)] = ink.y;
             if (x / 2 < size.width() / 2 && y / 2 < size.height() / 2) {
                 const auto at = static_cast<size_t>(y / 2 * uvStride + x / 2 * 2);
                 frame->uvPlane[at] = ink.u;
@@ -46,6 +46,7 @@ std::shared_ptr<DecodedFrame> quarters(QSize size, int yStride, int uvStride) {
             }
         }
     }
+    frame->yPlane = std::move(luma);
     return frame;
 }
 
