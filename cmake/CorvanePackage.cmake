@@ -1,14 +1,14 @@
-# corvane_add_package(<target>)
+# corvane_add_package(<program> <library>)
 #
-# The target `package`: a folder that runs on a Windows machine with nothing else installed, and a
-# zip of it. For cross-builds with MinGW-w64.
-function(corvane_add_package target)
+# The target `package`: a folder with the program and the library that it loads, which runs on a
+# Windows machine with nothing else installed, and a zip of it. For cross-builds with MinGW-w64.
+function(corvane_add_package program library)
     if(NOT MINGW OR NOT CMAKE_CROSSCOMPILING)
         return()
     endif()
     set(runtime_folders "${CORVANE_WIN64_PREFIX}/bin")
-    foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${library}"
+    foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${name}"
             OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
         cmake_path(GET path PARENT_PATH folder)
         cmake_path(NORMAL_PATH folder)
@@ -22,7 +22,8 @@ function(corvane_add_package target)
     set(name "Corvane-${PROJECT_VERSION}-windows-x64")
     add_custom_target(package
         COMMAND "${CMAKE_COMMAND}"
-            "-DPROGRAM=$<TARGET_FILE:${target}>"
+            "-DPROGRAM=$<TARGET_FILE:${program}>"
+            "-DLIBRARY=$<TARGET_FILE:${library}>"
             "-DPACKAGE=${CMAKE_BINARY_DIR}/package/${name}"
             "-DPREFIX=${CORVANE_WIN64_PREFIX}"
             "-DRUNTIME_FOLDERS=${runtime_folders}"
@@ -31,7 +32,7 @@ function(corvane_add_package target)
             "-DSTRIP=${CMAKE_STRIP}"
             "-DLICENCE=${CMAKE_SOURCE_DIR}/LICENSE"
             -P "${CMAKE_SOURCE_DIR}/cmake/PackageWindows.cmake"
-        DEPENDS ${target}
+        DEPENDS ${program} ${library}
         COMMENT "Packaging ${name}"
         VERBATIM
     )

@@ -1,6 +1,7 @@
-# Fills PACKAGE with PROGRAM and everything it needs beside it, and zips the folder.
+# Fills PACKAGE with PROGRAM, the LIBRARY it loads and everything they need beside them, and zips the
+# folder.
 #
-# Which DLLs those are follows from the import tables of the program and of its plugins: one that
+# Which DLLs those are follows from the import tables of both and of the plugins: one that
 # lies in RUNTIME_FOLDERS is shipped, any other must be one of Windows itself, for which
 # SYSTEM_FOLDER has an import library, or one of its API sets. Every library shipped brings its
 # licence.
@@ -104,6 +105,8 @@ endfunction()
 function(ship_licences)
     configure_file("${LICENCE}" "${PACKAGE}/licences/Corvane.txt" COPYONLY)
     file(GLOB_RECURSE libraries "${PACKAGE}/*.dll")
+    cmake_path(GET LIBRARY FILENAME own)
+    list(REMOVE_ITEM libraries "${PACKAGE}/${own}")
     foreach(library IN LISTS libraries)
         ship_licence_of("${library}")
     endforeach()
@@ -118,8 +121,8 @@ function(ship_licences)
 endfunction()
 
 file(REMOVE_RECURSE "${PACKAGE}" "${PACKAGE}.zip")
-file(COPY "${PROGRAM}" DESTINATION "${PACKAGE}")
-set(roots "${PROGRAM}")
+file(COPY "${PROGRAM}" "${LIBRARY}" DESTINATION "${PACKAGE}")
+set(roots "${PROGRAM}" "${LIBRARY}")
 foreach(plugin IN LISTS plugins)
     cmake_path(GET plugin PARENT_PATH kind)
     file(COPY "${PREFIX}/plugins/${plugin}" DESTINATION "${PACKAGE}/plugins/${kind}")

@@ -18,6 +18,6 @@ exec {display}< <(exec Xvfb -displayfd 1 -screen 0 1280x720x24 -nolisten tcp -no
 xvfb=$!
 read -r number <&"$display"
 export DISPLAY=:$number
-# A server that stays makes each further program start at once.
-wineserver --persistent
+# A server that stays makes each further program start at once. At its end it lists its own objects.
+wineserver --persistent 2>/dev/null
 "$@"

@@ -14,13 +14,6 @@ constexpr int kToolTimeoutMs = 120'000; // the first prefix takes its time
 const auto kBuild = QStringLiteral(CORVANE_WINDOWS_BUILD);
 const auto kPrefixScript = QStringLiteral(CORVANE_SCRIPTS "/wine-prefix.sh");
 
-/// The folder of the packaged program; empty when there is none.
-QString packageFolder() {
-    const QDir packages(kBuild + QStringLiteral("/package"));
-    const QStringList found = packages.entryList({QStringLiteral("Corvane-*")}, QDir::Dirs);
-    return found.isEmpty() ? QString() : packages.filePath(found.first());
-}
-
 QString windowsPath(const QString& path) {
     return QStringLiteral("Z:") + QString(path).replace(u'/', u'\\');
 }
@@ -37,8 +30,8 @@ std::pair<QString, QString> registryValue(const QString& setting) {
 
 } // namespace
 
-WineHost::WineHost(const QString& home, const QString& display)
-    : m_prefix(home + QStringLiteral("/wine")),
+WineHost::WineHost(const QString& home, const QString& display, const QString& package)
+    : m_prefix(home + QStringLiteral("/wine")), m_package(package),
       m_environment(QProcessEnvironment::systemEnvironment()) {
     m_environment.insert(QStringLiteral("HOME"), home);
     m_environment.insert(QStringLiteral("DISPLAY"), display);
@@ -60,16 +53,21 @@ QString WineHost::obstacle() {
                : QString();
 }
 
+QString WineHost::packageFolder() {
+    const QDir packages(kBuild + QStringLiteral("/package"));
+    const QStringList found = packages.entryList({QStringLiteral("Corvane-*")}, QDir::Dirs);
+    return found.isEmpty() ? QString() : packages.filePath(found.first());
+}
+
 void WineHost::prepare(QProcess& process, Program program, const QStringList& arguments) const {
-    const QString package = packageFolder();
     auto environment = m_environment;
-    QStringList command{package + QStringLiteral("/CorvaneClient.exe")};
+    QStringList command{m_package + QStringLiteral("/CorvaneClient.exe")};
     if (program == Program::DemoDesktop) {
         // Is not in the package, but lives on its libraries.
-        environment.insert(QStringLiteral("WINEPATH"), windowsPath(package));
+        environment.insert(QStringLiteral("WINEPATH"), windowsPath(m_package));
         command = {kBuild + QStringLiteral("/tools/demodesktop/corvane-demo-desktop.exe"),
                    QStringLiteral("-platformpluginpath"),
-                   windowsPath(package + QStringLiteral("/plugins/platforms"))};
+                   windowsPath(m_package + QStringLiteral("/plugins/platforms"))};
     }
     // Programs that start at the same time would race for who starts the server.
     run(QStringLiteral("wineserver"), {QStringLiteral("--persistent=30")});

@@ -9,13 +9,17 @@ namespace corvane::harness {
 /// A user of Windows: the packaged program of the Windows build under Wine, in a prefix of its own.
 class WineHost : public IHost {
 public:
-    WineHost(const QString& home, const QString& display);
+    /// `package` is the folder of the program.
+    WineHost(const QString& home, const QString& display, const QString& package = packageFolder());
 
     /// Ends everything that runs in the prefix.
     ~WineHost() override;
 
     /// Why no Windows program can run here; empty when one can.
     static QString obstacle();
+
+    /// Of the Windows build that goes with this one; empty when there is none.
+    static QString packageFolder();
 
     void prepare(QProcess& process, Program program, const QStringList& arguments) const override;
     void requestEnd(QProcess& process) const override;
@@ -27,6 +31,7 @@ private:
     QByteArray run(const QString& program, const QStringList& arguments) const;
 
     const QString m_prefix;
+    const QString m_package;
     QProcessEnvironment m_environment;
 };
 

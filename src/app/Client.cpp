@@ -1,3 +1,5 @@
+#include "Client.h"
+
 #include "ApiClient.h"
 #include "ApplicationIcon.h"
 #include "AuthController.h"
@@ -29,9 +31,9 @@
 
 #include <cstdlib>
 
-namespace {
+namespace corvane {
 
-using namespace corvane;
+namespace {
 
 int exitCode(bool success) {
     return success ? EXIT_SUCCESS : EXIT_FAILURE;
@@ -61,7 +63,7 @@ void connectUpdates(AuthController& auth, MainWindow& window, UpdateService& upd
 
 } // namespace
 
-int main(int argc, char** argv) {
+int runClient(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("CorvaneClient"));
     QApplication::setOrganizationName(QStringLiteral("Corvane"));
@@ -123,3 +125,5 @@ int main(int argc, char** argv) {
     auth.start();
     return QApplication::exec();
 }
+
+} // namespace corvane

@@ -1,0 +1,5 @@
+#include "Client.h"
+
+int main(int argc, char** argv) {
+    return corvane::runClient(argc, argv);
+}
