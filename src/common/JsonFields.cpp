@@ -20,6 +20,10 @@ std::optional<QString> jsonString(const nlohmann::json& json, std::string_view k
     return QString::fromStdString(field->get_ref<const std::string&>());
 }
 
+QString jsonStringOrEmpty(const nlohmann::json& json, std::string_view key) {
+    return jsonString(json, key).value_or(QString());
+}
+
 std::string jsonText(const nlohmann::json& json) {
     return json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }

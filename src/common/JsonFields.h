@@ -13,6 +13,9 @@ namespace corvane {
 /// is not a string. Never throws.
 std::optional<QString> jsonString(const nlohmann::json& json, std::string_view key);
 
+/// The same, or an empty string.
+QString jsonStringOrEmpty(const nlohmann::json& json, std::string_view key);
+
 /// Compact text with sorted keys. Bytes that are not UTF-8 are replaced rather than reported.
 std::string jsonText(const nlohmann::json& json);
 

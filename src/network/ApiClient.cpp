@@ -3,7 +3,9 @@
 #include "DeploymentConstants.h"
 #include "JsonFields.h"
 
+#include <QEventLoop>
 #include <QNetworkReply>
+#include <QTimer>
 #include <spdlog/spdlog.h>
 
 #include <utility>
@@ -14,6 +16,7 @@ namespace {
 
 constexpr int kStatusOk = 200;
 constexpr qint64 kMaxAnswerBytes = 4 * 1024 * 1024;
+constexpr std::chrono::seconds kFarewellLimit{1};
 
 void put(nlohmann::json& body, const char* key, const QString& value) {
     body[key] = value.toStdString();
@@ -49,6 +52,17 @@ nlohmann::json parsedBody(const QByteArray& body) {
 
 ApiClient::ApiClient(QObject* parent, std::chrono::milliseconds silenceLimit)
     : QObject(parent), m_silenceLimit(silenceLimit) {}
+
+ApiClient::~ApiClient() {
+    // A request starts with the event loop's next round, which at the process's end would not come.
+    if (m_closure && m_closure->isRunning()) {
+        QEventLoop waiting;
+        m_closure->disconnect(this);
+        connect(m_closure, &QNetworkReply::finished, &waiting, &QEventLoop::quit);
+        QTimer::singleShot(kFarewellLimit, &waiting, &QEventLoop::quit);
+        waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+}
 
 void ApiClient::autoLogin(const QString& clientId, const QString& deviceSecret) {
     auto body = nlohmann::json::object();
@@ -109,13 +123,22 @@ void ApiClient::createSession(const QString& targetClientId, const QString& sess
     putUnlessEmpty(body, "purpose", purpose);
     putUnlessEmpty(body, "master_ecdh_public_key", masterEcdhPublicKey);
     const auto path = QStringLiteral("/sessions/create");
-    post(path, body, Authorization::Bearer, [this, path](int status, const nlohmann::json& answer) {
-        if (status == kStatusOk) {
-            Q_EMIT sessionCreated(answer);
-        } else {
-            Q_EMIT requestError(path, status, detailOf(answer, tr("Session creation failed")));
-        }
-    });
+    m_creation = post(
+        path, body, Authorization::Bearer, [this, path](int status, const nlohmann::json& answer) {
+            if (status == kStatusOk) {
+                Q_EMIT sessionCreated(answer);
+            } else {
+                Q_EMIT requestError(path, status, detailOf(answer, tr("Session creation failed")));
+            }
+        });
+}
+
+void ApiClient::abandonSessionCreation() {
+    if (m_creation && m_creation->isRunning()) {
+        m_creation->disconnect(this);
+        m_creation->abort();
+        m_creation->deleteLater();
+    }
 }
 
 void ApiClient::handshakeAck(const QString& sessionId, const QString& targetEcdhPublicKey,
@@ -145,8 +168,9 @@ void ApiClient::closeSession(const QString& sessionId, const QString& reason,
     auto body = nlohmann::json::object();
     body["transferred_bytes"] = transferredBytes;
     putUnlessEmpty(body, "reason", reason);
-    patch(sessionPath(sessionId, QStringLiteral("/close")), body,
-          sessionUpdateHandler(QStringLiteral("/sessions/.../close"), tr("Session close failed")));
+    m_closure = patch(
+        sessionPath(sessionId, QStringLiteral("/close")), body,
+        sessionUpdateHandler(QStringLiteral("/sessions/.../close"), tr("Session close failed")));
 }
 
 ApiClient::AnswerHandler ApiClient::sessionUpdateHandler(const QString& endpoint,
@@ -178,8 +202,8 @@ void ApiClient::sendHeartbeat(const QString& localIp, const QString& publicIp,
          });
 }
 
-void ApiClient::post(const QString& path, const nlohmann::json& body, Authorization authorization,
-                     AnswerHandler handler) {
+QNetworkReply* ApiClient::post(const QString& path, const nlohmann::json& body,
+                               Authorization authorization, AnswerHandler handler) {
     QNetworkReply* reply =
         m_network.post(request(path, authorization), QByteArray::fromStdString(jsonText(body)));
     connect(reply, &QNetworkReply::finished, this, [reply] {
@@ -190,12 +214,15 @@ void ApiClient::post(const QString& path, const nlohmann::json& body, Authorizat
         }
     });
     awaitAnswer(reply, std::move(handler));
+    return reply;
 }
 
-void ApiClient::patch(const QString& path, const nlohmann::json& body, AnswerHandler handler) {
-    awaitAnswer(m_network.sendCustomRequest(request(path, Authorization::Bearer), "PATCH",
-                                            QByteArray::fromStdString(jsonText(body))),
-                std::move(handler));
+QNetworkReply* ApiClient::patch(const QString& path, const nlohmann::json& body,
+                                AnswerHandler handler) {
+    QNetworkReply* reply = m_network.sendCustomRequest(
+        request(path, Authorization::Bearer), "PATCH", QByteArray::fromStdString(jsonText(body)));
+    awaitAnswer(reply, std::move(handler));
+    return reply;
 }
 
 QNetworkRequest ApiClient::request(const QString& path, Authorization authorization) const {

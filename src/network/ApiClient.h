@@ -4,6 +4,7 @@
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QUrl>
 #include <nlohmann/json.hpp>
@@ -27,6 +28,10 @@ public:
     explicit ApiClient(QObject* parent = nullptr,
                        std::chrono::milliseconds silenceLimit = std::chrono::seconds(30));
 
+    /// Waits a second at most for the server to take the close requests that are under way, with
+    /// the event loop running.
+    ~ApiClient() override;
+
     /// Scheme, host and port of the server; a path in it is ignored.
     QUrl serverUrl() const { return m_serverUrl; }
     void setServerUrl(const QUrl& url) { m_serverUrl = url; }
@@ -49,6 +54,9 @@ public:
     /// Answered by `sessionCreated` or `requestError`.
     void createSession(const QString& targetClientId, const QString& sessionPassword,
                        const QString& purpose, const QString& masterEcdhPublicKey);
+
+    /// The last `createSession`, if it is not answered yet, will not be: the answer goes unheard.
+    void abandonSessionCreation();
 
     /// The calls below are answered by `sessionUpdated` or `requestError`.
     void handshakeAck(const QString& sessionId, const QString& targetEcdhPublicKey,
@@ -77,9 +85,9 @@ private:
     enum class Authorization { None, Bearer };
     using AnswerHandler = std::function<void(int status, const nlohmann::json& answer)>;
 
-    void post(const QString& path, const nlohmann::json& body, Authorization authorization,
-              AnswerHandler handler);
-    void patch(const QString& path, const nlohmann::json& body, AnswerHandler handler);
+    QNetworkReply* post(const QString& path, const nlohmann::json& body,
+                        Authorization authorization, AnswerHandler handler);
+    QNetworkReply* patch(const QString& path, const nlohmann::json& body, AnswerHandler handler);
     QNetworkRequest request(const QString& path, Authorization authorization) const;
     void awaitAnswer(QNetworkReply* reply, AnswerHandler handler);
 
@@ -91,6 +99,8 @@ private:
     QNetworkAccessManager m_network;
     QString m_token;
     QString m_clientId;
+    QPointer<QNetworkReply> m_creation; ///< of the last session asked for
+    QPointer<QNetworkReply> m_closure;  ///< of the last session closed
     std::chrono::milliseconds m_silenceLimit;
 };
 

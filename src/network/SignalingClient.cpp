@@ -26,10 +26,6 @@ QUrl webSocketUrl(const QUrl& serverUrl, const QString& clientId) {
     return url;
 }
 
-QString field(const nlohmann::json& message, std::string_view key) {
-    return jsonString(message, key).value_or(QString());
-}
-
 } // namespace
 
 SignalingClient::SignalingClient(QObject* parent, std::chrono::milliseconds handshakeTimeout)
@@ -162,42 +158,48 @@ void SignalingClient::dispatch(const nlohmann::json& message) {
          }},
         {"SESSION_HANDSHAKE_REQUEST",
          [](SignalingClient& client, const nlohmann::json& m) {
-             Q_EMIT client.sessionHandshakeRequest(
-                 field(m, "session_id"), field(m, "master_client_id"), field(m, "purpose"));
+             Q_EMIT client.sessionHandshakeRequest(jsonStringOrEmpty(m, "session_id"),
+                                                   jsonStringOrEmpty(m, "master_client_id"),
+                                                   jsonStringOrEmpty(m, "purpose"));
          }},
         {"SESSION_AUTO_ACCEPT",
          [](SignalingClient& client, const nlohmann::json& m) {
-             const QString session = field(m, "session_id");
-             const QString master = field(m, "master_client_id");
+             const QString session = jsonStringOrEmpty(m, "session_id");
+             const QString master = jsonStringOrEmpty(m, "master_client_id");
              spdlog::info("Session auto-accepted: {} from {}", session.toStdString(),
                           master.toStdString());
-             Q_EMIT client.sessionAutoAccept(session, master, field(m, "master_ecdh_public_key"));
+             Q_EMIT client.sessionAutoAccept(session, master,
+                                             jsonStringOrEmpty(m, "master_ecdh_public_key"));
          }},
         {"SESSION_HANDSHAKE_ACK",
          [](SignalingClient& client, const nlohmann::json& m) {
-             const QString session = field(m, "session_id");
-             const QString state = field(m, "state");
+             const QString session = jsonStringOrEmpty(m, "session_id");
+             const QString state = jsonStringOrEmpty(m, "state");
              spdlog::info("Session handshake ACK: {} state={}", session.toStdString(),
                           state.toStdString());
-             Q_EMIT client.sessionHandshakeAck(session, state, field(m, "target_ecdh_public_key"));
+             Q_EMIT client.sessionHandshakeAck(session, state,
+                                               jsonStringOrEmpty(m, "target_ecdh_public_key"));
          }},
         {"ICE_OFFER",
          [](SignalingClient& client, const nlohmann::json& m) {
-             Q_EMIT client.iceOffer(field(m, "session_id"), field(m, "from_client_id"),
-                                    field(m, "sdp"));
+             Q_EMIT client.iceOffer(jsonStringOrEmpty(m, "session_id"),
+                                    jsonStringOrEmpty(m, "from_client_id"),
+                                    jsonStringOrEmpty(m, "sdp"));
          }},
         {"ICE_ANSWER",
          [](SignalingClient& client, const nlohmann::json& m) {
-             Q_EMIT client.iceAnswer(field(m, "session_id"), field(m, "from_client_id"),
-                                     field(m, "sdp"));
+             Q_EMIT client.iceAnswer(jsonStringOrEmpty(m, "session_id"),
+                                     jsonStringOrEmpty(m, "from_client_id"),
+                                     jsonStringOrEmpty(m, "sdp"));
          }},
         {"ICE_CANDIDATE",
          [](SignalingClient& client, const nlohmann::json& m) {
-             Q_EMIT client.iceCandidate(field(m, "session_id"), field(m, "from_client_id"),
-                                        field(m, "candidate"), field(m, "mid"));
+             Q_EMIT client.iceCandidate(
+                 jsonStringOrEmpty(m, "session_id"), jsonStringOrEmpty(m, "from_client_id"),
+                 jsonStringOrEmpty(m, "candidate"), jsonStringOrEmpty(m, "mid"));
          }},
     }};
-    const std::string type = field(message, "type").toStdString();
+    const std::string type = jsonStringOrEmpty(message, "type").toStdString();
     for (const auto& [name, action] : kActions) {
         if (name == type) {
             action(*this, message);

@@ -17,9 +17,10 @@ namespace corvane {
 
 namespace {
 
-/// The endpoint of the close request in the REST client's error reports.
+/// Requests in the REST client's error reports whose sender has got beyond what they may fail:
+/// the session is connected, or has ended.
+constexpr auto kCompleteEndpoint = "/sessions/.../complete";
 constexpr auto kCloseEndpoint = "/sessions/.../close";
-constexpr auto kCreateEndpoint = "/sessions/create";
 
 bool isIdle(SessionState state) {
     return state == SessionState::Idle || state == SessionState::Failed;
@@ -94,14 +95,12 @@ void SessionManager::initiateSession(const QString& targetClientId, const QStrin
     if (!createKeyExchange()) {
         return;
     }
-    m_creations.sent();
     m_api->createSession(targetClientId, password, QStringLiteral("remote_desktop"),
                          QString::fromStdString(m_keyExchange->publicKeyBase64()));
 }
 
 void SessionManager::onSessionCreated(const nlohmann::json& data) {
-    if (!m_creations.takeAnswer() || m_role != SessionRole::Master ||
-        m_state != SessionState::Initiating) {
+    if (m_role != SessionRole::Master || m_state != SessionState::Initiating) {
         return;
     }
     const auto sessionId = jsonString(data, "session_id");
@@ -183,7 +182,7 @@ void SessionManager::acceptSession(const QString& sessionId, const QString& mast
 }
 
 void SessionManager::onSessionUpdated(const nlohmann::json& data) {
-    const QString state = jsonString(data, "state").value_or(QString());
+    const QString state = jsonStringOrEmpty(data, "state");
     spdlog::info("Session updated: state={}", state.toStdString());
     const QString sessionId = jsonString(data, "session_id").value_or(m_sessionId);
     if (sessionId != m_sessionId) {
@@ -197,17 +196,14 @@ void SessionManager::onSessionUpdated(const nlohmann::json& data) {
         }
     } else if (state == u"closed" || state == u"failed") {
         spdlog::info("Session ended by server: {}", state.toStdString());
+        stopStreaming();
         cleanup();
         setState(state == u"failed" ? SessionState::Failed : SessionState::Idle);
     }
 }
 
 void SessionManager::onRequestError(const QString& endpoint, int, const QString& detail) {
-    // A close request belongs to a session that has already ended here.
-    if (endpoint == QLatin1String(kCloseEndpoint)) {
-        return;
-    }
-    if (endpoint == QLatin1String(kCreateEndpoint) && !m_creations.takeAnswer()) {
+    if (endpoint == QLatin1String(kCompleteEndpoint) || endpoint == QLatin1String(kCloseEndpoint)) {
         return;
     }
     switch (m_state) {
@@ -372,7 +368,7 @@ void SessionManager::cleanup() {
     spdlog::debug("Session cleanup");
     stopStreaming();
     ++m_generation;
-    m_creations.abandon();
+    m_api->abandonSessionCreation();
     m_earlyAck.reset();
     // Clean-up may run inside a signal of either object: cut them off now, delete them later.
     const auto retire = [this](auto& owner) {

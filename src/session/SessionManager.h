@@ -1,6 +1,5 @@
 #pragma once
 
-#include "CreationRequests.h"
 #include "DecodedFrame.h"
 #include "ITransport.h"
 #include "InputEvent.h"
@@ -126,7 +125,6 @@ private:
     QString m_transportMethod;
     /// Tells a queued end apart from the session that it was meant for.
     quint64 m_generation = 0;
-    CreationRequests m_creations;
     std::optional<HandshakeAck> m_earlyAck;
     QPointer<ConnectionQualityMonitor> m_qualityMonitor;
 

@@ -96,6 +96,9 @@ TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) 
     // A request of the system's ends the program and, on the way, the session.
     EXPECT_TRUE(m_live.target().stop());
     EXPECT_EQ(m_live.target().logLines(QStringLiteral("(reason: destructor_cleanup)")).size(), 1);
+    EXPECT_TRUE(waitFor(
+        [&] { return m_live.server().requests().last().body.contains("destructor_cleanup"); },
+        kPatience));
 }
 
 } // namespace

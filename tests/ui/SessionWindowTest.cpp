@@ -71,7 +71,8 @@ TEST_F(SessionWindowTest, FollowsAViewersSession) {
 TEST_F(SessionWindowTest, EndsTheSessionInsteadOfClosing) {
     // A server that no longer knows the session is nobody's concern.
     m_server.misbehaviour().setReply(u"/close"_s, {.status = 500});
-    ASSERT_NE(viewNewDevice(), nullptr);
+    const auto partner = viewNewDevice();
+    ASSERT_NE(partner, nullptr);
     EXPECT_FALSE(m_window.close());
     EXPECT_TRUE(m_window.isVisible());
     EXPECT_TRUE(is(SessionState::Idle));

@@ -1,5 +1,6 @@
 #include "ClientProcess.h"
 
+#include "WaitFor.h"
 #include "XvfbServer.h"
 
 #include <QFile>
@@ -9,7 +10,7 @@ namespace corvane::harness {
 namespace {
 
 constexpr int kStartTimeoutMs = 10'000;
-constexpr int kStopTimeoutMs = 20'000;
+constexpr std::chrono::seconds kStopTimeout{20};
 
 } // namespace
 
@@ -65,7 +66,8 @@ bool ClientProcess::stop() {
         return true;
     }
     m_host->requestEnd(m_process);
-    if (m_process.waitForFinished(kStopTimeoutMs)) {
+    // A server in this process has the client's last words to answer.
+    if (waitFor([this] { return m_process.state() == QProcess::NotRunning; }, kStopTimeout)) {
         return m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0;
     }
     m_process.kill();
