@@ -16,6 +16,8 @@ namespace {
 
 constexpr int kStunPort = 19302;
 constexpr uint16_t kTurnPort = 5349;
+/// What a message that waits costs besides its bytes, of which it may have none.
+constexpr size_t kMessageOverhead = 256;
 constexpr auto kTurnUser = "corvane";
 
 const char* labelOf(ChannelType type) {
@@ -292,7 +294,7 @@ void P2PTransport::Listener::watch(ChannelType type, rtc::DataChannel& channel) 
         }
         events->post([self = transport, type,
                       bytes = toByteArray(*binary)] { Q_EMIT self->dataReceived(type, bytes); },
-                     binary->size());
+                     binary->size() + kMessageOverhead);
     });
 }
 

@@ -155,9 +155,9 @@ void TransportManager::detach(ITransport* transport) {
     if (transport == nullptr) {
         return;
     }
-    QObject::disconnect(transport, nullptr, this, nullptr);
-    transport->disconnect();
+    // Whoever listens is done with it: its end is no news.
     QObject::disconnect(transport, nullptr, nullptr, nullptr);
+    transport->disconnect();
 }
 
 void TransportManager::DeferredDelete::operator()(ITransport* transport) const {
