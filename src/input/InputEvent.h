@@ -40,7 +40,7 @@ struct InputEvent {
     MouseButton button = MouseButton::Left;
     int16_t wheelDelta = 0; ///< 120 per notch, positive away from the user
     uint32_t keyCode = 0;   ///< Windows virtual key
-    uint32_t scanCode = 0;  ///< set-1 scan code, 0xE0xx when extended; 0 = none
+    uint32_t scanCode = 0;  ///< as in `NativeKey`
     bool extended = false;
 
     /// The wire record: 28 bytes for mouse types, 18 for key types, little-endian.

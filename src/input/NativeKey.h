@@ -7,7 +7,8 @@ namespace corvane {
 /// A key as the wire names it.
 struct NativeKey {
     uint32_t virtualKey = 0; ///< Windows virtual key, 0 = unknown
-    uint32_t scanCode = 0;   ///< set-1 scan code, 0xE0xx when extended; 0 = none
+    uint32_t scanCode =
+        0; ///< set-1 scan code; when extended 0xE0xx, or 0x1xx from Windows; 0 = none
 };
 
 /// Translates what Qt reports for a key event on this platform (`nativeVirtualKey`,

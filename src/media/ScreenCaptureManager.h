@@ -18,7 +18,7 @@ namespace corvane {
 
 /// Runs a capture backend on a thread of its own: paces it, delivers its frames and brings it back
 /// when it loses the screen. All operations belong to the owner's thread; they reach the capture
-/// thread through atomics only.
+/// thread through atomics and locks.
 class ScreenCaptureManager : public QObject {
     Q_OBJECT
 

@@ -12,7 +12,11 @@
 
 namespace corvane {
 
+namespace {
+
 constexpr size_t kLoggedCommandSize = 200;
+
+} // namespace
 
 /// Who takes a tag, from which size on (tag byte included), and what handles it.
 struct SessionDataPlane::ControlRoute {
@@ -105,7 +109,14 @@ void SessionDataPlane::sendInputEvent(const InputEvent& event) {
     if (m_role != SessionRole::Master || !m_link.isOpen()) {
         return;
     }
-    if (!sendControl(ControlTag::InputEvent, event.serialize())) {
+    ByteVector record;
+    try {
+        record = event.serialize();
+    } catch (const std::runtime_error& error) {
+        spdlog::warn("Failed to serialize input event: {}", error.what());
+        return;
+    }
+    if (!sendControl(ControlTag::InputEvent, record)) {
         spdlog::error("Failed to encrypt input event");
     }
 }

@@ -11,7 +11,7 @@ struct StreamingSettings {
     int encoderQuality = 45;        ///< 0 (best) to 51
     std::string encoderSpeed = "8"; ///< the encoder's speed setting, a number or a preset name
     int monitorIndex = 0;
-    bool clipboardSharing = false;
+    bool clipboardSharing = true;
 };
 
 } // namespace corvane

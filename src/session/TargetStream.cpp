@@ -6,7 +6,10 @@
 #include "ScreenCaptureManager.h"
 #include "SessionPlatform.h"
 
+#include <QScopeGuard>
 #include <spdlog/spdlog.h>
+
+#include <optional>
 
 namespace corvane {
 
@@ -103,9 +106,15 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
     if (!m_packets.waitForRoom()) {
         return;
     }
-    auto sealed = m_pipeline.process(frame);
-    if (frame.keyframeRequested) {
-        m_keyframeInMaking = false; // before the main thread can fail to send it and want another
+    std::optional<ByteVector> sealed;
+    {
+        // Before the main thread can fail to send it and want another; and where making it fails.
+        const auto made = qScopeGuard([&] {
+            if (frame.keyframeRequested) {
+                m_keyframeInMaking = false;
+            }
+        });
+        sealed = m_pipeline.process(frame);
     }
     if (!sealed) {
         return;

@@ -130,6 +130,7 @@ TEST_F(DataPlaneTest, OnlyTheTargetSwitchesMonitors) {
 TEST_P(DataPlaneTest, UnknownAndForeignMessagesAreDropped) {
     m_machine->canCapture = false; // the capture thread would log as well
     startAs(GetParam());
+    m_plane->setClipboardSharing(false);
     m_plane->setState(SessionState::Connected);
     for (const char* message : {"\x07", "\xff rubbish", "\x05", "\x04", "\x03"}) {
         receive(ChannelType::Control, bytes(message));
