@@ -84,7 +84,7 @@ QWidget* FileManagerDialog::createTransferButtons() {
 void FileManagerDialog::connectRunner() {
     connect(m_runner, &TransferRunner::batchStarted, this, [this] { m_status->showPercent(0); });
     connect(m_runner, &TransferRunner::statusChanged, this, &FileManagerDialog::showResult);
-    connect(m_runner, &TransferRunner::uploadStarting, this, [this] {
+    connect(m_runner, &TransferRunner::transferStarting, this, [this] {
         m_status->showPercent(0);
         repaint(); // all of it: a message box may just have uncovered it
     });
@@ -192,6 +192,9 @@ void FileManagerDialog::confirm(const QString& question, const QStringList& over
 void FileManagerDialog::onTransferError(const QString& error) {
     constexpr qsizetype kLongestError = 300;
     m_runner->transferFailed();
+    if (!m_runner->isRunning()) {
+        m_status->showPercent(0);
+    }
     showResult(tr("Error: %1").arg(shownOnOneLine(error, kLongestError)));
 }
 
@@ -206,6 +209,7 @@ void FileManagerDialog::onUploadComplete() {
 
 void FileManagerDialog::onServiceGone() {
     m_runner->stop();
+    m_status->showPercent(0);
     showResult(tr("The session has ended."));
 }
 

@@ -16,6 +16,7 @@
 #include "SessionSettings.h"
 #include "SettingsController.h"
 #include "SettingsDialog.h"
+#include "ShownNames.h"
 #include "SignalingClient.h"
 #include "SystemTrayIcon.h"
 #include "UiColors.h"
@@ -42,6 +43,7 @@ namespace {
 constexpr QSize kHomeMinimum(420, 600);
 constexpr QSize kViewerMinimum(800, 600);
 constexpr QSize kViewerLargest(1280, 720);
+constexpr auto kFillingTheScreen = Qt::WindowFullScreen | Qt::WindowMaximized;
 
 QString productTitle() {
     return QStringLiteral("Corvane - Remote Access");
@@ -96,6 +98,7 @@ MainWindow::MainWindow(AuthController* auth, ApiClient* api, SignalingClient* si
 }
 
 MainWindow::~MainWindow() {
+    m_viewer->stopViewing();
     m_session->setQualityMonitor(nullptr);
 }
 
@@ -260,9 +263,11 @@ void MainWindow::onSessionHandshakeRequest(const QString& sessionId, const QStri
     showNormal();
     activateWindow();
     raise();
+    constexpr qsizetype kLongestPurpose = 200;
     const QString text = tr("Client %1 wants to connect.\nPurpose: %2\n\nAccept?")
                              .arg(formatPartnerId(masterClientId),
-                                  purpose.isEmpty() ? tr("remote access") : purpose);
+                                  purpose.isEmpty() ? tr("remote access")
+                                                    : shownOnOneLine(purpose, kLongestPurpose));
     m_boxes->ask(tr("Incoming Connection"), text, [this, sessionId, masterClientId](bool yes) {
         spdlog::info("{} session {} from {}", yes ? "Accepted" : "Rejected",
                      sessionId.toStdString(), masterClientId.toStdString());
@@ -433,6 +438,7 @@ void MainWindow::enterSession() {
 void MainWindow::enterViewer() {
     m_pages->setCurrentWidget(m_viewer);
     setMinimumSize(kViewerMinimum);
+    setWindowState(windowState() & ~kFillingTheScreen);
     resize(initialViewerSize().expandedTo(kViewerMinimum));
     keepOnScreen(*this);
     m_viewer->startViewing();
@@ -448,14 +454,12 @@ void MainWindow::returnHome() {
     m_tray->setDisconnectEnabled(false);
     m_dialogs->end();
     setWindowTitle(productTitle());
-    if (isFullScreen()) {
-        showNormal();
-    }
     if (m_pages->currentWidget() != m_home) {
         m_pages->setCurrentWidget(m_home);
         m_connect->focusPartnerField();
     }
     setMinimumSize(kHomeMinimum.width(), 0);
+    setWindowState(windowState() & ~kFillingTheScreen);
     resize(kHomeMinimum.width(), m_home->sizeHint().height());
 }
 

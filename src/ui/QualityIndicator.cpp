@@ -50,7 +50,9 @@ void QualityIndicator::reset() {
 }
 
 void QualityIndicator::setColor(const char* color) {
-    setStyleSheet(QStringLiteral("background: %1; border-radius: 6px; margin: 5px;")
+    // Of itself only: the tool tip would take the colours as well.
+    setStyleSheet(QStringLiteral("corvane--QualityIndicator { "
+                                 "background: %1; border-radius: 6px; margin: 5px; }")
                       .arg(QLatin1String(color)));
 }
 

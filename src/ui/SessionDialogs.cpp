@@ -87,6 +87,9 @@ void SessionDialogs::sendChat(const QString& text) {
 }
 
 void SessionDialogs::receiveChat(const QString& text, const QDateTime& timestamp) {
+    if (!m_chat) {
+        return;
+    }
     m_chat->appendMessage(ChatDialog::partnerName(), text, timestamp);
     if (m_chat->isVisible()) {
         return;

@@ -33,7 +33,7 @@ void TransferRunner::append(TransferQueue& queue, const QList<FileTransfer>& tra
     if (!m_service) {
         return;
     }
-    if (!m_downloads.isRunning() && !m_uploads.isRunning()) {
+    if (!isRunning()) {
         Q_EMIT batchStarted();
     }
     queue.append(transfers);
@@ -71,6 +71,7 @@ void TransferRunner::startNextLater() {
 void TransferRunner::startDownload() {
     m_downloads.startNext();
     reportDownload();
+    Q_EMIT transferStarting();
     const FileTransfer transfer = m_downloads.current();
     m_unanswered.append(Request::Download);
     m_service->requestDownload(transfer.remotePath, transfer.localPath);
@@ -79,7 +80,7 @@ void TransferRunner::startDownload() {
 void TransferRunner::startUpload() {
     m_uploads.startNext();
     reportCurrent(tr("Uploading %1 of %2: %3"), m_uploads);
-    Q_EMIT uploadStarting();
+    Q_EMIT transferStarting();
     const FileTransfer transfer = m_uploads.current();
     const QPointer<TransferRunner> self(this);
     m_service->uploadFile(transfer.localPath, transfer.remotePath);

@@ -26,6 +26,9 @@ public:
 
     bool hasService() const;
 
+    /// Whether a batch is not through yet.
+    bool isRunning() const { return m_downloads.isRunning() || m_uploads.isRunning(); }
+
     void list(const QString& remotePath);
     void download(const QList<FileTransfer>& transfers);
     void upload(const QList<FileTransfer>& transfers);
@@ -41,7 +44,8 @@ public:
 Q_SIGNALS:
     void batchStarted();
     void statusChanged(QString text);
-    void uploadStarting(); ///< the event loop does not run from now on until `uploadEnded`
+    /// For an upload, the event loop does not run from now on until `uploadEnded`.
+    void transferStarting();
     void uploadEnded();
     void uploadsComplete();
 

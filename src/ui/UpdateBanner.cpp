@@ -13,7 +13,8 @@ UpdateBanner::UpdateBanner(QWidget* parent) : QFrame(parent) {
     setStyleSheet(
         QStringLiteral("QFrame#updateBanner { background-color: %1; border: 1px solid %2; "
                        "border-radius: 6px; padding: 8px; }"
-                       "QPushButton#primaryButton { color: %3; }")
+                       "QPushButton#primaryButton, QPushButton#primaryButton:disabled { "
+                       "background-color: %2; color: %3; }")
             .arg(QLatin1String(colors::kBannerBackground), QLatin1String(colors::kAccent),
                  QLatin1String(colors::kBannerButtonText)));
     m_text = new QLabel(this);

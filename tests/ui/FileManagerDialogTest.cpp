@@ -332,11 +332,13 @@ TEST_F(FileManagerDialogTest, EndsABatchAtItsFirstError) {
     EXPECT_EQ(status(), u"Downloading 1 of 1: empty"_s);
     settle();
     EXPECT_EQ(status(), u"All downloads complete."_s);
+    EXPECT_EQ(percent(), 100);
     m_isConnected = false;
     download({u"ü &amp; b.bin"_s});
     m_messages.clear();
     settle();
     EXPECT_TRUE(status().startsWith(u"Error: The request could not be sent"));
+    EXPECT_EQ(percent(), 0);
 }
 
 TEST_F(FileManagerDialogTest, GoesOnWhenOnlyAFolderCannotBeListed) {
