@@ -61,6 +61,14 @@ void connectUpdates(AuthController& auth, MainWindow& window, UpdateService& upd
                      &MainWindow::launchInstaller);
 }
 
+void announceStart() {
+    if (isCompanionServicePresent()) {
+        spdlog::info("Corvane service detected — agent mode not yet implemented, continuing in "
+                     "standalone mode");
+    }
+    spdlog::info("Corvane Client starting...");
+}
+
 } // namespace
 
 int runClient(int argc, char** argv) {
@@ -97,11 +105,7 @@ int runClient(int argc, char** argv) {
     QTranslator translator;
     installTranslation(translator, interfaceLanguage(settings.language(), QLocale::system().name()),
                        QApplication::applicationDirPath() + QStringLiteral("/translations"));
-    if (isCompanionServicePresent()) {
-        spdlog::info("Corvane service detected — agent mode not yet implemented, continuing in "
-                     "standalone mode");
-    }
-    spdlog::info("Corvane Client starting...");
+    announceStart();
 
     ApiClient api;
     api.setServerUrl(settings.serverBaseUrl());

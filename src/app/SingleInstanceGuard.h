@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// Marks this process as the one running copy of the program, for the user it runs as, until it
-/// ends. One implementation per platform.
+/// Marks this process as the one running copy of the program, until it ends: on Windows of the
+/// machine, on Linux of the user. One implementation per platform.
 class SingleInstanceGuard {
 public:
     SingleInstanceGuard();

@@ -17,10 +17,6 @@ constexpr qint64 kMaxManifestBytes = 64 * 1024;
 constexpr qint64 kMaxArchiveBytes = 256 * 1024 * 1024;
 constexpr qsizetype kMinArchiveBytes = 1024;
 
-QString textField(const nlohmann::json& manifest, const char* key) {
-    return jsonString(manifest, key).value_or(QString());
-}
-
 } // namespace
 
 UpdateService::UpdateService(QObject* parent, UpdateOptions options)
@@ -64,15 +60,15 @@ void UpdateService::onManifest(const QByteArray& text) {
         return;
     }
     const QString current = QString::fromLatin1(deployment::kApplicationVersion);
-    const QString version = textField(manifest, "version");
+    const QString version = jsonStringOrEmpty(manifest, "version");
     spdlog::info("Update check: current={}, latest={}", current.toStdString(),
                  version.toStdString());
     if (version.isEmpty() || !isNewerVersion(version, current)) {
         return;
     }
     m_latestVersion = version;
-    m_downloadUrl = textField(manifest, "download_url");
-    m_releaseNotes = textField(manifest, "release_notes");
+    m_downloadUrl = jsonStringOrEmpty(manifest, "download_url");
+    m_releaseNotes = jsonStringOrEmpty(manifest, "release_notes");
     spdlog::info("Update available: v{}", version.toStdString());
     Q_EMIT updateAvailable(m_latestVersion, m_downloadUrl, m_releaseNotes);
 }
@@ -102,7 +98,10 @@ void UpdateService::onDownloadArrived() {
     m_unwritten += m_download->take();
     const bool enough = m_archive.isOpen() || m_unwritten.size() >= kMinArchiveBytes;
     if (enough && !writeArchive()) {
-        m_download->giveUp(tr("Cannot write to temp directory."));
+        const QString error = tr("Cannot write to temp directory.");
+        m_download->disconnect(this);
+        m_download->giveUp(error);
+        fail(error);
     }
 }
 

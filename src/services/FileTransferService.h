@@ -19,8 +19,8 @@ namespace corvane {
 /// Browses the peer's file system and moves files either way; also answers the peer that does the
 /// same. One download and one upload at a time in each direction. Main thread.
 ///
-/// Paths go to the peer as they are. A file moves whole or not at all: its destination is written,
-/// or replaced, only once everything has arrived.
+/// Paths go to the peer as they are. A received file is written, or replaced, in one go, once its
+/// transfer has ended; what the sender announced but did not send is missing from it.
 class FileTransferService : public QObject {
     Q_OBJECT
 

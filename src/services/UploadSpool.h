@@ -29,8 +29,8 @@ public:
     /// False for a chunk that would exceed the announced size: none of it is taken.
     bool append(ByteSpan chunk);
 
-    /// Writes what has arrived to the destination. False when that, or keeping it until now,
-    /// failed; a file that was there before is then still as it was.
+    /// Writes what has arrived to the destination, as `writeWholeFile` does. False when that, or
+    /// keeping it until now, failed.
     bool commit();
 
 private:

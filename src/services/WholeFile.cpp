@@ -16,10 +16,12 @@ bool writeWholeFile(const QString& path, const std::function<bool(QIODevice& out
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    if (!write(file)) {
+    const bool written = write(file) && file.flush();
+    if (!written) {
         file.cancelWriting();
     }
-    return file.commit();
+    // Where the file is written in place, committing does not look back at what failed.
+    return file.commit() && written;
 }
 
 bool writeAll(QIODevice& output, ByteSpan bytes) {
