@@ -23,27 +23,23 @@
 #include "UpdateBanner.h"
 #include "ViewerPage.h"
 #include "WakeOnLanAction.h"
+#include "WindowGeometry.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QGuiApplication>
 #include <QInputDialog>
 #include <QProcess>
-#include <QScreen>
 #include <QStackedWidget>
 #include <QUrl>
 #include <spdlog/spdlog.h>
 
-#include <algorithm>
+#include <utility>
 
 namespace corvane {
 
 namespace {
 
 constexpr QSize kHomeMinimum(420, 600);
-constexpr QSize kViewerMinimum(800, 600);
-constexpr QSize kViewerLargest(1280, 720);
-constexpr auto kFillingTheScreen = Qt::WindowFullScreen | Qt::WindowMaximized;
 
 QString productTitle() {
     return QStringLiteral("Corvane - Remote Access");
@@ -51,26 +47,6 @@ QString productTitle() {
 
 bool isActive(SessionState state) {
     return state != SessionState::Idle && state != SessionState::Failed;
-}
-
-/// Three quarters of the screen, within what most pictures need.
-QSize initialViewerSize() {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? (screen->availableSize() * 3 / 4).boundedTo(kViewerLargest)
-                             : kViewerLargest;
-}
-
-/// For a window that has grown beyond its screen's edge.
-void keepOnScreen(QWidget& window) {
-    const QRect available = window.screen()->availableGeometry();
-    QRect frame = window.frameGeometry();
-    frame.moveBottomRight(
-        {std::min(frame.right(), available.right()), std::min(frame.bottom(), available.bottom())});
-    frame.moveTopLeft(
-        {std::max(frame.left(), available.left()), std::max(frame.top(), available.top())});
-    if (frame.topLeft() != window.pos()) {
-        window.move(frame.topLeft());
-    }
 }
 
 } // namespace
@@ -437,10 +413,7 @@ void MainWindow::enterSession() {
 
 void MainWindow::enterViewer() {
     m_pages->setCurrentWidget(m_viewer);
-    setMinimumSize(kViewerMinimum);
-    setWindowState(windowState() & ~kFillingTheScreen);
-    resize(initialViewerSize().expandedTo(kViewerMinimum));
-    keepOnScreen(*this);
+    fitToViewerPage(*this);
     m_viewer->startViewing();
     setWindowTitle(tr("Corvane - Connected to %1").arg(formatPartnerId(m_session->peerClientId())));
 }
@@ -458,9 +431,7 @@ void MainWindow::returnHome() {
         m_pages->setCurrentWidget(m_home);
         m_connect->focusPartnerField();
     }
-    setMinimumSize(kHomeMinimum.width(), 0);
-    setWindowState(windowState() & ~kFillingTheScreen);
-    resize(kHomeMinimum.width(), m_home->sizeHint().height());
+    fitToHomePage(*this, m_home->sizeHint().height());
 }
 
 void MainWindow::changePassword() {
