@@ -221,9 +221,7 @@ void FileTransferService::onDownloadResponse(ByteSpan body) {
     const ByteSpan content =
         *reader.bytes(static_cast<size_t>(std::min<uint64_t>(reader.remaining(), *announced)));
     const Download download = *std::exchange(m_download, std::nullopt);
-    const bool written = writeWholeFile(
-        download.localPath, [content](QIODevice& output) { return writeAll(output, content); });
-    if (!written) {
+    if (!writeWholeFile(download.localPath, content)) {
         Q_EMIT fileError(tr("Cannot write to local file: %1").arg(download.localPath));
         return;
     }
@@ -270,8 +268,7 @@ void FileTransferService::onUploadEnd(ByteSpan) {
         spdlog::warn("FileTransfer: upload truncated ({} < {})", upload->receivedSize(),
                      upload->announcedSize());
     }
-    // A peer that looks at the volumes names no folder, and means none of this program's.
-    if (QDir::isRelativePath(upload->destination()) || !upload->commit()) {
+    if (!upload->commit()) {
         sendError(QStringLiteral("Cannot write file: ") + upload->destination());
         return;
     }

@@ -2,7 +2,7 @@
 
 #include "WholeFile.h"
 
-#include <QTemporaryFile>
+#include <QDir>
 
 #include <algorithm>
 #include <utility>
@@ -11,7 +11,9 @@ namespace corvane {
 
 UploadSpool::UploadSpool(QString destination, quint64 announcedSize, size_t memoryLimit)
     : m_destination(std::move(destination)), m_announcedSize(announcedSize),
-      m_memoryLimit(memoryLimit) {
+      m_memoryLimit(memoryLimit),
+      // A peer that looks at the volumes names no folder, and means none of this program's.
+      m_failed(QDir::isRelativePath(m_destination)) {
     m_memory.reserve(std::min<quint64>(announcedSize, m_memoryLimit));
 }
 
@@ -39,23 +41,17 @@ bool UploadSpool::commit() {
     if (m_failed) {
         return false;
     }
-    if (!m_file) {
-        return writeWholeFile(m_destination,
-                              [this](QIODevice& output) { return writeAll(output, m_memory); });
-    }
-    return m_file->seek(0) && writeWholeFile(m_destination, [this](QIODevice& output) {
-               return copyAll(*m_file, output);
-           });
+    return m_file ? m_file->commit() : writeWholeFile(m_destination, m_memory);
 }
 
 bool UploadSpool::spill(ByteSpan chunk) {
     if (!m_file) {
-        m_file = std::make_unique<QTemporaryFile>();
-        if (!m_file->open() || !writeAll(*m_file, std::exchange(m_memory, {}))) {
+        m_file = std::make_unique<WholeFile>(m_destination);
+        if (!m_file->open() || !m_file->append(std::exchange(m_memory, {}))) {
             return false;
         }
     }
-    return writeAll(*m_file, chunk);
+    return m_file->append(chunk);
 }
 
 } // namespace corvane

@@ -6,12 +6,12 @@
 
 #include <memory>
 
-class QTemporaryFile;
-
 namespace corvane {
 
-/// The peer's upload while it arrives: in memory as far as that is reasonable, in a temporary file
-/// beyond it, and at its destination only when `commit` says so.
+class WholeFile;
+
+/// The peer's upload while it arrives: in memory as far as that is reasonable, in a file beside its
+/// destination beyond it, and at its destination only when `commit` says so.
 class UploadSpool {
 public:
     /// Bytes kept in memory at most.
@@ -29,7 +29,7 @@ public:
     /// False for a chunk that would exceed the announced size: none of it is taken.
     bool append(ByteSpan chunk);
 
-    /// Writes what has arrived to the destination, as `writeWholeFile` does. False when that, or
+    /// Has what has arrived appear at the destination, an absolute path. False when that, or
     /// keeping it until now, failed.
     bool commit();
 
@@ -40,9 +40,9 @@ private:
     const quint64 m_announcedSize;
     const size_t m_memoryLimit;
     quint64 m_receivedSize = 0;
-    bool m_failed = false;
+    bool m_failed;
     ByteVector m_memory;
-    std::unique_ptr<QTemporaryFile> m_file;
+    std::unique_ptr<WholeFile> m_file;
 };
 
 } // namespace corvane

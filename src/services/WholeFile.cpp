@@ -1,44 +1,37 @@
 #include "WholeFile.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace corvane {
 
-bool writeWholeFile(const QString& path, const std::function<bool(QIODevice& output)>& write) {
-    const QFileInfo existing(path);
-    if (existing.exists() && !existing.isFile()) {
-        return false;
-    }
-    QSaveFile file(path);
-    // In a folder that takes no further file, one that is there may still be writable.
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    const bool written = write(file) && file.flush();
-    if (!written) {
-        file.cancelWriting();
-    }
-    // Where the file is written in place, committing does not look back at what failed.
-    return file.commit() && written;
+WholeFile::WholeFile(const QString& path) : m_file(path) {}
+
+bool WholeFile::open() {
+    const QFileInfo existing(m_file.fileName());
+    return (!existing.exists() || existing.isFile()) && m_file.open(QIODevice::WriteOnly);
 }
 
-bool writeAll(QIODevice& output, ByteSpan bytes) {
+bool WholeFile::append(ByteSpan bytes) {
     const auto size = static_cast<qint64>(bytes.size());
-    return output.write(reinterpret_cast<const char*>(bytes.data()), size) == size;
+    if (m_file.write(reinterpret_cast<const char*>(bytes.data()), size) != size) {
+        m_failed = true;
+    }
+    return !m_failed;
 }
 
-bool copyAll(QIODevice& input, QIODevice& output) {
-    constexpr qint64 kPieceSize = 1024 * 1024;
-    ByteVector piece(kPieceSize);
-    qint64 count = 0;
-    while ((count = input.read(reinterpret_cast<char*>(piece.data()), kPieceSize)) > 0) {
-        if (!writeAll(output, ByteSpan(piece).first(static_cast<size_t>(count)))) {
-            return false;
-        }
+bool WholeFile::commit() {
+    m_failed = m_failed || !m_file.flush();
+    if (m_failed) {
+        m_file.cancelWriting();
     }
-    return count == 0;
+    // Written in place, a file commits whatever has failed.
+    return m_file.commit() && !m_failed;
+}
+
+bool writeWholeFile(const QString& path, ByteSpan bytes) {
+    WholeFile file(path);
+    file.allowInPlace();
+    return file.open() && file.append(bytes) && file.commit();
 }
 
 } // namespace corvane

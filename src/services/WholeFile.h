@@ -2,24 +2,35 @@
 
 #include "ByteVector.h"
 
+#include <QSaveFile>
 #include <QString>
-
-#include <functional>
-
-class QIODevice;
 
 namespace corvane {
 
-/// Creates or replaces the file at `path` with what `write` writes, which answers whether all went
-/// well. False when anything failed: a file that was there before is then still as it was, unless
-/// its folder takes no further file, where it can only be written in place. Replaces ordinary files
-/// only, never a device or a pipe.
-bool writeWholeFile(const QString& path, const std::function<bool(QIODevice& output)>& write);
+/// Creates or replaces the file at a path in one go: what is appended shows there with `commit`
+/// only, and never without. Replaces ordinary files only, never a device or a pipe.
+class WholeFile {
+public:
+    explicit WholeFile(const QString& path);
 
-/// False when not everything was taken.
-bool writeAll(QIODevice& output, ByteSpan bytes);
+    /// In a folder that takes no further file, one that is there may still be writable: this lets
+    /// it be written in place, where a failure on the way leaves it damaged. Before `open`.
+    void allowInPlace() { m_file.setDirectWriteFallback(true); }
 
-/// The rest of `input`. False when reading or writing failed.
-bool copyAll(QIODevice& input, QIODevice& output);
+    bool open();
+
+    /// False when not everything was taken; `commit` then fails as well.
+    bool append(ByteSpan bytes);
+
+    /// False when anything failed since `open`.
+    bool commit();
+
+private:
+    QSaveFile m_file;
+    bool m_failed = false;
+};
+
+/// The same for bytes that are at hand, in place if it must be.
+bool writeWholeFile(const QString& path, ByteSpan bytes);
 
 } // namespace corvane

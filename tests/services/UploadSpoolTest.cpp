@@ -1,6 +1,7 @@
 #include "UploadSpool.h"
 #include "Files.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -28,6 +29,16 @@ TEST(UploadSpool, KeepsTheOrderWhereverTheBytesAreKept) {
         ASSERT_TRUE(spool.commit());
         EXPECT_EQ(contentOf(path), expected);
     }
+}
+
+TEST(UploadSpool, AnUploadThatIsGivenUpLeavesNothing) {
+    const QTemporaryDir folder;
+    {
+        UploadSpool spool(folder.filePath(u"file"_s), 5000, 1000);
+        EXPECT_TRUE(spool.append(ByteVector(2000)));
+        EXPECT_FALSE(QDir(folder.path()).isEmpty()) << "beside its destination";
+    }
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 TEST(UploadSpool, AnAbsurdAnnouncementAllocatesLittle) {
