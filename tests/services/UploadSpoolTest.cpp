@@ -36,7 +36,6 @@ TEST(UploadSpool, AnUploadThatIsGivenUpLeavesNothing) {
     {
         UploadSpool spool(folder.filePath(u"file"_s), 5000, 1000);
         EXPECT_TRUE(spool.append(ByteVector(2000)));
-        EXPECT_FALSE(QDir(folder.path()).isEmpty()) << "beside its destination";
     }
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
