@@ -15,20 +15,20 @@ struct Colour {
 };
 
 constexpr auto kColours = std::to_array<Colour>({
-    {"$window", "#1a1a2e"},          // windows and dialogs
-    {"$raised", "#16213e"},          // tab panes, headers, message boxes, tool tips
-    {"$field", "#0d1b2a"},           // input fields, lists, tracks; text on the accent
-    {"$button", "#1e2d4a"},          // buttons; hover on tabs, rows and tool buttons
-    {"$border", "#2a3a5e"},          // borders, lines, scroll handles; hover on buttons
-    {"$pressed", "#3a4a6e"},         // pressed buttons
-    {"$muted", "#111827"},           // disabled buttons, alternate rows
-    {"$text", "#e0e0e0"},            // normal text
-    {"$secondary", "#8892b0"},       // captions, tabs, headers, flat and tool buttons
-    {"$disabled", "#4a5568"},        // disabled text
-    {"$accent", "#4da6ff"},          // focus, selection, primary buttons, checked boxes
-    {"$primaryHover", "#74bcff"},    //
-    {"$primaryPressed", "#2a8fff"},  //
-    {"$primaryDisabled", "#1e3a5e"}, //
+    {"$window", "#1a1a2e"},    // windows and dialogs
+    {"$raised", "#16213e"},    // tab panes, headers, message boxes, tool tips
+    {"$field", "#0d1b2a"},     // input fields, lists, tracks; text on the accent
+    {"$button", "#1e2d4a"},    // buttons; hover on tabs, rows and tool buttons
+    {"$border", "#2a3a5e"},    // borders, lines, scroll handles; hover on buttons
+    {"$pressed", "#3a4a6e"},   // pressed buttons
+    {"$muted", "#111827"},     // disabled buttons, alternate rows
+    {"$text", "#e0e0e0"},      // normal text
+    {"$secondary", "#8892b0"}, // captions, tabs, headers, flat and tool buttons
+    {"$disabled", "#4a5568"},  // disabled text
+    {"$accent", "#4da6ff"},    // focus, selection, primary buttons, checked boxes
+    {"$primaryHover", "#74bcff"},
+    {"$primaryPressed", "#2a8fff"},
+    {"$primaryDisabled", "#1e3a5e"},
 });
 
 // The tokens stand for the colours above.

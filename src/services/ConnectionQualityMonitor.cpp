@@ -1,5 +1,7 @@
 #include "ConnectionQualityMonitor.h"
 
+#include "ValueFormats.h"
+
 #include <spdlog/spdlog.h>
 
 #include <chrono>
@@ -24,14 +26,6 @@ QualityLevel classify(const ConnectionStats& stats) {
 QString bandwidthText(double kbps) {
     return kbps >= 1000 ? ConnectionQualityMonitor::tr("%1 Mbps").arg(kbps / 1000, 0, 'f', 1)
                         : ConnectionQualityMonitor::tr("%1 kbps").arg(kbps, 0, 'f', 0);
-}
-
-QString uptimeText(uint64_t seconds) {
-    const auto twoDigits = [](uint64_t value) {
-        return QStringLiteral("%1").arg(value, 2, 10, QLatin1Char('0'));
-    };
-    return QStringLiteral("%1:%2:%3")
-        .arg(twoDigits(seconds / 3600), twoDigits(seconds % 3600 / 60), twoDigits(seconds % 60));
 }
 
 } // namespace
@@ -68,7 +62,7 @@ QualityLevel ConnectionQualityMonitor::qualityLevel() const {
 QString ConnectionQualityMonitor::summaryText(const ConnectionStats& stats) {
     return tr("FPS: %1 | Latency: %2ms | BW: %3 | Uptime: %4")
         .arg(QString::number(qRound64(stats.fps)), QString::number(qRound64(stats.latencyMs)),
-             bandwidthText(stats.bandwidthKbps), uptimeText(stats.uptimeSeconds));
+             bandwidthText(stats.bandwidthKbps), formatDuration(stats.uptimeSeconds));
 }
 
 void ConnectionQualityMonitor::countFrame() {
