@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace corvane::harness {
 namespace {
 
@@ -96,9 +98,11 @@ TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) 
     // A request of the system's ends the program and, on the way, the session.
     EXPECT_TRUE(m_live.target().stop());
     EXPECT_EQ(m_live.target().logLines(QStringLiteral("(reason: destructor_cleanup)")).size(), 1);
-    EXPECT_TRUE(waitFor(
-        [&] { return m_live.server().requests().last().body.contains("destructor_cleanup"); },
-        kPatience));
+    const auto isLastWord = [](const devserver::Request& request) {
+        return request.body.contains("destructor_cleanup");
+    };
+    EXPECT_TRUE(waitFor([&] { return std::ranges::any_of(m_live.server().requests(), isLastWord); },
+                        kPatience));
 }
 
 } // namespace
