@@ -31,4 +31,12 @@ export WINEPATH
 # Not a pipe: what Wine starts in the background with the first program would keep it open.
 output=$(mktemp)
 trap 'tr -d "\r" <"$output"; rm -f "$output"' EXIT
-wine "$@" </dev/null >"$output" 2>&1
+status=0
+wine "$@" </dev/null >"$output" 2>&1 || status=$?
+# Once in several hundred starts Wine gives up before the program runs, without a word.
+if [ $status -eq 1 ] && [ ! -s "$output" ]; then
+    echo "Wine did not start the program; once more." >&2
+    status=0
+    wine "$@" </dev/null >"$output" 2>&1 || status=$?
+fi
+exit $status
