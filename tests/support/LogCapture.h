@@ -18,7 +18,10 @@ namespace corvane::test {
 class LogCapture {
 public:
     LogCapture() {
-        spdlog::set_default_logger(std::make_shared<spdlog::logger>("test", m_sink));
+        // Outlives this object: a library's thread may be about to log while it ends.
+        static auto& everyLogger = *new std::vector<std::shared_ptr<spdlog::logger>>;
+        everyLogger.push_back(std::make_shared<spdlog::logger>("test", m_sink));
+        spdlog::set_default_logger(everyLogger.back());
         spdlog::set_level(spdlog::level::trace);
     }
     ~LogCapture() {
