@@ -1,5 +1,7 @@
 #include "NatProbe.h"
 
+#include "ByteViews.h"
+
 #include <QNetworkDatagram>
 #include <QRandomGenerator>
 
@@ -50,9 +52,7 @@ void NatProbe::send(QUdpSocket& socket) {
 // keep the event loop from anything else.
 void NatProbe::onReadable(QUdpSocket& socket) {
     const QByteArray datagram = socket.receiveDatagram().data();
-    const auto mapping =
-        parseStunBindingResponse({reinterpret_cast<const uint8_t*>(datagram.constData()),
-                                  static_cast<size_t>(datagram.size())});
+    const auto mapping = parseStunBindingResponse(bytesOf(datagram));
     if (!mapping || m_responses >= 2) {
         return;
     }

@@ -1,5 +1,7 @@
 #include "StunMessage.h"
 
+#include "ByteViews.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -42,7 +44,7 @@ QByteArray stunBindingRequest(const StunTransactionId& transactionId) {
     qToBigEndian(kBindingRequest, message.data());
     qToBigEndian(kMagicCookie, message.data() + 4);
     std::copy(transactionId.begin(), transactionId.end(), message.begin() + 8);
-    return {reinterpret_cast<const char*>(message.data()), kHeaderBytes};
+    return viewOf(message).toByteArray();
 }
 
 std::optional<MappedAddress> parseStunBindingResponse(ByteSpan datagram) {

@@ -1,6 +1,7 @@
 #include "ChatService.h"
 
 #include "ByteReader.h"
+#include "ByteViews.h"
 #include "ByteWriter.h"
 
 #include <spdlog/spdlog.h>
@@ -34,8 +35,7 @@ void ChatService::sendMessage(const QString& text) {
     ByteWriter writer(static_cast<size_t>(utf8.size()) + kHeaderSize);
     writer.integer(static_cast<quint64>(QDateTime::currentMSecsSinceEpoch()));
     writer.integer(static_cast<quint16>(utf8.size()));
-    writer.bytes(
-        {reinterpret_cast<const uint8_t*>(utf8.constData()), static_cast<size_t>(utf8.size())});
+    writer.bytes(bytesOf(utf8));
     if (m_send) {
         m_send(writer.take());
     }
@@ -55,9 +55,7 @@ void ChatService::handleMessage(ByteSpan payload) {
                      *length);
         return;
     }
-    Q_EMIT messageReceived(QString::fromUtf8(reinterpret_cast<const char*>(text->data()),
-                                             static_cast<qsizetype>(text->size())),
-                           dateTimeOf(*milliseconds));
+    Q_EMIT messageReceived(QString::fromUtf8(viewOf(*text)), dateTimeOf(*milliseconds));
 }
 
 } // namespace corvane

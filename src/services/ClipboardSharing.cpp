@@ -1,6 +1,7 @@
 #include "ClipboardSharing.h"
 
 #include "ByteReader.h"
+#include "ByteViews.h"
 #include "ByteWriter.h"
 
 #include <QClipboard>
@@ -21,10 +22,6 @@ QClipboard* applicationClipboard() {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
                ? QGuiApplication::clipboard()
                : nullptr;
-}
-
-ByteSpan bytesOf(const QByteArray& data) {
-    return {reinterpret_cast<const uint8_t*>(data.constData()), static_cast<size_t>(data.size())};
 }
 
 } // namespace
@@ -86,8 +83,7 @@ void ClipboardSharing::onLocalClipboardChanged() {
     writer.integer(kTag);
     writer.integer(static_cast<quint32>(size));
     const ByteVector header = writer.take();
-    QByteArray message(reinterpret_cast<const char*>(header.data()), kHeaderSize);
-    message += text;
+    const QByteArray message = viewOf(header).toByteArray() + text;
     spdlog::debug("ClipboardSharing: local clipboard changed, sending {} bytes of text", size);
     Q_EMIT clipboardDataReady(message);
 }

@@ -1,5 +1,6 @@
 #include "FileMessage.h"
 
+#include "ByteViews.h"
 #include "ByteWriter.h"
 
 namespace corvane {
@@ -16,8 +17,7 @@ public:
 
     void text(const QByteArray& utf8) {
         integer(static_cast<uint32_t>(utf8.size()));
-        bytes(
-            {reinterpret_cast<const uint8_t*>(utf8.constData()), static_cast<size_t>(utf8.size())});
+        bytes(bytesOf(utf8));
     }
 };
 
@@ -83,8 +83,7 @@ std::optional<QString> readFileText(ByteReader& reader) {
     if (!text) {
         return std::nullopt;
     }
-    return QString::fromUtf8(reinterpret_cast<const char*>(text->data()),
-                             static_cast<qsizetype>(text->size()));
+    return QString::fromUtf8(viewOf(*text));
 }
 
 std::optional<DirectoryListing> parseListingResponse(ByteSpan body) {

@@ -1,5 +1,6 @@
 #include "FileTransferService.h"
 
+#include "ByteViews.h"
 #include "FileMessage.h"
 #include "LoggableText.h"
 #include "MonotonicClock.h"
@@ -193,8 +194,7 @@ void FileTransferService::onDownloadRequest(ByteSpan body) {
         sendError(QStringLiteral("Cannot read file: ") + *path);
         return;
     }
-    send(downloadResponse({reinterpret_cast<const uint8_t*>(content.constData()),
-                           static_cast<size_t>(content.size())}));
+    send(downloadResponse(bytesOf(content)));
 }
 
 void FileTransferService::onDownloadResponse(ByteSpan body) {

@@ -1,5 +1,7 @@
 #include "WholeFile.h"
 
+#include "ByteViews.h"
+
 #include <QFileInfo>
 
 namespace corvane {
@@ -12,8 +14,8 @@ bool WholeFile::open() {
 }
 
 bool WholeFile::append(ByteSpan bytes) {
-    const auto size = static_cast<qint64>(bytes.size());
-    if (m_file.write(reinterpret_cast<const char*>(bytes.data()), size) != size) {
+    const QByteArrayView data = viewOf(bytes);
+    if (m_file.write(data.data(), data.size()) != data.size()) {
         m_failed = true;
     }
     return !m_failed;

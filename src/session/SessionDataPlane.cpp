@@ -1,5 +1,6 @@
 #include "SessionDataPlane.h"
 
+#include "ByteViews.h"
 #include "LoggableText.h"
 #include "SessionCommand.h"
 
@@ -125,9 +126,7 @@ void SessionDataPlane::requestMonitorSwitch(int monitorIndex) {
     if (!m_link.isOpen()) {
         return;
     }
-    const std::string command = switchMonitorCommand(monitorIndex);
-    sendControl(ControlTag::Command,
-                {reinterpret_cast<const uint8_t*>(command.data()), command.size()});
+    sendControl(ControlTag::Command, bytesOf(switchMonitorCommand(monitorIndex)));
     spdlog::info("Requested monitor switch to {}", monitorIndex);
 }
 

@@ -1,5 +1,6 @@
 #include "SessionLink.h"
 
+#include "ByteViews.h"
 #include "ConnectionQualityMonitor.h"
 #include "RelayFrame.h"
 
@@ -49,12 +50,12 @@ ByteVector SessionLink::open(const QByteArray& sealed) {
     if (m_monitor) {
         m_monitor->addBytesReceived(sealed.size());
     }
-    return m_cipher.decrypt(reinterpret_cast<const uint8_t*>(sealed.constData()),
-                            static_cast<size_t>(sealed.size()));
+    const ByteSpan bytes = bytesOf(sealed);
+    return m_cipher.decrypt(bytes.data(), bytes.size());
 }
 
 uint64_t SessionLink::counterOf(const QByteArray& sealed) {
-    return AesGcmCipher::counterOf(reinterpret_cast<const uint8_t*>(sealed.constData()));
+    return AesGcmCipher::counterOf(bytesOf(sealed).data());
 }
 
 bool SessionLink::send(ChannelType channel, const ByteVector& sealed) {

@@ -1,5 +1,6 @@
 #include "SessionServices.h"
 
+#include "ByteViews.h"
 #include "ChatService.h"
 #include "ClipboardSharing.h"
 #include "FileTransferService.h"
@@ -48,8 +49,8 @@ void SessionServices::setClipboardSharing(bool enabled) {
 
 void SessionServices::onClipboard(ByteSpan message) {
     if (m_clipboardEnabled && m_clipboard) {
-        m_clipboard->onRemoteClipboardData(QByteArray::fromRawData(
-            reinterpret_cast<const char*>(message.data()), static_cast<qsizetype>(message.size())));
+        m_clipboard->onRemoteClipboardData(
+            QByteArray::fromRawData(viewOf(message).data(), viewOf(message).size()));
     }
 }
 
@@ -72,8 +73,7 @@ void SessionServices::sendClipboard(const QByteArray& data) {
     if (!m_link.isOpen()) {
         return;
     }
-    const ByteVector sealed = m_link.seal(copyBytes(
-        {reinterpret_cast<const uint8_t*>(data.constData()), static_cast<size_t>(data.size())}));
+    const ByteVector sealed = m_link.seal(copyBytes(bytesOf(data)));
     if (sealed.empty()) {
         spdlog::error("Failed to encrypt clipboard data");
         return;

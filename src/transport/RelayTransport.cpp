@@ -1,5 +1,6 @@
 #include "RelayTransport.h"
 
+#include "ByteViews.h"
 #include "JsonFields.h"
 #include "SocketRoundTrip.h"
 
@@ -18,10 +19,6 @@ constexpr qsizetype kOwnBlockSize = 16 * 1024;
 
 // Far more than a link that moves at all ever holds: beyond it the relay has stopped reading.
 constexpr qint64 kMaxUnsent = 64 * 1024 * 1024;
-
-const uint8_t* bytesOf(const std::string& text) {
-    return reinterpret_cast<const uint8_t*>(text.data());
-}
 
 } // namespace
 
@@ -191,7 +188,7 @@ void RelayTransport::sendJoin() {
     const std::string sessionId = m_sessionId.toStdString();
     const std::string join = jsonText({{"type", "relay_join"}, {"session_id", sessionId}});
     spdlog::debug("RelayTransport: sending relay_join for session {}", sessionId);
-    m_socket.write(relayFrame(ChannelType::Control, bytesOf(join), join.size()));
+    m_socket.write(relayFrame(ChannelType::Control, bytesOf(join).data(), join.size()));
 }
 
 bool RelayTransport::readPiece() {
