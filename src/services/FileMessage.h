@@ -23,6 +23,9 @@ enum class FileMessageType : uint8_t {
     Error = 0x08,            ///< text
 };
 
+/// Starts the error a peer sends when it could not keep an upload; the destination follows.
+inline const QString kUploadRefused = QStringLiteral("Cannot write file: ");
+
 struct DirectoryListing {
     QString path;
     QList<FileEntry> entries;

@@ -91,9 +91,11 @@ void FileTransferService::requestListing(const QString& remotePath) {
 
 void FileTransferService::requestDownload(const QString& remotePath, const QString& localPath) {
     spdlog::info("FileTransfer: requested download of '{}'", remotePath.toStdString());
-    m_download = Download{remotePath, localPath};
+    const Download replaced = std::exchange(m_download, {remotePath, localPath});
+    ++m_expectedDownloads;
     if (!send(fileTextMessage(FileMessageType::DownloadRequest, remotePath))) {
-        m_download.reset();
+        m_download = replaced;
+        --m_expectedDownloads;
         Q_EMIT fileError(tr("The request could not be sent: %1").arg(remotePath));
     }
 }
@@ -147,7 +149,8 @@ void FileTransferService::onListingRequest(ByteSpan body) {
         return;
     }
     spdlog::info("FileTransfer: listing directory '{}'", loggable(*path));
-    const QDir directory(*path);
+    // A bare Windows drive would be this program's folder there instead of the drive's root.
+    const QDir directory(path->endsWith(u':') ? *path + u'/' : *path);
     if (!path->isEmpty() && !directory.exists()) {
         sendError(QStringLiteral("Directory does not exist: ") + *path);
         return;
@@ -198,14 +201,14 @@ void FileTransferService::onDownloadRequest(ByteSpan body) {
 }
 
 void FileTransferService::onDownloadResponse(ByteSpan body) {
-    if (!m_download) {
+    if (m_expectedDownloads == 0) {
         spdlog::warn("FileTransfer: dropping a download response that was not asked for");
         return;
     }
     ByteReader reader(body);
     const auto status = reader.integer<uint8_t>();
     if (status && *status != 0) {
-        m_download.reset();
+        --m_expectedDownloads;
         Q_EMIT fileError(tr("Remote file download failed"));
         return;
     }
@@ -220,7 +223,8 @@ void FileTransferService::onDownloadResponse(ByteSpan body) {
     }
     const ByteSpan content =
         *reader.bytes(static_cast<size_t>(std::min<uint64_t>(reader.remaining(), *announced)));
-    const Download download = *std::exchange(m_download, std::nullopt);
+    --m_expectedDownloads;
+    const Download download = m_download;
     if (!writeWholeFile(download.localPath, content)) {
         Q_EMIT fileError(tr("Cannot write to local file: %1").arg(download.localPath));
         return;
@@ -269,7 +273,7 @@ void FileTransferService::onUploadEnd(ByteSpan) {
                      upload->announcedSize());
     }
     if (!upload->commit()) {
-        sendError(QStringLiteral("Cannot write file: ") + upload->destination());
+        sendError(kUploadRefused + upload->destination());
         return;
     }
     spdlog::info("FileTransfer: received upload -> '{}' ({} bytes)",
@@ -280,9 +284,9 @@ void FileTransferService::onError(ByteSpan body) {
     ByteReader reader(body);
     const QString text = readFileText(reader).value_or(QString());
     spdlog::warn("FileTransfer: remote error: {}", loggable(text));
-    // Nothing more is to come for a download that the peer refused.
-    if (m_download && text.endsWith(m_download->remotePath)) {
-        m_download.reset();
+    // The peer answers in order: with this download refused, nothing more is to come.
+    if (text.endsWith(m_download.remotePath)) {
+        m_expectedDownloads = 0;
     }
     Q_EMIT fileError(text);
 }

@@ -10,7 +10,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 class QFile;
 
@@ -41,7 +40,7 @@ public:
     void requestListing(const QString& remotePath);
 
     /// The file arrives in one message and is written to `localPath`. A new request replaces the
-    /// one before it.
+    /// one before it, whose answer, if it still comes, goes where the new one's then does.
     void requestDownload(const QString& remotePath, const QString& localPath);
 
     /// Sends the whole file before it returns; the event loop does not run meanwhile. The bytes are
@@ -85,7 +84,8 @@ private:
     const qint64 m_maximumMessageSize;
     PacingFunction m_pacing;
     bool m_uploading = false;
-    std::optional<Download> m_download;      ///< asked for and not yet answered
+    Download m_download;                     ///< the one last asked for
+    int m_expectedDownloads = 0;             ///< asked for and not yet answered
     std::unique_ptr<UploadSpool> m_incoming; ///< the peer's upload to this machine
     bool m_strayChunkLogged = false;
 };

@@ -20,21 +20,15 @@ UploadSpool::UploadSpool(QString destination, quint64 announcedSize, size_t memo
 UploadSpool::~UploadSpool() = default;
 
 bool UploadSpool::append(ByteSpan chunk) {
-    if (chunk.size() > m_announcedSize - m_receivedSize) {
-        return false;
-    }
-    m_receivedSize += chunk.size();
-    if (m_failed) {
-        return true;
-    }
-    if (!m_file && chunk.size() <= m_memoryLimit - m_memory.size()) {
-        appendBytes(m_memory, chunk);
-    } else if (!spill(chunk)) {
+    const ByteSpan taken =
+        chunk.first(std::min<quint64>(chunk.size(), m_announcedSize - m_receivedSize));
+    m_receivedSize += taken.size();
+    if (!m_failed && !keep(taken)) {
         m_failed = true;
         m_memory = {};
         m_file.reset();
     }
-    return true;
+    return taken.size() == chunk.size();
 }
 
 bool UploadSpool::commit() {
@@ -44,8 +38,12 @@ bool UploadSpool::commit() {
     return m_file ? m_file->commit() : writeWholeFile(m_destination, m_memory);
 }
 
-bool UploadSpool::spill(ByteSpan chunk) {
+bool UploadSpool::keep(ByteSpan chunk) {
     if (!m_file) {
+        if (chunk.size() <= m_memoryLimit - m_memory.size()) {
+            appendBytes(m_memory, chunk);
+            return true;
+        }
         m_file = std::make_unique<WholeFile>(m_destination);
         if (!m_file->open() || !m_file->append(std::exchange(m_memory, {}))) {
             return false;

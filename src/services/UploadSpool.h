@@ -26,7 +26,7 @@ public:
     quint64 announcedSize() const { return m_announcedSize; }
     quint64 receivedSize() const { return m_receivedSize; }
 
-    /// False for a chunk that would exceed the announced size: none of it is taken.
+    /// False for a chunk that exceeds the announced size: what is beyond that is not taken.
     bool append(ByteSpan chunk);
 
     /// Has what has arrived appear at the destination, an absolute path. False when that, or
@@ -34,7 +34,7 @@ public:
     bool commit();
 
 private:
-    bool spill(ByteSpan chunk);
+    bool keep(ByteSpan chunk);
 
     const QString m_destination;
     const quint64 m_announcedSize;

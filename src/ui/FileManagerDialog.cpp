@@ -126,7 +126,7 @@ void FileManagerDialog::openRemoteFolder(const QString& path) {
 
 void FileManagerDialog::onRemoteDirectoryListed(const QString& path,
                                                 const QList<FileEntry>& entries) {
-    m_runner->folderListed();
+    m_runner->folderListed(path);
     if (path != m_remote->path()) {
         return;
     }
@@ -191,7 +191,7 @@ void FileManagerDialog::confirm(const QString& question, const QStringList& over
 
 void FileManagerDialog::onTransferError(const QString& error) {
     constexpr qsizetype kLongestError = 300;
-    m_runner->transferFailed();
+    m_runner->requestFailed(error);
     if (!m_runner->isRunning()) {
         m_status->showPercent(0);
     }

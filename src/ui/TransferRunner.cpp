@@ -1,9 +1,12 @@
 #include "TransferRunner.h"
 
+#include "FileMessage.h"
 #include "FileTransferService.h"
 #include "ShownNames.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace corvane {
 
@@ -16,7 +19,7 @@ bool TransferRunner::hasService() const {
 
 void TransferRunner::list(const QString& remotePath) {
     if (m_service) {
-        m_unanswered.append(Request::Listing);
+        m_listings.append(remotePath);
         m_service->requestListing(remotePath);
     }
 }
@@ -73,7 +76,6 @@ void TransferRunner::startDownload() {
     reportDownload();
     Q_EMIT transferStarting();
     const FileTransfer transfer = m_downloads.current();
-    m_unanswered.append(Request::Download);
     m_service->requestDownload(transfer.remotePath, transfer.localPath);
 }
 
@@ -93,13 +95,11 @@ void TransferRunner::startUpload() {
     }
 }
 
-void TransferRunner::folderListed() {
-    m_unanswered.removeOne(Request::Listing);
+void TransferRunner::folderListed(const QString& remotePath) {
+    m_listings.removeOne(remotePath);
 }
 
 void TransferRunner::downloadComplete(const QString& localPath) {
-    // The partner answers in order: whatever was asked for before has been answered, too.
-    m_unanswered.remove(0, m_unanswered.indexOf(Request::Download) + 1);
     if (!m_downloads.isUnderWay() || m_downloads.current().localPath != localPath) {
         return;
     }
@@ -117,17 +117,30 @@ void TransferRunner::uploadComplete() {
     }
 }
 
-void TransferRunner::transferFailed() {
-    const bool isListing = !m_unanswered.isEmpty() && m_unanswered.takeFirst() == Request::Listing;
-    if (!isListing || m_uploads.isUnderWay()) {
-        stop();
+void TransferRunner::requestFailed(const QString& error) {
+    if (takeListing(error)) {
+        return;
     }
+    m_uploads.clear();
+    if (!error.startsWith(kUploadRefused)) {
+        m_downloads.clear();
+    }
+}
+
+/// Whether the error, which names its path at the end, is about a folder that was asked for.
+bool TransferRunner::takeListing(const QString& error) {
+    const auto failed = std::ranges::find_if(
+        m_listings, [&](const QString& path) { return error.endsWith(u' ' + path); });
+    if (failed == m_listings.end()) {
+        return false;
+    }
+    m_listings.erase(failed);
+    return true;
 }
 
 void TransferRunner::stop() {
     m_downloads.clear();
     m_uploads.clear();
-    m_unanswered.removeAll(Request::Download);
 }
 
 void TransferRunner::reportDownload() {

@@ -16,7 +16,8 @@ class FileTransferService;
 /// signals reports them here.
 ///
 /// An error of a transfer ends both batches: whatever answer comes in late finds nothing left to
-/// start. A folder that cannot be listed leaves them alone.
+/// start. Only the uploads end when the partner could not keep one, which it says while whatever
+/// else may be under way. A folder that cannot be listed leaves both alone.
 class TransferRunner : public QObject {
     Q_OBJECT
 
@@ -33,10 +34,11 @@ public:
     void download(const QList<FileTransfer>& transfers);
     void upload(const QList<FileTransfer>& transfers);
 
-    void folderListed();
+    void folderListed(const QString& remotePath);
     void downloadComplete(const QString& localPath);
     void uploadComplete();
-    void transferFailed();
+
+    void requestFailed(const QString& error);
 
     /// Forgets what waits and what is under way.
     void stop();
@@ -50,10 +52,7 @@ Q_SIGNALS:
     void uploadsComplete();
 
 private:
-    /// What the partner owes an answer to. It answers in the order of the requests, which tells
-    /// whose error an error is.
-    enum class Request { Listing, Download };
-
+    bool takeListing(const QString& error);
     void append(TransferQueue& queue, const QList<FileTransfer>& transfers);
     void startNext();
     void startNextLater();
@@ -63,7 +62,7 @@ private:
     void reportCurrent(const QString& text, const TransferQueue& queue);
 
     const QPointer<FileTransferService> m_service;
-    QList<Request> m_unanswered;
+    QStringList m_listings; ///< the folders whose listing has not come yet
     TransferQueue m_downloads;
     TransferQueue m_uploads;
 };

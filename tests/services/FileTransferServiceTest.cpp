@@ -229,6 +229,10 @@ TEST_F(FileTransferServiceTest, BrokenOrUncalledForMessagesCostALogLineEach) {
     EXPECT_TRUE(QDir(m_folder.path()).isEmpty()) << "nothing is written";
 
     m_service.handleMessage(end);
+    EXPECT_EQ(contentOf(target), QByteArray("datadat"));
+    for (const ByteVector& message : {uploadStart({target, 7}), chunk, end}) {
+        m_service.handleMessage(message);
+    }
     EXPECT_EQ(contentOf(target), QByteArray("data"));
     EXPECT_TRUE(m_log.once("warning|FileTransfer: upload truncated (4 < 7)"));
 }
@@ -253,6 +257,18 @@ TEST_F(FileTransferServiceTest, AListingIsReadAsFarAsItGoes) {
     std::fill_n(bomb.begin() + 6, 4, uint8_t{0xFF});
     m_service.handleMessage(bomb);
     EXPECT_EQ(m_listed.last()[1].value<QList<FileEntry>>(), listing.entries);
+}
+
+TEST_F(FileTransferServiceTest, AReplacedDownloadLeavesTheNewOnesContentInTheEnd) {
+    const QString target = path(u"target"_s);
+    FileTransferService service([](const ByteVector&) { return true; }, kMaximumMessage);
+    service.requestDownload(u"former"_s, path(u"unused"_s));
+    service.requestDownload(u"remote"_s, target);
+    for (const char* const answer : {"former", "remote", "uncalled for"}) {
+        service.handleMessage(downloadResponse(bytes(answer)));
+    }
+    EXPECT_EQ(contentOf(target), QByteArray("remote"));
+    EXPECT_FALSE(QFile::exists(path(u"unused"_s)));
 }
 
 TEST_F(FileTransferServiceTest, ADownloadIsAnsweredOnce) {

@@ -353,6 +353,22 @@ TEST_F(FileManagerDialogTest, GoesOnWhenOnlyAFolderCannotBeListed) {
     EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
 }
 
+TEST_F(FileManagerDialogTest, ARefusedUploadLeavesTheDownloadsAlone) {
+    openFolders();
+    for (const char* const name : {"up 1", "up 2"}) {
+        EXPECT_TRUE(QDir(m_remote).mkdir(QLatin1String(name))); // no file can be written there
+    }
+    upload({u"up 1"_s, u"up 2"_s});
+    QCoreApplication::processEvents();
+    selectLocal({u""_s});
+    download({u"a.txt"_s, u"empty"_s});
+    settle();
+    EXPECT_TRUE(m_log.contains("remote error: Cannot write file: "));
+    EXPECT_EQ(status(), u"All downloads complete."_s);
+    EXPECT_EQ(contentOf(m_local + u"/a.txt"_s), "remote a");
+    EXPECT_EQ(contentOf(m_local + u"/empty"_s), "");
+}
+
 TEST_F(FileManagerDialogTest, OutlivesItsService) {
     downloadUntilAQuestion();
     m_service.reset();
