@@ -114,13 +114,16 @@ bool UpdateService::writeArchive() {
     return written;
 }
 
-// The folder may be open to other users: nothing that lies there already is written to, and no
-// installer but the archive's own may be there afterwards.
+// The folder may be open to other users: nothing that lies there already is written to.
 bool UpdateService::openArchive() {
     m_archive.remove();
+    return m_archive.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+}
+
+/// False when another one than the archive's stays there.
+bool UpdateService::removeInstaller() {
     QFile::remove(m_installerPath);
-    return !QFileInfo::exists(m_installerPath) &&
-           m_archive.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    return !QFileInfo::exists(m_installerPath);
 }
 
 void UpdateService::onDownloadFinished(const QString& error) {
@@ -139,6 +142,10 @@ void UpdateService::onDownloadFinished(const QString& error) {
 }
 
 void UpdateService::unpack() {
+    if (!removeInstaller()) {
+        fail(tr("Cannot write to temp directory."));
+        return;
+    }
     const Command command = m_options.unpackCommand(m_archive.fileName(), m_options.folder);
     m_unpackTimer.start(m_options.unpackTimeout);
     m_unpacking.start(command.program, command.arguments);
@@ -153,7 +160,11 @@ void UpdateService::onUnpackError(QProcess::ProcessError error) {
 }
 
 void UpdateService::onUnpacked() {
+    const bool inTime = m_unpackTimer.isActive();
     m_unpackTimer.stop();
+    if (!inTime) {
+        removeInstaller(); // it may have been half written
+    }
     if (!QFileInfo(m_installerPath).isFile()) {
         fail(tr("Failed to extract installer from zip."));
         return;

@@ -61,9 +61,10 @@ TEST_F(UpdateServiceTest, DoesNotWriteThroughALinkLaidOutForIt) {
 }
 
 TEST_F(UpdateServiceTest, AnUnpackingThatHangsIsGivenUp) {
-    m_options.unpackTimeout = std::chrono::milliseconds(50);
-    m_options.unpackCommand = [](const QString&, const QString&) -> Command {
-        return {u"sleep"_s, {u"60"_s}};
+    m_options.unpackTimeout = std::chrono::milliseconds(200);
+    m_options.unpackCommand = [](const QString&, const QString& folder) -> Command {
+        return {u"sh"_s,
+                {u"-c"_s, uR"(echo half >"$0/CorvaneSetup.exe"; exec sleep 60)"_s, folder}};
     };
     EXPECT_EQ(download(QByteArray(2000, 'z')), kNoInstaller);
 }
