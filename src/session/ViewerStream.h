@@ -24,7 +24,9 @@ public:
 
     /// A message of either channel, with its sender's counter, was opened. False when it is a
     /// repetition, or comes too late for anything.
-    bool onMessage(uint64_t counter) { return m_recovery.onMessage(counter); }
+    bool onMessage(uint64_t counter) {
+        return m_recovery.onMessage(counter) || counter >= m_nextCounter;
+    }
 
     /// The packet's picture, or null when none came out: it makes no sense, or it was overtaken by
     /// a later one. Opens the decoder on first use.

@@ -1,6 +1,8 @@
 #include "SessionDataPlane.h"
+#include "ByteViews.h"
 #include "Bytes.h"
 #include "ChatService.h"
+#include "Eventually.h"
 #include "FileTransferService.h"
 #include "LogCapture.h"
 #include "TestPlatform.h"
@@ -50,9 +52,11 @@ protected:
     }
 
     void receive(ChannelType channel, const ByteVector& plain) {
-        const ByteVector sealed = m_peer.encrypt(plain);
-        m_plane->receive(channel, QByteArray(reinterpret_cast<const char*>(sealed.data()),
-                                             static_cast<qsizetype>(sealed.size())));
+        receiveSealed(channel, m_peer.encrypt(plain));
+    }
+
+    void receiveSealed(ChannelType channel, const ByteVector& sealed) {
+        m_plane->receive(channel, viewOf(sealed).toByteArray());
     }
 
     void receiveCommand(const QByteArray& command) {
@@ -201,6 +205,21 @@ TEST_F(DataPlaneTest, VideoIsForTheViewer) {
     receive(ChannelType::Video, ByteVector(5000, 0xA5)); // sealed, but no AV1
     EXPECT_EQ(decoded.count(), 0);
     EXPECT_TRUE(m_log.contains("error|AV1Decoder: "));
+}
+
+TEST_F(DataPlaneTest, APacketThatWasGivenUpIsStillDecodedInItsPlaceAndOnce) {
+    startAs(SessionRole::Master);
+    m_plane->setState(SessionState::Connected);
+    const ByteVector late = m_peer.encrypt(ByteVector(5000, 0xA5));
+    receiveCommand("overtakes it");
+    ASSERT_TRUE(eventually([this] { return !m_transport.sent.empty(); }));
+    EXPECT_EQ(sent(0), controlMessage(ControlTag::KeyframeRequest, {}));
+    m_log.clear();
+    receiveSealed(ChannelType::Video, late);
+    EXPECT_TRUE(m_log.contains("error|AV1Decoder: "));
+    m_log.clear();
+    receiveSealed(ChannelType::Video, late);
+    EXPECT_FALSE(m_log.contains("error|AV1Decoder: "));
 }
 
 TEST_F(DataPlaneTest, NothingLeavesBeforeOrAfterTheConnection) {
