@@ -28,6 +28,7 @@ RelayTransport::RelayTransport(QObject* parent, std::chrono::milliseconds reconn
       m_standstill(standstill) {
     m_socket.setReadBufferSize(kSocketReadBuffer);
     m_reconnectTimer.setSingleShot(true);
+    m_reconnectTimer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_socket, &QTcpSocket::connected, this, &RelayTransport::onSocketConnected);
     QObject::connect(&m_socket, &QTcpSocket::disconnected, this,
                      &RelayTransport::onSocketDisconnected);

@@ -20,6 +20,7 @@ TransportManager::TransportManager(QObject* parent, PeerTransportFactory peerFac
                                    std::chrono::milliseconds peerTimeout)
     : QObject(parent), m_peerFactory(std::move(peerFactory)), m_peerTimeout(peerTimeout) {
     m_peerTimer.setSingleShot(true);
+    m_peerTimer.setTimerType(Qt::PreciseTimer); // both peers give up at the same time
     connect(&m_peerTimer, &QTimer::timeout, this, &TransportManager::onP2PTimeout);
 }
 
