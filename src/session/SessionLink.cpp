@@ -13,7 +13,7 @@ namespace {
 constexpr std::chrono::milliseconds kLatencyInterval{1000};
 
 // What a file leaves in the send queue: enough to keep a gigabit link busy for 30 ms while the next
-// block is read, and not so much that input and pictures wait noticeably behind it.
+// block is read. Input and pictures wait behind it, and behind what the transport itself holds.
 constexpr qint64 kFileQueueLimit = 4 * 1024 * 1024;
 
 } // namespace

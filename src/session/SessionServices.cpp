@@ -106,6 +106,7 @@ bool SessionServices::sendChat(const ByteVector& message) {
         return false;
     }
     if (!m_link.send(ChannelType::Control, sealed)) {
+        spdlog::warn("Chat: message refused by the transport");
         return false;
     }
     spdlog::debug("Chat message sent ({} bytes encrypted)", sealed.size());

@@ -54,7 +54,9 @@ void SessionTransport::sendDescription(const QString& type, const QString& sdp) 
                               {"session_id", m_sessionId.toStdString()},
                               {"target_client_id", m_peerId.toStdString()},
                               {"sdp", sdp.toStdString()}});
-    spdlog::info("Sent ICE {} via signaling", offer ? "offer" : "answer");
+    if (m_signaling->isConnected()) {
+        spdlog::info("Sent ICE {} via signaling", offer ? "offer" : "answer");
+    }
 }
 
 void SessionTransport::sendCandidate(const QString& candidate, const QString& mid) {

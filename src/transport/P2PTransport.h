@@ -43,7 +43,8 @@ public:
     static constexpr size_t kMaxMessageSize = 16 * 1024 * 1024 + 8 + 16;
 
     /// How much may wait behind the library's own send buffer before the video channel refuses
-    /// frames and the control channel messages. Video is worthless when it is late.
+    /// frames and the control channel messages. Video is worthless when it is late; on a slow
+    /// link that buffer alone, which is as large as the largest message, holds seconds of it.
     static constexpr size_t kMaxVideoQueued = 1024 * 1024;
     static constexpr size_t kMaxControlQueued = 64 * 1024 * 1024;
 
