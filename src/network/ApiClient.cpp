@@ -133,11 +133,15 @@ void ApiClient::createSession(const QString& targetClientId, const QString& sess
         });
 }
 
-void ApiClient::abandonSessionCreation() {
+void ApiClient::abandonSessionSetup() {
+    for (QNetworkReply* const reply : {m_creation.data(), m_acknowledgement.data()}) {
+        if (reply != nullptr && reply->isRunning()) {
+            reply->disconnect(this);
+            connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+        }
+    }
     if (m_creation && m_creation->isRunning()) {
-        m_creation->disconnect(this);
         m_creation->abort();
-        m_creation->deleteLater();
     }
 }
 
@@ -148,9 +152,10 @@ void ApiClient::handshakeAck(const QString& sessionId, const QString& targetEcdh
     putUnlessEmpty(body, "target_ecdh_public_key", targetEcdhPublicKey);
     putUnlessEmpty(body, "target_nat_type", targetNatType);
     putUnlessEmpty(body, "preferred_relay_id", preferredRelayId);
-    post(sessionPath(sessionId, QStringLiteral("/handshake-ack")), body, Authorization::Bearer,
-         sessionUpdateHandler(QStringLiteral("/sessions/.../handshake-ack"),
-                              tr("Handshake ACK failed")));
+    m_acknowledgement =
+        post(sessionPath(sessionId, QStringLiteral("/handshake-ack")), body, Authorization::Bearer,
+             sessionUpdateHandler(sessionId, QStringLiteral("/sessions/.../handshake-ack"),
+                                  tr("Handshake ACK failed")));
 }
 
 void ApiClient::completeSession(const QString& sessionId, const QString& connectionMethod,
@@ -159,7 +164,7 @@ void ApiClient::completeSession(const QString& sessionId, const QString& connect
     put(body, "connection_method", connectionMethod);
     putUnlessEmpty(body, "relay_node_id", relayNodeId);
     patch(sessionPath(sessionId, QStringLiteral("/complete")), body,
-          sessionUpdateHandler(QStringLiteral("/sessions/.../complete"),
+          sessionUpdateHandler(sessionId, QStringLiteral("/sessions/.../complete"),
                                tr("Session complete failed")));
 }
 
@@ -168,16 +173,21 @@ void ApiClient::closeSession(const QString& sessionId, const QString& reason,
     auto body = nlohmann::json::object();
     body["transferred_bytes"] = transferredBytes;
     putUnlessEmpty(body, "reason", reason);
-    m_closure = patch(
-        sessionPath(sessionId, QStringLiteral("/close")), body,
-        sessionUpdateHandler(QStringLiteral("/sessions/.../close"), tr("Session close failed")));
+    m_closure = patch(sessionPath(sessionId, QStringLiteral("/close")), body,
+                      sessionUpdateHandler(sessionId, QStringLiteral("/sessions/.../close"),
+                                           tr("Session close failed")));
 }
 
-ApiClient::AnswerHandler ApiClient::sessionUpdateHandler(const QString& endpoint,
+ApiClient::AnswerHandler ApiClient::sessionUpdateHandler(const QString& sessionId,
+                                                         const QString& endpoint,
                                                          const QString& failure) {
-    return [this, endpoint, failure](int status, const nlohmann::json& answer) {
+    return [this, sessionId, endpoint, failure](int status, const nlohmann::json& answer) {
         if (status == kStatusOk) {
-            Q_EMIT sessionUpdated(answer);
+            nlohmann::json update = answer;
+            if (update.is_object() && !jsonString(update, "session_id")) {
+                put(update, "session_id", sessionId);
+            }
+            Q_EMIT sessionUpdated(update);
         } else {
             Q_EMIT requestError(endpoint, status, detailOf(answer, failure));
         }

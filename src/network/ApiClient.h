@@ -28,8 +28,8 @@ public:
     explicit ApiClient(QObject* parent = nullptr,
                        std::chrono::milliseconds silenceLimit = std::chrono::seconds(30));
 
-    /// Waits a second at most for the server to take the close requests that are under way, with
-    /// the event loop running.
+    /// Waits a second at most for the server to take the last close request if it is under way,
+    /// with the event loop running.
     ~ApiClient() override;
 
     /// Scheme, host and port of the server; a path in it is ignored.
@@ -55,10 +55,12 @@ public:
     void createSession(const QString& targetClientId, const QString& sessionPassword,
                        const QString& purpose, const QString& masterEcdhPublicKey);
 
-    /// The last `createSession`, if it is not answered yet, will not be: the answer goes unheard.
-    void abandonSessionCreation();
+    /// The answers to the last `createSession` and the last `handshakeAck` go unheard if they are
+    /// still to come. An acknowledgement under way still reaches the server.
+    void abandonSessionSetup();
 
-    /// The calls below are answered by `sessionUpdated` or `requestError`.
+    /// The calls below are answered by `sessionUpdated` or `requestError`. An update carries the
+    /// `session_id` of its call where the server's answer has none.
     void handshakeAck(const QString& sessionId, const QString& targetEcdhPublicKey,
                       const QString& targetNatType, const QString& preferredRelayId);
     void completeSession(const QString& sessionId, const QString& connectionMethod,
@@ -93,14 +95,16 @@ private:
 
     void onLoginAnswer(int status, const nlohmann::json& answer);
     void onRegistrationAnswer(int status, const nlohmann::json& answer);
-    AnswerHandler sessionUpdateHandler(const QString& endpoint, const QString& failure);
+    AnswerHandler sessionUpdateHandler(const QString& sessionId, const QString& endpoint,
+                                       const QString& failure);
 
     QUrl m_serverUrl;
     QNetworkAccessManager m_network;
     QString m_token;
     QString m_clientId;
-    QPointer<QNetworkReply> m_creation; ///< of the last session asked for
-    QPointer<QNetworkReply> m_closure;  ///< of the last session closed
+    QPointer<QNetworkReply> m_creation;        ///< of the last session asked for
+    QPointer<QNetworkReply> m_acknowledgement; ///< of the last session accepted
+    QPointer<QNetworkReply> m_closure;         ///< of the last session closed
     std::chrono::milliseconds m_silenceLimit;
 };
 

@@ -184,7 +184,7 @@ void SessionManager::acceptSession(const QString& sessionId, const QString& mast
 void SessionManager::onSessionUpdated(const nlohmann::json& data) {
     const QString state = jsonStringOrEmpty(data, "state");
     spdlog::info("Session updated: state={}", state.toStdString());
-    const QString sessionId = jsonString(data, "session_id").value_or(m_sessionId);
+    const QString sessionId = jsonStringOrEmpty(data, "session_id");
     if (sessionId != m_sessionId) {
         spdlog::info("Ignoring update of another session: {}", sessionId.toStdString());
         return;
@@ -196,6 +196,7 @@ void SessionManager::onSessionUpdated(const nlohmann::json& data) {
         }
     } else if (state == u"closed" || state == u"failed") {
         spdlog::info("Session ended by server: {}", state.toStdString());
+        Q_EMIT sessionEnding();
         stopStreaming();
         cleanup();
         setState(state == u"failed" ? SessionState::Failed : SessionState::Idle);
@@ -281,6 +282,7 @@ void SessionManager::endSession(const QString& reason) {
         return;
     }
     spdlog::info("Ending session {} (reason: {})", m_sessionId.toStdString(), reason.toStdString());
+    Q_EMIT sessionEnding();
     setState(SessionState::Closing);
     stopStreaming();
     if (!m_sessionId.isEmpty()) {
@@ -368,7 +370,7 @@ void SessionManager::cleanup() {
     spdlog::debug("Session cleanup");
     stopStreaming();
     ++m_generation;
-    m_api->abandonSessionCreation();
+    m_api->abandonSessionSetup();
     m_earlyAck.reset();
     // Clean-up may run inside a signal of either object: cut them off now, delete them later.
     const auto retire = [this](auto& owner) {

@@ -85,6 +85,10 @@ Q_SIGNALS:
     void inputEventReceived(corvane::InputEvent event);
     void sessionError(QString error);
 
+    /// The session is about to be ended by this side or by the server: the last chance to send the
+    /// partner something.
+    void sessionEnding();
+
 private Q_SLOTS:
     void onSessionCreated(const nlohmann::json& data);
     void onSessionUpdated(const nlohmann::json& data);

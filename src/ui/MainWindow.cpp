@@ -155,6 +155,8 @@ void MainWindow::connectServices() {
             &MainWindow::onSessionAutoAccept);
     connect(m_session, &SessionManager::stateChanged, this, &MainWindow::onSessionStateChanged);
     connect(m_session, &SessionManager::sessionError, this, &MainWindow::onSessionError);
+    // While the partner still listens: what the user holds down must not stay down over there.
+    connect(m_session, &SessionManager::sessionEnding, m_viewer, &ViewerPage::stopViewing);
     connect(m_session, &SessionManager::frameDecoded, this, &MainWindow::onFrameDecoded);
     connect(m_quality, &ConnectionQualityMonitor::statsUpdated, this, &MainWindow::onStatsUpdated);
 }
@@ -210,7 +212,7 @@ void MainWindow::onConnectClicked() {
 
 void MainWindow::onDisconnectClicked() {
     if (m_session->state() != SessionState::Idle) {
-        endSession(QStringLiteral("user_disconnect"));
+        m_session->endSession(QStringLiteral("user_disconnect"));
     }
 }
 
@@ -225,12 +227,6 @@ void MainWindow::onSettingsClicked() {
     dialog->open();
 }
 
-void MainWindow::endSession(const QString& reason) {
-    // While the partner still listens: whatever the user holds down must not stay down over there.
-    m_viewer->stopViewing();
-    m_session->endSession(reason);
-}
-
 void MainWindow::onSessionHandshakeRequest(const QString& sessionId, const QString& masterClientId,
                                            const QString& purpose) {
     if (!isVisible()) {
@@ -239,11 +235,11 @@ void MainWindow::onSessionHandshakeRequest(const QString& sessionId, const QStri
     showNormal();
     activateWindow();
     raise();
-    constexpr qsizetype kLongestPurpose = 200;
-    const QString text = tr("Client %1 wants to connect.\nPurpose: %2\n\nAccept?")
-                             .arg(formatPartnerId(masterClientId),
-                                  purpose.isEmpty() ? tr("remote access")
-                                                    : shownOnOneLine(purpose, kLongestPurpose));
+    constexpr qsizetype kLongestText = 200;
+    const QString text =
+        tr("Client %1 wants to connect.\nPurpose: %2\n\nAccept?")
+            .arg(shownOnOneLine(formatPartnerId(masterClientId), kLongestText),
+                 purpose.isEmpty() ? tr("remote access") : shownOnOneLine(purpose, kLongestText));
     m_boxes->ask(tr("Incoming Connection"), text, [this, sessionId, masterClientId](bool yes) {
         spdlog::info("{} session {} from {}", yes ? "Accepted" : "Rejected",
                      sessionId.toStdString(), masterClientId.toStdString());
@@ -296,14 +292,14 @@ void MainWindow::onSessionStateChanged(SessionState newState) {
 }
 
 void MainWindow::onSessionError(const QString& error) {
+    // A request that is refused at once changes no state, which would restore the button.
     restoreConnectButton();
     m_boxes->warn(tr("Session Error"), error);
 }
 
 void MainWindow::onFrameDecoded(std::shared_ptr<DecodedFrame> frame) {
-    if (frame) {
+    if (frame && m_viewer->showFrame(std::move(frame))) {
         m_quality->countFrame();
-        m_viewer->showFrame(std::move(frame));
     }
 }
 
@@ -363,7 +359,7 @@ void MainWindow::launchInstaller(const QString& installerPath) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (isActive(m_session->state())) {
-        endSession(QStringLiteral("user_closed_window"));
+        m_session->endSession(QStringLiteral("user_closed_window"));
         returnHome();
         event->ignore();
     } else if (m_settings->minimizeToTray() && m_tray->isVisible() && m_platform.isTrayThere()) {
@@ -378,7 +374,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::quitByTray() {
     if (isActive(m_session->state())) {
-        endSession(QStringLiteral("application_quit"));
+        m_session->endSession(QStringLiteral("application_quit"));
     }
     Q_EMIT quitRequested();
 }

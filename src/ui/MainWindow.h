@@ -86,7 +86,6 @@ private:
     void restoreConnectButton();
     void notify(const QString& text,
                 QSystemTrayIcon::MessageIcon icon = QSystemTrayIcon::Information);
-    void endSession(const QString& reason);
     void quitByTray();
     void enterSession();
     void enterViewer();

@@ -4,6 +4,7 @@
 #include "MonotonicClock.h"
 #include "NativeKey.h"
 #include "Nv12Renderer.h"
+#include "WindowGeometry.h"
 
 #include <QMouseEvent>
 #include <QOpenGLContext>
@@ -82,12 +83,7 @@ void RemoteDesktopWidget::clearPicture() {
 }
 
 void RemoteDesktopWidget::toggleFullScreen() {
-    QWidget* const topLevel = window();
-    if (topLevel->isFullScreen()) {
-        topLevel->showNormal();
-    } else {
-        topLevel->showFullScreen();
-    }
+    corvane::toggleFullScreen(*window());
 }
 
 void RemoteDesktopWidget::updateFrame(std::shared_ptr<DecodedFrame> frame) {

@@ -2,6 +2,7 @@
 
 #include "OpenGlProbe.h"
 #include "RemoteDesktopWidget.h"
+#include "WindowGeometry.h"
 #include "WindowRenewal.h"
 
 #include <QVBoxLayout>
@@ -34,10 +35,11 @@ void ViewerPage::stopViewing() {
     }
 }
 
-void ViewerPage::showFrame(std::shared_ptr<DecodedFrame> frame) {
+bool ViewerPage::showFrame(std::shared_ptr<DecodedFrame> frame) {
     if (m_view != nullptr) {
         m_view->updateFrame(std::move(frame));
     }
+    return m_view != nullptr;
 }
 
 void ViewerPage::clearPicture() {
@@ -51,6 +53,8 @@ void ViewerPage::createView() {
         m_screen = new QWidget;
         m_screen->setStyleSheet(QStringLiteral("background: black"));
         m_layout->addWidget(m_screen, 1);
+        connect(m_toolBar, &ViewerToolBar::fullScreenRequested, this,
+                [this] { toggleFullScreen(*window()); });
         return;
     }
     m_view = new RemoteDesktopWidget;

@@ -30,7 +30,8 @@ public:
     /// Releases what the user holds down over there and forwards nothing more.
     void stopViewing();
 
-    void showFrame(std::shared_ptr<DecodedFrame> frame);
+    /// False where there is no view for it.
+    bool showFrame(std::shared_ptr<DecodedFrame> frame);
     void clearPicture();
 
 Q_SIGNALS:

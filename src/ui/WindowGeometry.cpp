@@ -53,4 +53,12 @@ void fitToViewerPage(QWidget& window) {
     keepOnScreen(window);
 }
 
+void toggleFullScreen(QWidget& window) {
+    if (window.isFullScreen()) {
+        window.showNormal();
+    } else {
+        window.showFullScreen();
+    }
+}
+
 } // namespace corvane

@@ -13,4 +13,7 @@ void fitToHomePage(QWidget& window, int preferredHeight);
 /// With either, a window that fills the screen no longer does.
 void fitToViewerPage(QWidget& window);
 
+/// To the full screen, or back from there.
+void toggleFullScreen(QWidget& window);
+
 } // namespace corvane

@@ -51,6 +51,21 @@ TEST_F(SessionPairTest, AnswersToAGivenUpRequestDoNotReachTheNextOne) {
     }
 }
 
+TEST_F(SessionPairTest, ARefusedAcceptanceDoesNotReachTheNextSession) {
+    const auto accept = [this](const QString& session, const devserver::Reply& answer) {
+        const auto requests = m_server.requests().size();
+        m_server.misbehaviour().setReply(u"/handshake-ack"_s, answer);
+        m_target->session->acceptSession(session, m_viewer->id, QString());
+        return eventually([&] { return m_server.requests().size() > requests; });
+    };
+    ASSERT_TRUE(accept(u"former"_s, {.delayMs = 50, .status = 403}));
+    m_target->session->endSession(u"user_disconnect"_s);
+    ASSERT_TRUE(accept(u"next"_s, {.delayMs = 150, .status = 200, .body = R"({"state":"late"})"}));
+    ASSERT_TRUE(eventually([&] { return m_log.contains("info|Session updated: state=late"); }));
+    EXPECT_TRUE(m_target->is(SessionState::Handshaking));
+    EXPECT_EQ(m_target->errors, QStringList());
+}
+
 TEST_F(SessionPairTest, UnusableCreationAnswersFail) {
     for (const char* body : {"{}", R"({"session_id":7})", R"(["session_id"])", "garbage", ""}) {
         m_server.misbehaviour().setReply(u"/sessions/create"_s,

@@ -151,6 +151,8 @@ TEST(ViewerPageWithoutPictureTest, StaysBlackAndSaysWhy) {
         page.showFrame(quarters(QSize(64, 64), 64, 64));
         const QRect screen = page.rect().adjusted(0, page.toolBar()->height(), 0, 0);
         EXPECT_TRUE(isBlack(page.grab(screen).toImage()));
+        Q_EMIT page.toolBar()->fullScreenRequested();
+        EXPECT_EQ(page.isFullScreen(), session == 0) << "it goes there, and comes back";
         page.stopViewing();
         page.clearPicture();
     }

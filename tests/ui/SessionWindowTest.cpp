@@ -68,6 +68,16 @@ TEST_F(SessionWindowTest, FollowsAViewersSession) {
     EXPECT_TRUE(boxes().isEmpty());
 }
 
+TEST_F(SessionWindowTest, ReleasesWhatIsHeldWhenANewcomerEndsTheSession) {
+    const auto partner = viewNewDevice();
+    ASSERT_NE(partner, nullptr);
+    QTest::keyPress(widget<RemoteDesktopWidget>("remoteDesktop"), Qt::Key_Control);
+    EXPECT_TRUE(eventually([&] { return partner->machine->injected.size() == 1; }));
+    m_session.acceptSession(u"another"_s, u"123456789"_s, QString());
+    EXPECT_TRUE(eventually([&] { return partner->machine->injected.size() == 2; }));
+    EXPECT_EQ(partner->machine->injected.back().type, InputEventType::KeyRelease);
+}
+
 TEST_F(SessionWindowTest, EndsTheSessionInsteadOfClosing) {
     // A server that no longer knows the session is nobody's concern.
     m_server.misbehaviour().setReply(u"/close"_s, {.status = 500});
