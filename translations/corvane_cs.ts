@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Z&amp;výšit</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Snížit</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Vybrat vše</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
@@ -132,6 +147,61 @@
     </message>
 </context>
 <context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Posunout sem</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Levý okraj</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Začátek</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Pravý okraj</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Konec</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>O stránku vlevo</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>O stránku nahoru</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>O stránku vpravo</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>O stránku dolů</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Posunout vlevo</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Posunout nahoru</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Posunout vpravo</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Posunout dolů</translation>
+    </message>
+</context>
+<context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
@@ -140,6 +210,10 @@
     <message>
         <source>Select All</source>
         <translation>Vybrat vše</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopírovat adresu &amp;odkazu</translation>
     </message>
 </context>
 <context>

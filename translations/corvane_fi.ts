@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Suurenna</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Pienennä</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Valitse kaikki</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
@@ -132,6 +147,61 @@
     </message>
 </context>
 <context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Vieritä tähän</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Vasen reuna</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Alkuun</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Oikea reuna</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Loppuun</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Sivu vasemmalle</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Sivu ylös</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Sivu oikealle</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sivu alas</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Vieritä vasemmalle</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Vieritä ylös</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Vieritä oikealle</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Vieritä alas</translation>
+    </message>
+</context>
+<context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
@@ -140,6 +210,10 @@
     <message>
         <source>Select All</source>
         <translation>Valitse kaikki</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopioi &amp;linkin osoite</translation>
     </message>
 </context>
 <context>

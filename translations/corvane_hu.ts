@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Növelés</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Csökkentés</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Az összes &amp;kijelölése</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
@@ -132,6 +147,61 @@
     </message>
 </context>
 <context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Görgetés ide</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bal szél</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Teteje</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Jobb szél</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Alja</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Lapozás balra</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Lapozás felfelé</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Lapozás jobbra</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Lapozás lefelé</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Görgetés balra</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Görgetés felfelé</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Görgetés jobbra</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Görgetés lefelé</translation>
+    </message>
+</context>
+<context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
@@ -140,6 +210,10 @@
     <message>
         <source>Select All</source>
         <translation>Összes kijelölése</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Hivatkozás címének másolása</translation>
     </message>
 </context>
 <context>

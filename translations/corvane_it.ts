@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumenta</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuisci</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
@@ -132,6 +147,61 @@
     </message>
 </context>
 <context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Scorri fin qui</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bordo sinistro</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bordo destro</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Pagina a sinistra</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina in su</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Pagina a destra</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina in giù</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scorri a sinistra</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scorri in su</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scorri a destra</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scorri in giù</translation>
+    </message>
+</context>
+<context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
@@ -140,6 +210,10 @@
     <message>
         <source>Select All</source>
         <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copia l&apos;indirizzo del co&amp;llegamento</translation>
     </message>
 </context>
 <context>

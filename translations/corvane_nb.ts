@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Ø&amp;k</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Reduser</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Merk alt</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
@@ -132,6 +147,61 @@
     </message>
 </context>
 <context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Rull hit</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Venstre kant</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Øverst</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Høyre kant</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Nederst</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Side mot venstre</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Side opp</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Side mot høyre</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Side ned</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Rull mot venstre</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Rull opp</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Rull mot høyre</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Rull ned</translation>
+    </message>
+</context>
+<context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
@@ -140,6 +210,10 @@
     <message>
         <source>Select All</source>
         <translation>Merk alt</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopier &amp;lenkeadresse</translation>
     </message>
 </context>
 <context>

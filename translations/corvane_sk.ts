@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Z&amp;výšiť</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Znížiť</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Vybrať všetko</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
@@ -132,6 +147,61 @@
     </message>
 </context>
 <context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Posunúť sem</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Ľavý okraj</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Začiatok</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Pravý okraj</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Koniec</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>O stranu doľava</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>O stranu nahor</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>O stranu doprava</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>O stranu nadol</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Posunúť doľava</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Posunúť nahor</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Posunúť doprava</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Posunúť nadol</translation>
+    </message>
+</context>
+<context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
@@ -140,6 +210,10 @@
     <message>
         <source>Select All</source>
         <translation>Vybrať všetko</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopírovať adresu &amp;odkazu</translation>
     </message>
 </context>
 <context>

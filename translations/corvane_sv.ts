@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Ö&amp;ka</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Minska</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Markera alla</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
@@ -132,6 +147,61 @@
     </message>
 </context>
 <context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Rulla hit</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Vänsterkant</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Överkant</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Högerkant</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Nederkant</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Sida åt vänster</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Sida upp</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Sida åt höger</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sida ned</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Rulla åt vänster</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Rulla uppåt</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Rulla åt höger</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Rulla nedåt</translation>
+    </message>
+</context>
+<context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
@@ -140,6 +210,10 @@
     <message>
         <source>Select All</source>
         <translation>Markera allt</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopiera &amp;länkadress</translation>
     </message>
 </context>
 <context>
