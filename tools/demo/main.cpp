@@ -65,14 +65,26 @@ void checkTyping(harness::LiveSession& session, demo::DemoReport& report) {
                          : session.error());
 }
 
-void checkPicture(harness::LiveSession& session, demo::DemoReport& report) {
+void save(const QString& name, const QDir& folder, const QString& file, const QImage& picture,
+          demo::DemoReport& report) {
+    const QString path = folder.absoluteFilePath(file);
+    report.check(name, folder.mkpath(QStringLiteral(".")) && picture.save(path), path);
+}
+
+/// Compares the two screens while they stand still, and keeps what was compared.
+void checkPicture(harness::LiveSession& session, const QDir& screenshots,
+                  demo::DemoReport& report) {
     session.setDesktopRunning(false);
     const double fidelity = session.pictureFidelity();
+    const QImage viewer = session.viewerScreen();
+    const QImage target = session.targetScreen();
     session.setDesktopRunning(true);
     report.check(QStringLiteral("picture"), fidelity >= kSamePictureDb,
                  QStringLiteral("%1 dB PSNR against the target's screen (at least %2)")
                      .arg(fidelity, 0, 'f', 1)
                      .arg(kSamePictureDb, 0, 'f', 0));
+    save(QStringLiteral("screenshot"), screenshots, QStringLiteral("viewer.png"), viewer, report);
+    save(QStringLiteral("screenshot"), screenshots, QStringLiteral("target.png"), target, report);
 }
 
 void checkStream(harness::LiveSession& session, demo::DemoReport& report) {
@@ -102,25 +114,14 @@ void checkRoundTrip(harness::LiveSession& session, demo::DemoReport& report) {
                            .arg(milliseconds.back()));
 }
 
-void saveScreenshots(const demo::Stage& stage, const QString& folder) {
-    QDir().mkpath(folder);
-    const auto save = [&](const QString& name, const QString& file, const QImage& picture) {
-        const QString path = QDir(folder).absoluteFilePath(file);
-        stage.report.check(name, picture.save(path), path);
-    };
-    save(QStringLiteral("screenshot"), QStringLiteral("viewer.png"), stage.session.viewerScreen());
-    save(QStringLiteral("screenshot"), QStringLiteral("target.png"), stage.session.targetScreen());
-    save(QStringLiteral("contact sheet"), QStringLiteral("windows.png"), stage.sheet.draw());
-}
-
 void watch(harness::LiveSession& session) {
     std::puts("Watching: close the viewer's window twice or press Ctrl+C to end.");
     harness::waitFor([&] { return !session.viewer().isRunning(); }, std::chrono::hours(24));
 }
 
 /// All acts. False when the session did not come up.
-bool present(harness::LiveSession& session, bool onWindows, bool relayWanted, const QString& folder,
-             demo::DemoReport& report) {
+bool present(harness::LiveSession& session, bool onWindows, bool relayWanted,
+             const QDir& screenshots, demo::DemoReport& report) {
     session.server().setManifestVersion(QStringLiteral("9.0.0")); // for the update banner
     if (!report.check(QStringLiteral("devices"), session.start(),
                       session.error().isEmpty() ? QStringLiteral("online") : session.error())) {
@@ -136,7 +137,7 @@ bool present(harness::LiveSession& session, bool onWindows, bool relayWanted, co
     reportTransport(session, relayWanted, report);
     describeSession(session, report);
     checkTyping(session, report);
-    checkPicture(session, report);
+    checkPicture(session, screenshots, report);
     checkStream(session, report);
     checkRoundTrip(session, report);
     session.setDesktopRunning(false);
@@ -145,7 +146,8 @@ bool present(harness::LiveSession& session, bool onWindows, bool relayWanted, co
     demo::FileExchange(stage, onWindows ? QStringLiteral("Z:/") : QStringLiteral("/")).run();
     demo::tourViewer(stage);
     session.setDesktopRunning(true);
-    saveScreenshots(stage, folder);
+    save(QStringLiteral("contact sheet"), screenshots, QStringLiteral("windows.png"),
+         stage.sheet.draw(), report);
     return true;
 }
 
