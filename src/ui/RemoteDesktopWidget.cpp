@@ -4,7 +4,6 @@
 #include "MonotonicClock.h"
 #include "NativeKey.h"
 #include "Nv12Renderer.h"
-#include "WindowGeometry.h"
 
 #include <QMouseEvent>
 #include <QOpenGLContext>
@@ -80,10 +79,6 @@ void RemoteDesktopWidget::clearPicture() {
         doneCurrent();
     }
     update();
-}
-
-void RemoteDesktopWidget::toggleFullScreen() {
-    corvane::toggleFullScreen(*window());
 }
 
 void RemoteDesktopWidget::updateFrame(std::shared_ptr<DecodedFrame> frame) {

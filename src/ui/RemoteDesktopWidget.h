@@ -38,9 +38,6 @@ public:
     /// Drops the picture and shows black until the next frame.
     void clearPicture();
 
-    /// Shows the window full screen, or normal if it is full screen already.
-    void toggleFullScreen();
-
 public Q_SLOTS:
     /// Makes this the next picture to paint; one that was not painted yet is dropped. Any thread
     /// may hand a frame over; the repaint is scheduled on the main thread.

@@ -121,9 +121,10 @@ void TransferRunner::requestFailed(const QString& error) {
     if (takeListing(error)) {
         return;
     }
-    m_uploads.clear();
-    if (!error.startsWith(kUploadRefused)) {
-        m_downloads.clear();
+    if (error.startsWith(kUploadRefused)) {
+        m_uploads.clear();
+    } else {
+        stop();
     }
 }
 

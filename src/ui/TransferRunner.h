@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 
 namespace corvane {
 
@@ -37,7 +38,6 @@ public:
     void folderListed(const QString& remotePath);
     void downloadComplete(const QString& localPath);
     void uploadComplete();
-
     void requestFailed(const QString& error);
 
     /// Forgets what waits and what is under way.

@@ -13,6 +13,8 @@ namespace corvane {
 
 ViewerPage::ViewerPage(QWidget* parent) : QWidget(parent) {
     m_toolBar = new ViewerToolBar(this);
+    connect(m_toolBar, &ViewerToolBar::fullScreenRequested, this,
+            [this] { toggleFullScreen(*window()); });
     m_layout = new QVBoxLayout(this);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
@@ -53,14 +55,10 @@ void ViewerPage::createView() {
         m_screen = new QWidget;
         m_screen->setStyleSheet(QStringLiteral("background: black"));
         m_layout->addWidget(m_screen, 1);
-        connect(m_toolBar, &ViewerToolBar::fullScreenRequested, this,
-                [this] { toggleFullScreen(*window()); });
         return;
     }
     m_view = new RemoteDesktopWidget;
     connect(m_toolBar, &ViewerToolBar::scaleModeChosen, m_view, &RemoteDesktopWidget::setScaleMode);
-    connect(m_toolBar, &ViewerToolBar::fullScreenRequested, m_view,
-            &RemoteDesktopWidget::toggleFullScreen);
     connect(m_view, &RemoteDesktopWidget::inputEvent, this, &ViewerPage::inputEvent);
     m_screen = m_view;
     // Qt draws a window without OpenGL until it holds the first widget that needs it.

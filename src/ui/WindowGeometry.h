@@ -13,7 +13,7 @@ void fitToHomePage(QWidget& window, int preferredHeight);
 /// With either, a window that fills the screen no longer does.
 void fitToViewerPage(QWidget& window);
 
-/// To the full screen, or back from there.
+/// Shows the window full screen, or normal if it is full screen already.
 void toggleFullScreen(QWidget& window);
 
 } // namespace corvane
