@@ -1,3 +1,4 @@
+#include "ByteViews.h"
 #include "RelayFrameParser.h"
 #include "RelayNode.h"
 #include "RelayTransport.h"
@@ -132,8 +133,7 @@ void parseFrames(benchmark::State& state) {
     for (int64_t i = 0; i < state.range(0); ++i) {
         read += relayFrame(ChannelType::Control, payload.data(), payload.size());
     }
-    const ByteSpan bytes(reinterpret_cast<const uint8_t*>(read.constData()),
-                         static_cast<size_t>(read.size()));
+    const ByteSpan bytes = bytesOf(read);
     RelayFrameParser parser;
     for (auto _ : state) {
         ByteSpan input = bytes;

@@ -1,4 +1,5 @@
 #include "InputEvent.h"
+#include "ByteViews.h"
 
 #include <QByteArray>
 #include <gmock/gmock.h>
@@ -15,9 +16,7 @@ using enum InputEventType;
 using testing::ThrowsMessage;
 
 QByteArray hexOf(const InputEvent& event) {
-    const ByteVector bytes = event.serialize();
-    const auto size = static_cast<qsizetype>(bytes.size());
-    return QByteArray(reinterpret_cast<const char*>(bytes.data()), size).toHex(' ');
+    return viewOf(event.serialize()).toByteArray().toHex(' ');
 }
 
 auto fieldsOf(const InputEvent& e) {

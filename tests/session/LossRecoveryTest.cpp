@@ -1,3 +1,4 @@
+#include "ByteViews.h"
 #include "DesktopScene.h"
 #include "FrameConverter.h"
 #include "SessionDataPlane.h"
@@ -24,7 +25,7 @@ public:
                 return true;
             }
         }
-        const QByteArray message(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+        const QByteArray message = viewOf({data, size}).toByteArray();
         QMetaObject::invokeMethod(
             peer, [this, channel, message] { peer->receive(channel, message); },
             Qt::QueuedConnection);

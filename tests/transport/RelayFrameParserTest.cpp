@@ -1,4 +1,5 @@
 #include "RelayFrameParser.h"
+#include "ByteViews.h"
 #include "ScriptedRelay.h"
 
 #include <gtest/gtest.h>
@@ -14,8 +15,7 @@ using Frames = std::vector<std::pair<ChannelType, QByteArray>>;
 
 /// Feeds one piece and collects its frames.
 void feed(RelayFrameParser& parser, const QByteArray& piece, Frames& frames) {
-    ByteSpan input{reinterpret_cast<const uint8_t*>(piece.constData()),
-                   static_cast<size_t>(piece.size())};
+    ByteSpan input = bytesOf(piece);
     while (!input.empty()) {
         if (parser.consume(input) == RelayFrameParser::Result::FrameReady) {
             frames.emplace_back(parser.channel(), parser.takePayload());

@@ -1,3 +1,4 @@
+#include "ByteViews.h"
 #include "ByteWriter.h"
 #include "UpdateServiceTest.h"
 
@@ -15,8 +16,7 @@ template <typename... Fields>
 QByteArray littleEndian(Fields... fields) {
     ByteWriter writer;
     (writer.integer(fields), ...);
-    const ByteVector bytes = writer.take();
-    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
+    return viewOf(writer.take()).toByteArray();
 }
 
 const QByteArray kInstaller(2000, 'i');
