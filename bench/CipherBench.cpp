@@ -1,7 +1,7 @@
 // What the message cipher costs beside the bare algorithm. The bare loops reuse one context and one
 // buffer and set a new nonce per message: the least that any sealing of separate messages must do.
-#include "AesGcmCipher.h"
 #include "SideBySide.h"
+#include "crypto/AesGcmCipher.h"
 
 #include <benchmark/benchmark.h>
 #include <openssl/evp.h>

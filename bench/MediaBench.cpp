@@ -1,8 +1,8 @@
-#include "AV1Decoder.h"
-#include "AV1Encoder.h"
-#include "DesktopScene.h"
-#include "FrameConverter.h"
 #include "SideBySide.h"
+#include "media/AV1Decoder.h"
+#include "media/AV1Encoder.h"
+#include "media/FrameConverter.h"
+#include "support/DesktopScene.h"
 
 #include <aom/aom_encoder.h>
 #include <aom/aomcx.h>

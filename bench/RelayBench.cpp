@@ -1,8 +1,8 @@
-#include "ByteViews.h"
-#include "RelayFrameParser.h"
-#include "RelayNode.h"
-#include "RelayTransport.h"
 #include "SideBySide.h"
+#include "common/ByteViews.h"
+#include "devserver/RelayNode.h"
+#include "transport/RelayFrameParser.h"
+#include "transport/RelayTransport.h"
 
 #include <QCoreApplication>
 #include <QTcpServer>

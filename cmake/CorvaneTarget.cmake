@@ -1,4 +1,4 @@
-# Warnings, sanitizers and include path that every target of ours shares.
+# Warnings, sanitizers and include root that every target of ours shares.
 add_library(corvane_options INTERFACE)
 if(MSVC)
     target_compile_options(corvane_options INTERFACE /W4 /permissive- /utf-8)
@@ -21,15 +21,19 @@ if(CORVANE_SANITIZE)
     target_link_options(corvane_options INTERFACE -fsanitize=${CORVANE_SANITIZE})
 endif()
 
-# corvane_add_layer(<name> SOURCES ... [PLATFORM_SOURCES ...] [LINK ...])
+# The include root: an include names the room of its header, as in "media/DecodedFrame.h".
+target_include_directories(corvane_options INTERFACE "${PROJECT_SOURCE_DIR}/src")
+
+# corvane_add_layer(<name> SOURCES ... [PLATFORM_SOURCES ...] [PUBLIC ...] [PRIVATE ...])
 #
-# One static library per folder. A layer's only public include path is its own folder, so a header
-# is reachable exactly where its library is linked: the link graph is the layering.
-# PLATFORM_SOURCES are looked up in the windows/ or linux/ folder of the layer.
+# One static library per room. PUBLIC are the libraries that the room's own headers need, PRIVATE
+# those that only its sources do. PLATFORM_SOURCES are looked up in the windows/ or linux/ folder of
+# the room. Which room may use which is checked by tests/structure.
 function(corvane_add_layer name)
-    cmake_parse_arguments(LAYER "" "" "SOURCES;PLATFORM_SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(LAYER "" "" "SOURCES;PLATFORM_SOURCES;PUBLIC;PRIVATE" ${ARGN})
     list(TRANSFORM LAYER_PLATFORM_SOURCES PREPEND "${CORVANE_PLATFORM}/")
     add_library(${name} STATIC ${LAYER_SOURCES} ${LAYER_PLATFORM_SOURCES})
-    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
-    target_link_libraries(${name} PUBLIC ${LAYER_LINK} PRIVATE corvane_options)
+    target_link_libraries(${name}
+        PUBLIC ${LAYER_PUBLIC}
+        PRIVATE ${LAYER_PRIVATE} spdlog::spdlog corvane_options)
 endfunction()

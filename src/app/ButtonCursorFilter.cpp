@@ -1,4 +1,4 @@
-#include "ButtonCursorFilter.h"
+#include "app/ButtonCursorFilter.h"
 
 #include <QEvent>
 #include <QPushButton>

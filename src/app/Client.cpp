@@ -1,27 +1,27 @@
-#include "Client.h"
+#include "app/Client.h"
 
-#include "ApiClient.h"
-#include "ApplicationIcon.h"
-#include "AuthController.h"
-#include "Autostart.h"
-#include "ButtonCursorFilter.h"
-#include "CaptureBackendCandidate.h"
-#include "CommandLine.h"
-#include "CompanionService.h"
-#include "DeploymentConstants.h"
-#include "HeartbeatService.h"
-#include "ISystemIntegration.h"
-#include "Logging.h"
-#include "MainWindow.h"
-#include "QuitOnRequest.h"
-#include "SessionManager.h"
-#include "SessionSettings.h"
-#include "SettingsController.h"
-#include "SignalingClient.h"
-#include "SingleInstanceGuard.h"
-#include "Theme.h"
-#include "Translation.h"
-#include "UpdateService.h"
+#include "app/ButtonCursorFilter.h"
+#include "app/CommandLine.h"
+#include "app/CompanionService.h"
+#include "app/Logging.h"
+#include "app/QuitOnRequest.h"
+#include "app/SessionSettings.h"
+#include "app/SingleInstanceGuard.h"
+#include "app/Theme.h"
+#include "app/Translation.h"
+#include "app/settings/DeploymentConstants.h"
+#include "app/settings/SettingsController.h"
+#include "integration/Autostart.h"
+#include "integration/ISystemIntegration.h"
+#include "media/CaptureBackendCandidate.h"
+#include "network/identity/AuthController.h"
+#include "network/reachability/HeartbeatService.h"
+#include "network/server/ApiClient.h"
+#include "network/server/SignalingClient.h"
+#include "network/updates/UpdateService.h"
+#include "session/SessionManager.h"
+#include "ui/ApplicationIcon.h"
+#include "ui/MainWindow.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -120,6 +120,8 @@ int runClient(int argc, char** argv) {
                       {.integration = integration.get(), .monitors = [] {
                            return capturableMonitors(captureBackendCandidates());
                        }});
+    QObject::connect(&window, &MainWindow::settingsChanged, &session,
+                     [&] { applySessionSettings(session, settings); });
     UpdateService updates;
     connectUpdates(auth, window, updates);
     QObject::connect(

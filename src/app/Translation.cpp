@@ -1,4 +1,4 @@
-#include "Translation.h"
+#include "app/Translation.h"
 
 #include <QCoreApplication>
 #include <QTranslator>

@@ -1,4 +1,4 @@
-#include "ByteReader.h"
+#include "common/ByteReader.h"
 
 #include <bit>
 

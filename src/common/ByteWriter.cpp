@@ -1,4 +1,4 @@
-#include "ByteWriter.h"
+#include "common/ByteWriter.h"
 
 #include <bit>
 

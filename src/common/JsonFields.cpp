@@ -1,4 +1,4 @@
-#include "JsonFields.h"
+#include "common/JsonFields.h"
 
 namespace corvane {
 

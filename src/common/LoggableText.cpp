@@ -1,4 +1,4 @@
-#include "LoggableText.h"
+#include "common/LoggableText.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "MonotonicClock.h"
+#include "common/MonotonicClock.h"
 
 #include <chrono>
 

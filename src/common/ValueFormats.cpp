@@ -1,4 +1,4 @@
-#include "ValueFormats.h"
+#include "common/ValueFormats.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
-#include "AesGcmCipher.h"
+#include "crypto/AesGcmCipher.h"
 
-#include "OpensslErrors.h"
+#include "crypto/OpensslErrors.h"
 
 #include <openssl/evp.h>
 #include <spdlog/spdlog.h>

@@ -1,7 +1,7 @@
-#include "EcdhKeyExchange.h"
+#include "crypto/EcdhKeyExchange.h"
 
-#include "KeyDerivation.h"
-#include "OpensslErrors.h"
+#include "crypto/KeyDerivation.h"
+#include "crypto/OpensslErrors.h"
 
 #include <openssl/bio.h>
 #include <openssl/buffer.h>

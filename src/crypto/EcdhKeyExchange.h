@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ByteVector.h"
-#include "OpensslHandles.h"
-#include "SecretBytes.h"
+#include "common/ByteVector.h"
+#include "crypto/OpensslHandles.h"
+#include "crypto/SecretBytes.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
-#include "KeyDerivation.h"
+#include "crypto/KeyDerivation.h"
 
-#include "OpensslErrors.h"
-#include "OpensslHandles.h"
+#include "crypto/OpensslErrors.h"
+#include "crypto/OpensslHandles.h"
 
 #include <openssl/core_names.h>
 #include <openssl/evp.h>

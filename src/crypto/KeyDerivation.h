@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ByteVector.h"
-#include "SecretBytes.h"
+#include "common/ByteVector.h"
+#include "crypto/SecretBytes.h"
 
 #include <cstddef>
 #include <string_view>

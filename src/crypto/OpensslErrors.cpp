@@ -1,4 +1,4 @@
-#include "OpensslErrors.h"
+#include "crypto/OpensslErrors.h"
 
 #include <openssl/err.h>
 

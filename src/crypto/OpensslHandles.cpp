@@ -1,4 +1,4 @@
-#include "OpensslHandles.h"
+#include "crypto/OpensslHandles.h"
 
 #include <openssl/bio.h>
 #include <openssl/crypto.h>

@@ -1,4 +1,4 @@
-#include "SecretBytes.h"
+#include "crypto/SecretBytes.h"
 
 #include <openssl/crypto.h>
 

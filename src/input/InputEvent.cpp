@@ -1,7 +1,7 @@
-#include "InputEvent.h"
+#include "input/InputEvent.h"
 
-#include "ByteReader.h"
-#include "ByteWriter.h"
+#include "common/ByteReader.h"
+#include "common/ByteWriter.h"
 
 #include <stdexcept>
 #include <string>

@@ -1,4 +1,4 @@
-#include "InputForwarder.h"
+#include "input/InputForwarder.h"
 
 #include <spdlog/spdlog.h>
 

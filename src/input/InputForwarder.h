@@ -1,7 +1,7 @@
 #pragma once
 
-#include "IInputBackend.h"
-#include "InputEvent.h"
+#include "input/IInputBackend.h"
+#include "input/InputEvent.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "AV1Decoder.h"
+#include "media/AV1Decoder.h"
 
 #include <dav1d/dav1d.h>
 #include <spdlog/spdlog.h>

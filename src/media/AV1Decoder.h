@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IVideoDecoder.h"
+#include "media/IVideoDecoder.h"
 
 struct Dav1dContext;
 

@@ -1,4 +1,4 @@
-#include "AV1Encoder.h"
+#include "media/AV1Encoder.h"
 
 #include <aom/aom_encoder.h>
 #include <aom/aomcx.h>

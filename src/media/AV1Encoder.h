@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IVideoEncoder.h"
+#include "media/IVideoEncoder.h"
 
 namespace corvane {
 

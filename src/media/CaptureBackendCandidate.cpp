@@ -1,4 +1,4 @@
-#include "CaptureBackendCandidate.h"
+#include "media/CaptureBackendCandidate.h"
 
 namespace corvane {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ByteVector.h"
-#include "PlaneBytes.h"
+#include "common/ByteVector.h"
+#include "media/PlaneBytes.h"
 
 #include <QMetaType>
 

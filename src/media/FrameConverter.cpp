@@ -1,4 +1,4 @@
-#include "FrameConverter.h"
+#include "media/FrameConverter.h"
 
 #include <spdlog/spdlog.h>
 

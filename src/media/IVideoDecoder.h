@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DecodedFrame.h"
+#include "media/DecodedFrame.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "ScreenCaptureManager.h"
+#include "media/ScreenCaptureManager.h"
 
 #include <spdlog/spdlog.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CapturedFrame.h"
-#include "IScreenCaptureBackend.h"
+#include "media/CapturedFrame.h"
+#include "media/IScreenCaptureBackend.h"
 
 #include <QObject>
 #include <QThread>

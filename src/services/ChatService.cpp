@@ -1,8 +1,8 @@
-#include "ChatService.h"
+#include "services/ChatService.h"
 
-#include "ByteReader.h"
-#include "ByteViews.h"
-#include "ByteWriter.h"
+#include "common/ByteReader.h"
+#include "common/ByteViews.h"
+#include "common/ByteWriter.h"
 
 #include <spdlog/spdlog.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SendFunction.h"
+#include "services/SendFunction.h"
 
 #include <QDateTime>
 #include <QObject>

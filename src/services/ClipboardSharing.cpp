@@ -1,8 +1,8 @@
-#include "ClipboardSharing.h"
+#include "services/ClipboardSharing.h"
 
-#include "ByteReader.h"
-#include "ByteViews.h"
-#include "ByteWriter.h"
+#include "common/ByteReader.h"
+#include "common/ByteViews.h"
+#include "common/ByteWriter.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
-#include "ConnectionQualityMonitor.h"
+#include "services/ConnectionQualityMonitor.h"
 
-#include "ValueFormats.h"
+#include "common/ValueFormats.h"
 
 #include <spdlog/spdlog.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ConnectionStats.h"
+#include "services/ConnectionStats.h"
 
 #include <QElapsedTimer>
 #include <QObject>

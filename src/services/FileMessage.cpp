@@ -1,7 +1,7 @@
-#include "FileMessage.h"
+#include "services/FileMessage.h"
 
-#include "ByteViews.h"
-#include "ByteWriter.h"
+#include "common/ByteViews.h"
+#include "common/ByteWriter.h"
 
 namespace corvane {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ByteReader.h"
-#include "ByteVector.h"
-#include "FileEntry.h"
+#include "common/ByteReader.h"
+#include "common/ByteVector.h"
+#include "services/FileEntry.h"
 
 #include <QList>
 #include <QString>

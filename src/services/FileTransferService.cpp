@@ -1,10 +1,10 @@
-#include "FileTransferService.h"
+#include "services/FileTransferService.h"
 
-#include "ByteViews.h"
-#include "FileMessage.h"
-#include "LoggableText.h"
-#include "MonotonicClock.h"
-#include "WholeFile.h"
+#include "common/ByteViews.h"
+#include "common/LoggableText.h"
+#include "common/MonotonicClock.h"
+#include "services/FileMessage.h"
+#include "services/WholeFile.h"
 
 #include <QDir>
 #include <QFile>

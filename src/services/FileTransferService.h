@@ -1,8 +1,8 @@
 #pragma once
 
-#include "FileEntry.h"
-#include "SendFunction.h"
-#include "UploadSpool.h"
+#include "services/FileEntry.h"
+#include "services/SendFunction.h"
+#include "services/UploadSpool.h"
 
 #include <QList>
 #include <QObject>

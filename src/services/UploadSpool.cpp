@@ -1,6 +1,6 @@
-#include "UploadSpool.h"
+#include "services/UploadSpool.h"
 
-#include "WholeFile.h"
+#include "services/WholeFile.h"
 
 #include <QDir>
 

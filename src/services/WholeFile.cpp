@@ -1,6 +1,6 @@
-#include "WholeFile.h"
+#include "services/WholeFile.h"
 
-#include "ByteViews.h"
+#include "common/ByteViews.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
-#include "ControlMessage.h"
+#include "session/ControlMessage.h"
 
-#include "ByteWriter.h"
+#include "common/ByteWriter.h"
 
 namespace corvane {
 

@@ -1,6 +1,6 @@
-#include "FramePipeline.h"
+#include "session/FramePipeline.h"
 
-#include "AesGcmCipher.h"
+#include "crypto/AesGcmCipher.h"
 
 #include <spdlog/spdlog.h>
 

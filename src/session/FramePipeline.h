@@ -1,9 +1,9 @@
 #pragma once
 
-#include "CapturedFrame.h"
-#include "FrameConverter.h"
-#include "IVideoEncoder.h"
-#include "StreamingSettings.h"
+#include "media/CapturedFrame.h"
+#include "media/FrameConverter.h"
+#include "media/IVideoEncoder.h"
+#include "session/StreamingSettings.h"
 
 #include <memory>
 #include <optional>

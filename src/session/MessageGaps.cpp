@@ -1,4 +1,4 @@
-#include "MessageGaps.h"
+#include "session/MessageGaps.h"
 
 #include <limits>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "PacketQueue.h"
+#include "session/PacketQueue.h"
 
 #include <utility>
 

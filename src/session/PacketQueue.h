@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ByteVector.h"
+#include "common/ByteVector.h"
 
 #include <condition_variable>
 #include <cstddef>

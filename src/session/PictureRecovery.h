@@ -1,6 +1,6 @@
 #pragma once
 
-#include "MessageGaps.h"
+#include "session/MessageGaps.h"
 
 #include <QObject>
 #include <QTimer>

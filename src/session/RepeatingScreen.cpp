@@ -1,6 +1,6 @@
-#include "RepeatingScreen.h"
+#include "session/RepeatingScreen.h"
 
-#include "MonotonicClock.h"
+#include "common/MonotonicClock.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IScreenCaptureBackend.h"
+#include "media/IScreenCaptureBackend.h"
 
 #include <array>
 #include <atomic>

@@ -1,4 +1,4 @@
-#include "SessionCommand.h"
+#include "session/SessionCommand.h"
 
 #include <charconv>
 

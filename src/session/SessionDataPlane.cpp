@@ -1,8 +1,8 @@
-#include "SessionDataPlane.h"
+#include "session/SessionDataPlane.h"
 
-#include "ByteViews.h"
-#include "LoggableText.h"
-#include "SessionCommand.h"
+#include "common/ByteViews.h"
+#include "common/LoggableText.h"
+#include "session/SessionCommand.h"
 
 #include <spdlog/spdlog.h>
 

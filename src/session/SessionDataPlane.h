@@ -1,12 +1,12 @@
 #pragma once
 
-#include "SessionLink.h"
-#include "SessionPlatform.h"
-#include "SessionServices.h"
-#include "SessionState.h"
-#include "StreamingSettings.h"
-#include "TargetStream.h"
-#include "ViewerStream.h"
+#include "session/SessionLink.h"
+#include "session/SessionPlatform.h"
+#include "session/SessionServices.h"
+#include "session/SessionState.h"
+#include "session/StreamingSettings.h"
+#include "session/TargetStream.h"
+#include "session/ViewerStream.h"
 
 #include <QObject>
 

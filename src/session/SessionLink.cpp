@@ -1,8 +1,8 @@
-#include "SessionLink.h"
+#include "session/SessionLink.h"
 
-#include "ByteViews.h"
-#include "ConnectionQualityMonitor.h"
-#include "RelayFrame.h"
+#include "common/ByteViews.h"
+#include "services/ConnectionQualityMonitor.h"
+#include "transport/RelayFrame.h"
 
 #include <chrono>
 

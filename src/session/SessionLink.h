@@ -1,9 +1,9 @@
 #pragma once
 
-#include "AesGcmCipher.h"
-#include "ControlMessage.h"
-#include "ITransport.h"
-#include "SessionState.h"
+#include "crypto/AesGcmCipher.h"
+#include "session/ControlMessage.h"
+#include "session/SessionState.h"
+#include "transport/ITransport.h"
 
 #include <QObject>
 #include <QPointer>

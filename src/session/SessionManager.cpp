@@ -1,12 +1,12 @@
-#include "SessionManager.h"
+#include "session/SessionManager.h"
 
-#include "ApiClient.h"
-#include "ConnectionQualityMonitor.h"
-#include "EcdhKeyExchange.h"
-#include "JsonFields.h"
-#include "SessionDataPlane.h"
-#include "SessionTransport.h"
-#include "SignalingClient.h"
+#include "common/JsonFields.h"
+#include "crypto/EcdhKeyExchange.h"
+#include "network/server/ApiClient.h"
+#include "network/server/SignalingClient.h"
+#include "services/ConnectionQualityMonitor.h"
+#include "session/SessionDataPlane.h"
+#include "session/SessionTransport.h"
 
 #include <spdlog/spdlog.h>
 

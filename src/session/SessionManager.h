@@ -1,11 +1,11 @@
 #pragma once
 
-#include "DecodedFrame.h"
-#include "ITransport.h"
-#include "InputEvent.h"
-#include "SessionPlatform.h"
-#include "SessionState.h"
-#include "StreamingSettings.h"
+#include "input/InputEvent.h"
+#include "media/DecodedFrame.h"
+#include "session/SessionPlatform.h"
+#include "session/SessionState.h"
+#include "session/StreamingSettings.h"
+#include "transport/ITransport.h"
 
 #include <QObject>
 #include <QPointer>

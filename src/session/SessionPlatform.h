@@ -1,8 +1,8 @@
 #pragma once
 
-#include "CaptureBackendCandidate.h"
-#include "IInputBackend.h"
-#include "IPeerTransport.h"
+#include "input/IInputBackend.h"
+#include "media/CaptureBackendCandidate.h"
+#include "transport/IPeerTransport.h"
 
 #include <functional>
 #include <memory>

@@ -1,10 +1,10 @@
-#include "SessionServices.h"
+#include "session/SessionServices.h"
 
-#include "ByteViews.h"
-#include "ChatService.h"
-#include "ClipboardSharing.h"
-#include "FileTransferService.h"
-#include "SessionLink.h"
+#include "common/ByteViews.h"
+#include "services/ChatService.h"
+#include "services/ClipboardSharing.h"
+#include "services/FileTransferService.h"
+#include "session/SessionLink.h"
 
 #include <spdlog/spdlog.h>
 

@@ -1,6 +1,6 @@
-#include "SessionTransport.h"
+#include "session/SessionTransport.h"
 
-#include "SignalingClient.h"
+#include "network/server/SignalingClient.h"
 
 #include <spdlog/spdlog.h>
 

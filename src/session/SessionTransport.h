@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TransportManager.h"
+#include "transport/TransportManager.h"
 
 #include <QObject>
 #include <QString>

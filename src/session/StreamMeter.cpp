@@ -1,6 +1,6 @@
-#include "StreamMeter.h"
+#include "session/StreamMeter.h"
 
-#include "MonotonicClock.h"
+#include "common/MonotonicClock.h"
 
 #include <spdlog/spdlog.h>
 

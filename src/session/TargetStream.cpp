@@ -1,10 +1,10 @@
-#include "TargetStream.h"
+#include "session/TargetStream.h"
 
-#include "AV1Encoder.h"
-#include "InputForwarder.h"
-#include "RepeatingScreen.h"
-#include "ScreenCaptureManager.h"
-#include "SessionPlatform.h"
+#include "input/InputForwarder.h"
+#include "media/AV1Encoder.h"
+#include "media/ScreenCaptureManager.h"
+#include "session/RepeatingScreen.h"
+#include "session/SessionPlatform.h"
 
 #include <QScopeGuard>
 #include <spdlog/spdlog.h>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ByteVector.h"
-#include "CapturedFrame.h"
-#include "FramePipeline.h"
-#include "InputEvent.h"
-#include "PacketQueue.h"
-#include "StreamingSettings.h"
+#include "common/ByteVector.h"
+#include "input/InputEvent.h"
+#include "media/CapturedFrame.h"
+#include "session/FramePipeline.h"
+#include "session/PacketQueue.h"
+#include "session/StreamingSettings.h"
 
 #include <QObject>
 

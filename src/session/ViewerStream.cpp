@@ -1,8 +1,8 @@
-#include "ViewerStream.h"
+#include "session/ViewerStream.h"
 
-#include "AV1Decoder.h"
-#include "Av1Packet.h"
-#include "MonotonicClock.h"
+#include "common/MonotonicClock.h"
+#include "media/AV1Decoder.h"
+#include "media/Av1Packet.h"
 
 namespace corvane {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ByteVector.h"
-#include "DecodedFrame.h"
-#include "PictureRecovery.h"
-#include "StreamMeter.h"
+#include "common/ByteVector.h"
+#include "media/DecodedFrame.h"
+#include "session/PictureRecovery.h"
+#include "session/StreamMeter.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
-#include "P2PTransport.h"
+#include "transport/P2PTransport.h"
 
-#include "DeploymentConstants.h"
-#include "PeerEventQueue.h"
+#include "app/settings/DeploymentConstants.h"
+#include "transport/PeerEventQueue.h"
 
 #include <rtc/rtc.hpp>
 #include <spdlog/spdlog.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "IPeerTransport.h"
-#include "Standstill.h"
+#include "transport/IPeerTransport.h"
+#include "transport/Standstill.h"
 
 #include <QTimer>
 

@@ -1,4 +1,4 @@
-#include "PeerEventQueue.h"
+#include "transport/PeerEventQueue.h"
 
 #include <QMetaObject>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "P2PTransport.h"
+#include "transport/P2PTransport.h"
 
 namespace corvane {
 

@@ -1,4 +1,4 @@
-#include "IPeerTransport.h"
+#include "transport/IPeerTransport.h"
 
 namespace corvane {
 

@@ -1,4 +1,4 @@
-#include "RelayCandidate.h"
+#include "transport/RelayCandidate.h"
 
 namespace corvane {
 

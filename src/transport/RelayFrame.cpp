@@ -1,4 +1,4 @@
-#include "RelayFrame.h"
+#include "transport/RelayFrame.h"
 
 #include <QtEndian>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ITransport.h"
+#include "transport/ITransport.h"
 
 #include <QByteArray>
 

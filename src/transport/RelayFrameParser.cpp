@@ -1,4 +1,4 @@
-#include "RelayFrameParser.h"
+#include "transport/RelayFrameParser.h"
 
 #include <QtEndian>
 

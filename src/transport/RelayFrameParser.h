@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ByteVector.h"
-#include "RelayFrame.h"
+#include "common/ByteVector.h"
+#include "transport/RelayFrame.h"
 
 #include <QByteArray>
 

@@ -1,8 +1,8 @@
-#include "RelayTransport.h"
+#include "transport/RelayTransport.h"
 
-#include "ByteViews.h"
-#include "JsonFields.h"
-#include "SocketRoundTrip.h"
+#include "common/ByteViews.h"
+#include "common/JsonFields.h"
+#include "transport/SocketRoundTrip.h"
 
 #include <spdlog/spdlog.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ByteVector.h"
-#include "ITransport.h"
-#include "RelayFrameParser.h"
+#include "common/ByteVector.h"
+#include "transport/ITransport.h"
+#include "transport/RelayFrameParser.h"
 
 #include <QAbstractSocket>
 #include <QTcpSocket>

@@ -1,6 +1,6 @@
-#include "TransportManager.h"
+#include "transport/TransportManager.h"
 
-#include "RelayTransport.h"
+#include "transport/RelayTransport.h"
 
 #include <QCoreApplication>
 #include <spdlog/spdlog.h>

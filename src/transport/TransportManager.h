@@ -1,7 +1,7 @@
 #pragma once
 
-#include "IPeerTransport.h"
-#include "RelayCandidate.h"
+#include "transport/IPeerTransport.h"
+#include "transport/RelayCandidate.h"
 
 #include <QObject>
 #include <QTimer>

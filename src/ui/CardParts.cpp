@@ -1,6 +1,6 @@
-#include "CardParts.h"
+#include "ui/CardParts.h"
 
-#include "UiColors.h"
+#include "ui/UiColors.h"
 
 #include <QFrame>
 #include <QIcon>

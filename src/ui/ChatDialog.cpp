@@ -1,4 +1,4 @@
-#include "ChatDialog.h"
+#include "ui/ChatDialog.h"
 
 #include <QDateTime>
 #include <QHBoxLayout>

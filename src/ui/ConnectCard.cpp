@@ -1,9 +1,9 @@
-#include "ConnectCard.h"
+#include "ui/ConnectCard.h"
 
-#include "CardParts.h"
-#include "PartnerId.h"
-#include "SettingsController.h"
-#include "UiColors.h"
+#include "app/settings/SettingsController.h"
+#include "common/PartnerId.h"
+#include "ui/CardParts.h"
+#include "ui/UiColors.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
-#include "ConnectionDialog.h"
+#include "ui/ConnectionDialog.h"
 
-#include "MessageBoxes.h"
+#include "ui/MessageBoxes.h"
 
 #include <QFormLayout>
 #include <QLineEdit>

@@ -1,9 +1,9 @@
-#include "ConnectionInfoDialog.h"
+#include "ui/ConnectionInfoDialog.h"
 
-#include "ConnectionQualityMonitor.h"
-#include "PartnerId.h"
-#include "SessionManager.h"
-#include "ValueFormats.h"
+#include "common/PartnerId.h"
+#include "common/ValueFormats.h"
+#include "services/ConnectionQualityMonitor.h"
+#include "session/SessionManager.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -1,8 +1,8 @@
-#include "DeviceCard.h"
+#include "ui/DeviceCard.h"
 
-#include "CardParts.h"
-#include "PartnerId.h"
-#include "UiColors.h"
+#include "common/PartnerId.h"
+#include "ui/CardParts.h"
+#include "ui/UiColors.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "FileIcons.h"
+#include "ui/FileIcons.h"
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -1,14 +1,14 @@
-#include "FileManagerDialog.h"
+#include "ui/FileManagerDialog.h"
 
-#include "FileTransferService.h"
-#include "LocalFilePane.h"
-#include "MessageBoxes.h"
-#include "RemoteFilePane.h"
-#include "RemotePath.h"
-#include "ShownNames.h"
-#include "TransferPlan.h"
-#include "TransferRunner.h"
-#include "TransferStatus.h"
+#include "common/ShownNames.h"
+#include "services/FileTransferService.h"
+#include "services/RemotePath.h"
+#include "services/TransferPlan.h"
+#include "services/TransferRunner.h"
+#include "ui/LocalFilePane.h"
+#include "ui/MessageBoxes.h"
+#include "ui/RemoteFilePane.h"
+#include "ui/TransferStatus.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>

@@ -1,4 +1,4 @@
-#include "FitRectangle.h"
+#include "ui/FitRectangle.h"
 
 #include <cmath>
 

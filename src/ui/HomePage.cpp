@@ -1,11 +1,11 @@
-#include "HomePage.h"
+#include "ui/HomePage.h"
 
-#include "CardParts.h"
-#include "ConnectCard.h"
-#include "DeploymentConstants.h"
-#include "DeviceCard.h"
-#include "UiColors.h"
-#include "UpdateBanner.h"
+#include "app/settings/DeploymentConstants.h"
+#include "ui/CardParts.h"
+#include "ui/ConnectCard.h"
+#include "ui/DeviceCard.h"
+#include "ui/UiColors.h"
+#include "ui/UpdateBanner.h"
 
 #include <QClipboard>
 #include <QEvent>

@@ -1,9 +1,9 @@
-#include "LocalFilePane.h"
+#include "ui/LocalFilePane.h"
 
-#include "FileIcons.h"
-#include "NameColumn.h"
-#include "RemoteFilePane.h"
-#include "ValueFormats.h"
+#include "common/ValueFormats.h"
+#include "ui/FileIcons.h"
+#include "ui/NameColumn.h"
+#include "ui/RemoteFilePane.h"
 
 #include <QAbstractFileIconProvider>
 #include <QCoreApplication>

@@ -1,29 +1,28 @@
-#include "MainWindow.h"
+#include "ui/MainWindow.h"
 
-#include "ApiClient.h"
-#include "AuthController.h"
-#include "ConnectCard.h"
-#include "ConnectionQualityMonitor.h"
-#include "DeploymentConstants.h"
-#include "DeviceCard.h"
-#include "HomePage.h"
-#include "ISystemIntegration.h"
-#include "MessageBoxes.h"
-#include "PartnerId.h"
-#include "QualityIndicator.h"
-#include "SessionDialogs.h"
-#include "SessionManager.h"
-#include "SessionSettings.h"
-#include "SettingsController.h"
-#include "SettingsDialog.h"
-#include "ShownNames.h"
-#include "SignalingClient.h"
-#include "SystemTrayIcon.h"
-#include "UiColors.h"
-#include "UpdateBanner.h"
-#include "ViewerPage.h"
-#include "WakeOnLanAction.h"
-#include "WindowGeometry.h"
+#include "app/settings/DeploymentConstants.h"
+#include "app/settings/SettingsController.h"
+#include "common/PartnerId.h"
+#include "common/ShownNames.h"
+#include "integration/ISystemIntegration.h"
+#include "network/identity/AuthController.h"
+#include "network/server/ApiClient.h"
+#include "network/server/SignalingClient.h"
+#include "services/ConnectionQualityMonitor.h"
+#include "session/SessionManager.h"
+#include "ui/ConnectCard.h"
+#include "ui/DeviceCard.h"
+#include "ui/HomePage.h"
+#include "ui/MessageBoxes.h"
+#include "ui/QualityIndicator.h"
+#include "ui/SessionDialogs.h"
+#include "ui/SettingsDialog.h"
+#include "ui/SystemTrayIcon.h"
+#include "ui/UiColors.h"
+#include "ui/UpdateBanner.h"
+#include "ui/ViewerPage.h"
+#include "ui/WakeOnLanAction.h"
+#include "ui/WindowGeometry.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -222,7 +221,7 @@ void MainWindow::onSettingsClicked() {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &SettingsDialog::settingsChanged, this, [this] {
         spdlog::info("Settings updated by user");
-        applySessionSettings(*m_session, *m_settings);
+        Q_EMIT settingsChanged();
     });
     dialog->open();
 }

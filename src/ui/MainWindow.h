@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ConnectionStats.h"
-#include "DecodedFrame.h"
-#include "MainWindowPlatform.h"
-#include "SessionState.h"
+#include "media/DecodedFrame.h"
+#include "services/ConnectionStats.h"
+#include "session/SessionState.h"
+#include "ui/MainWindowPlatform.h"
 
 #include <QMainWindow>
 #include <QSystemTrayIcon>
@@ -68,6 +68,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void updateRequested(QString downloadUrl);
+    /// The user has changed the settings, and they are stored.
+    void settingsChanged();
     /// The program should end: the window was closed for good, the tray's Quit was chosen, or an
     /// installer is waiting for it.
     void quitRequested();

@@ -1,4 +1,4 @@
-#include "NameColumn.h"
+#include "ui/NameColumn.h"
 
 #include <QTreeView>
 

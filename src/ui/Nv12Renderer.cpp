@@ -1,7 +1,7 @@
-#include "Nv12Renderer.h"
+#include "ui/Nv12Renderer.h"
 
-#include "DecodedFrame.h"
-#include "Nv12Shaders.h"
+#include "media/DecodedFrame.h"
+#include "ui/Nv12Shaders.h"
 
 #include <QOpenGLShaderProgram>
 #include <spdlog/spdlog.h>

@@ -1,4 +1,4 @@
-#include "OpenGlProbe.h"
+#include "ui/OpenGlProbe.h"
 
 #include <QOffscreenSurface>
 #include <QOpenGLContext>

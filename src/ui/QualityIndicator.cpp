@@ -1,6 +1,6 @@
-#include "QualityIndicator.h"
+#include "ui/QualityIndicator.h"
 
-#include "UiColors.h"
+#include "ui/UiColors.h"
 
 namespace corvane {
 

@@ -1,9 +1,9 @@
-#include "RemoteDesktopWidget.h"
+#include "ui/RemoteDesktopWidget.h"
 
-#include "FitRectangle.h"
-#include "MonotonicClock.h"
-#include "NativeKey.h"
-#include "Nv12Renderer.h"
+#include "common/MonotonicClock.h"
+#include "input/NativeKey.h"
+#include "ui/FitRectangle.h"
+#include "ui/Nv12Renderer.h"
 
 #include <QMouseEvent>
 #include <QOpenGLContext>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DecodedFrame.h"
-#include "InputEvent.h"
+#include "input/InputEvent.h"
+#include "media/DecodedFrame.h"
 
 #include <QHash>
 #include <QOpenGLWidget>

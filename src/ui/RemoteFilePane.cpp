@@ -1,9 +1,9 @@
-#include "RemoteFilePane.h"
+#include "ui/RemoteFilePane.h"
 
-#include "CardParts.h"
-#include "FileIcons.h"
-#include "NameColumn.h"
-#include "ValueFormats.h"
+#include "common/ValueFormats.h"
+#include "ui/CardParts.h"
+#include "ui/FileIcons.h"
+#include "ui/NameColumn.h"
 
 #include <QCollator>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileEntry.h"
+#include "services/FileEntry.h"
 
 #include <QList>
 #include <QStringList>

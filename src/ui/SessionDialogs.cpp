@@ -1,10 +1,10 @@
-#include "SessionDialogs.h"
+#include "ui/SessionDialogs.h"
 
-#include "ChatDialog.h"
-#include "ChatService.h"
-#include "ConnectionInfoDialog.h"
-#include "FileManagerDialog.h"
-#include "SessionManager.h"
+#include "services/ChatService.h"
+#include "session/SessionManager.h"
+#include "ui/ChatDialog.h"
+#include "ui/ConnectionInfoDialog.h"
+#include "ui/FileManagerDialog.h"
 
 #include <QDateTime>
 #include <spdlog/spdlog.h>

@@ -1,8 +1,8 @@
-#include "SettingsDialog.h"
+#include "ui/SettingsDialog.h"
 
-#include "ISystemIntegration.h"
-#include "MessageBoxes.h"
-#include "SettingsController.h"
+#include "app/settings/SettingsController.h"
+#include "integration/ISystemIntegration.h"
+#include "ui/MessageBoxes.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "MonitorInfo.h"
+#include "common/MonitorInfo.h"
 
 #include <QDialog>
 #include <QFuture>

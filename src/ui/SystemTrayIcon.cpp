@@ -1,7 +1,7 @@
-#include "SystemTrayIcon.h"
+#include "ui/SystemTrayIcon.h"
 
-#include "ApplicationIcon.h"
-#include "UiColors.h"
+#include "ui/ApplicationIcon.h"
+#include "ui/UiColors.h"
 
 #include <QMenu>
 #include <spdlog/spdlog.h>

@@ -1,6 +1,6 @@
-#include "TransferStatus.h"
+#include "ui/TransferStatus.h"
 
-#include "ValueFormats.h"
+#include "common/ValueFormats.h"
 
 #include <QLabel>
 #include <QProgressBar>

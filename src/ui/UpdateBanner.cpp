@@ -1,6 +1,6 @@
-#include "UpdateBanner.h"
+#include "ui/UpdateBanner.h"
 
-#include "UiColors.h"
+#include "ui/UiColors.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,9 +1,9 @@
-#include "ViewerPage.h"
+#include "ui/ViewerPage.h"
 
-#include "OpenGlProbe.h"
-#include "RemoteDesktopWidget.h"
-#include "WindowGeometry.h"
-#include "WindowRenewal.h"
+#include "ui/OpenGlProbe.h"
+#include "ui/RemoteDesktopWidget.h"
+#include "ui/WindowGeometry.h"
+#include "ui/WindowRenewal.h"
 
 #include <QVBoxLayout>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DecodedFrame.h"
-#include "InputEvent.h"
-#include "ViewerToolBar.h"
+#include "input/InputEvent.h"
+#include "media/DecodedFrame.h"
+#include "ui/ViewerToolBar.h"
 
 #include <QWidget>
 

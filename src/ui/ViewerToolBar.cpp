@@ -1,7 +1,7 @@
-#include "ViewerToolBar.h"
+#include "ui/ViewerToolBar.h"
 
-#include "QualityIndicator.h"
-#include "UiColors.h"
+#include "ui/QualityIndicator.h"
+#include "ui/UiColors.h"
 
 #include <QActionGroup>
 #include <QHBoxLayout>

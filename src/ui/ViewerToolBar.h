@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RemoteDesktopWidget.h"
+#include "ui/RemoteDesktopWidget.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "WakeOnLan.h"
+#include "ui/WakeOnLan.h"
 
 #include <QRegularExpression>
 #include <QUdpSocket>

@@ -1,8 +1,8 @@
-#include "WakeOnLanAction.h"
+#include "ui/WakeOnLanAction.h"
 
-#include "MessageBoxes.h"
-#include "SettingsController.h"
-#include "WakeOnLan.h"
+#include "app/settings/SettingsController.h"
+#include "ui/MessageBoxes.h"
+#include "ui/WakeOnLan.h"
 
 #include <QInputDialog>
 #include <spdlog/spdlog.h>

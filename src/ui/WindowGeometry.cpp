@@ -1,4 +1,4 @@
-#include "WindowGeometry.h"
+#include "ui/WindowGeometry.h"
 
 #include <QGuiApplication>
 #include <QScreen>

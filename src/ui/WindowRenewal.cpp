@@ -1,4 +1,4 @@
-#include "WindowRenewal.h"
+#include "ui/WindowRenewal.h"
 
 #include <QWidget>
 #include <QWindow>

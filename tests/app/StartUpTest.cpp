@@ -1,9 +1,9 @@
-#include "CommandLine.h"
-#include "Files.h"
-#include "LogCapture.h"
-#include "Logging.h"
-#include "Theme.h"
-#include "Translation.h"
+#include "app/CommandLine.h"
+#include "app/Logging.h"
+#include "app/Theme.h"
+#include "app/Translation.h"
+#include "support/Files.h"
+#include "support/LogCapture.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

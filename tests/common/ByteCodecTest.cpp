@@ -1,5 +1,5 @@
-#include "ByteReader.h"
-#include "ByteWriter.h"
+#include "common/ByteReader.h"
+#include "common/ByteWriter.h"
 
 #include <gtest/gtest.h>
 

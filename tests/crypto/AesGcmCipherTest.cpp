@@ -1,6 +1,6 @@
-#include "AesGcmCipher.h"
-#include "Bytes.h"
-#include "LogCapture.h"
+#include "crypto/AesGcmCipher.h"
+#include "support/Bytes.h"
+#include "support/LogCapture.h"
 
 #include <gmock/gmock.h>
 #include <openssl/err.h>

@@ -1,8 +1,8 @@
-#include "EcdhKeyExchange.h"
-#include "KeyDerivation.h"
-#include "LogCapture.h"
-#include "MatchesPattern.h"
-#include "OpensslErrors.h"
+#include "crypto/EcdhKeyExchange.h"
+#include "crypto/KeyDerivation.h"
+#include "crypto/OpensslErrors.h"
+#include "support/LogCapture.h"
+#include "support/MatchesPattern.h"
 
 #include <QByteArray>
 #include <gmock/gmock.h>

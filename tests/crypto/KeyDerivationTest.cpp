@@ -1,6 +1,6 @@
-#include "KeyDerivation.h"
-#include "Bytes.h"
-#include "OpensslHandles.h"
+#include "crypto/KeyDerivation.h"
+#include "crypto/OpensslHandles.h"
+#include "support/Bytes.h"
 
 #include <gtest/gtest.h>
 #include <openssl/evp.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DevServer.h"
-#include "Eventually.h"
+#include "devserver/DevServer.h"
+#include "support/Eventually.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>

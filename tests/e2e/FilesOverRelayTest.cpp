@@ -1,7 +1,7 @@
-#include "DisplayUser.h"
-#include "FileManager.h"
-#include "LiveSession.h"
-#include "SampleFile.h"
+#include "harness/DisplayUser.h"
+#include "harness/FileManager.h"
+#include "harness/LiveSession.h"
+#include "harness/SampleFile.h"
 
 #include <QDir>
 #include <QFile>

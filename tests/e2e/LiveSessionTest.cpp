@@ -1,5 +1,5 @@
-#include "LiveSession.h"
-#include "IPeerTransport.h"
+#include "harness/LiveSession.h"
+#include "transport/IPeerTransport.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "DisplayUser.h"
-#include "WaitFor.h"
-#include "WineHost.h"
-#include "XvfbServer.h"
+#include "harness/DisplayUser.h"
+#include "harness/WaitFor.h"
+#include "harness/WineHost.h"
+#include "xvfb/XvfbServer.h"
 
 #include <QDir>
 #include <QFile>

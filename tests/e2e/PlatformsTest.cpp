@@ -1,5 +1,5 @@
-#include "LiveSession.h"
-#include "WineHost.h"
+#include "harness/LiveSession.h"
+#include "harness/WineHost.h"
 
 #include <QRegularExpression>
 #include <gtest/gtest.h>

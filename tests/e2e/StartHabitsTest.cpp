@@ -1,7 +1,7 @@
-#include "ClientProcess.h"
-#include "LiveSession.h"
-#include "WineHost.h"
-#include "XvfbServer.h"
+#include "harness/ClientProcess.h"
+#include "harness/LiveSession.h"
+#include "harness/WineHost.h"
+#include "xvfb/XvfbServer.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

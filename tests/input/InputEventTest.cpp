@@ -1,5 +1,5 @@
-#include "InputEvent.h"
-#include "ByteViews.h"
+#include "input/InputEvent.h"
+#include "common/ByteViews.h"
 
 #include <QByteArray>
 #include <gmock/gmock.h>

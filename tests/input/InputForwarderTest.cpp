@@ -1,5 +1,5 @@
-#include "InputForwarder.h"
-#include "LogCapture.h"
+#include "input/InputForwarder.h"
+#include "support/LogCapture.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

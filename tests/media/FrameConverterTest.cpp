@@ -1,5 +1,5 @@
-#include "FrameConverter.h"
-#include "LogCapture.h"
+#include "media/FrameConverter.h"
+#include "support/LogCapture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "ScreenCaptureManager.h"
-#include "CaptureBackendCandidate.h"
-#include "Eventually.h"
-#include "LogCapture.h"
+#include "media/ScreenCaptureManager.h"
+#include "media/CaptureBackendCandidate.h"
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
-#include "AV1Decoder.h"
-#include "AV1Encoder.h"
-#include "DesktopScene.h"
-#include "FrameConverter.h"
-#include "LogCapture.h"
+#include "media/AV1Decoder.h"
+#include "media/AV1Encoder.h"
+#include "media/FrameConverter.h"
+#include "support/DesktopScene.h"
+#include "support/LogCapture.h"
 
 #include <gtest/gtest.h>
 

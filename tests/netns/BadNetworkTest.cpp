@@ -1,6 +1,6 @@
-#include "DevServer.h"
-#include "PeerProcess.h"
-#include "TestNetwork.h"
+#include "devserver/DevServer.h"
+#include "netns/PeerProcess.h"
+#include "netns/TestNetwork.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DevServer.h"
-#include "Eventually.h"
-#include "LogCapture.h"
+#include "devserver/DevServer.h"
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
 
 #include <gmock/gmock.h>
 

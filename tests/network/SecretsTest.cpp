@@ -1,10 +1,10 @@
-#include "LogCapture.h"
-#include "MachineFingerprint.h"
-#include "MachineIdentity.h"
-#include "MatchesPattern.h"
-#include "PairingCodeGenerator.h"
-#include "PasswordPolicy.h"
-#include "SessionPasswordGenerator.h"
+#include "network/identity/MachineFingerprint.h"
+#include "network/identity/MachineIdentity.h"
+#include "network/identity/PairingCodeGenerator.h"
+#include "network/identity/PasswordPolicy.h"
+#include "network/identity/SessionPasswordGenerator.h"
+#include "support/LogCapture.h"
+#include "support/MatchesPattern.h"
 
 #include <gmock/gmock.h>
 

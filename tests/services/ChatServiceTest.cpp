@@ -1,6 +1,6 @@
-#include "ChatService.h"
-#include "Bytes.h"
-#include "LogCapture.h"
+#include "services/ChatService.h"
+#include "support/Bytes.h"
+#include "support/LogCapture.h"
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "ClipboardSharing.h"
-#include "Eventually.h"
-#include "LogCapture.h"
+#include "services/ClipboardSharing.h"
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

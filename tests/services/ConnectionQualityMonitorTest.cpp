@@ -1,4 +1,4 @@
-#include "ConnectionQualityMonitor.h"
+#include "services/ConnectionQualityMonitor.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,8 +1,8 @@
-#include "FileTransferService.h"
-#include "Bytes.h"
-#include "FileMessage.h"
-#include "Files.h"
-#include "LogCapture.h"
+#include "services/FileTransferService.h"
+#include "services/FileMessage.h"
+#include "support/Bytes.h"
+#include "support/Files.h"
+#include "support/LogCapture.h"
 
 #include <QDir>
 #include <QSignalSpy>

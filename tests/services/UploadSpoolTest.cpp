@@ -1,5 +1,5 @@
-#include "UploadSpool.h"
-#include "Files.h"
+#include "services/UploadSpool.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
-#include "FramePipeline.h"
-#include "AesGcmCipher.h"
-#include "LogCapture.h"
+#include "session/FramePipeline.h"
+#include "crypto/AesGcmCipher.h"
+#include "support/LogCapture.h"
 
 #include <gtest/gtest.h>
 

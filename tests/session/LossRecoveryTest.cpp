@@ -1,8 +1,8 @@
-#include "ByteViews.h"
-#include "DesktopScene.h"
-#include "FrameConverter.h"
-#include "SessionDataPlane.h"
 #include "TestPlatform.h"
+#include "common/ByteViews.h"
+#include "media/FrameConverter.h"
+#include "session/SessionDataPlane.h"
+#include "support/DesktopScene.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "PictureRecovery.h"
+#include "session/PictureRecovery.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,11 +1,11 @@
-#include "SessionDataPlane.h"
-#include "ByteViews.h"
-#include "Bytes.h"
-#include "ChatService.h"
-#include "Eventually.h"
-#include "FileTransferService.h"
-#include "LogCapture.h"
+#include "session/SessionDataPlane.h"
 #include "TestPlatform.h"
+#include "common/ByteViews.h"
+#include "services/ChatService.h"
+#include "services/FileTransferService.h"
+#include "support/Bytes.h"
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
-#include "ChatService.h"
-#include "ConnectionQualityMonitor.h"
-#include "FileTransferService.h"
-#include "Files.h"
 #include "SessionTest.h"
+#include "services/ChatService.h"
+#include "services/ConnectionQualityMonitor.h"
+#include "services/FileTransferService.h"
+#include "support/Files.h"
 
 #include <QPointer>
 #include <QSignalSpy>

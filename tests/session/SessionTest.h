@@ -1,13 +1,13 @@
 #pragma once
 
-#include "ApiClient.h"
-#include "DevServer.h"
-#include "Eventually.h"
-#include "JsonFields.h"
-#include "LogCapture.h"
-#include "SessionManager.h"
-#include "SignalingClient.h"
 #include "TestPlatform.h"
+#include "common/JsonFields.h"
+#include "devserver/DevServer.h"
+#include "network/server/ApiClient.h"
+#include "network/server/SignalingClient.h"
+#include "session/SessionManager.h"
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DesktopScene.h"
-#include "MonotonicClock.h"
-#include "SessionPlatform.h"
+#include "common/MonotonicClock.h"
+#include "session/SessionPlatform.h"
+#include "support/DesktopScene.h"
 
 #include <QSize>
 

@@ -1,10 +1,10 @@
-#include "Eventually.h"
-#include "FileTransferService.h"
-#include "LogCapture.h"
-#include "RelayNode.h"
-#include "RelayTransport.h"
-#include "SessionDataPlane.h"
 #include "TestPlatform.h"
+#include "devserver/RelayNode.h"
+#include "services/FileTransferService.h"
+#include "session/SessionDataPlane.h"
+#include "support/Eventually.h"
+#include "support/LogCapture.h"
+#include "transport/RelayTransport.h"
 
 #include <QCryptographicHash>
 #include <QFile>

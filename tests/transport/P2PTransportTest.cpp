@@ -1,5 +1,5 @@
-#include "P2PTransport.h"
-#include "LogCapture.h"
+#include "transport/P2PTransport.h"
+#include "support/LogCapture.h"
 
 #include <QSignalSpy>
 #include <QTest>

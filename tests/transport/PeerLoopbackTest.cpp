@@ -1,5 +1,5 @@
-#include "LogCapture.h"
-#include "P2PTransport.h"
+#include "support/LogCapture.h"
+#include "transport/P2PTransport.h"
 
 #include <QSignalSpy>
 #include <QTest>

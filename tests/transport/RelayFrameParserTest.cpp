@@ -1,6 +1,6 @@
-#include "RelayFrameParser.h"
-#include "ByteViews.h"
+#include "transport/RelayFrameParser.h"
 #include "ScriptedRelay.h"
+#include "common/ByteViews.h"
 
 #include <gtest/gtest.h>
 

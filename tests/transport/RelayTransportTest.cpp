@@ -1,6 +1,6 @@
-#include "RelayTransport.h"
-#include "LogCapture.h"
+#include "transport/RelayTransport.h"
 #include "ScriptedRelay.h"
+#include "support/LogCapture.h"
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "TransportManager.h"
-#include "IPeerTransport.h"
-#include "LogCapture.h"
+#include "transport/TransportManager.h"
 #include "ScriptedRelay.h"
+#include "support/LogCapture.h"
+#include "transport/IPeerTransport.h"
 
 #include <QPointer>
 #include <QSignalSpy>

@@ -1,4 +1,4 @@
-#include "ConnectionDialog.h"
+#include "ui/ConnectionDialog.h"
 
 #include <QLineEdit>
 #include <QMessageBox>

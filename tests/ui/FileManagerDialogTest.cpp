@@ -1,8 +1,8 @@
-#include "FileManagerDialog.h"
-#include "FileTransferService.h"
-#include "Files.h"
-#include "LogCapture.h"
-#include "TransferRunner.h"
+#include "ui/FileManagerDialog.h"
+#include "services/FileTransferService.h"
+#include "services/TransferRunner.h"
+#include "support/Files.h"
+#include "support/LogCapture.h"
 
 #include <QDir>
 #include <QFileSystemModel>

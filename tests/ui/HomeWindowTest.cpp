@@ -1,7 +1,7 @@
-#include "PartnerId.h"
-#include "SystemTrayIcon.h"
-#include "WakeOnLan.h"
 #include "WindowFixture.h"
+#include "common/PartnerId.h"
+#include "ui/SystemTrayIcon.h"
+#include "ui/WakeOnLan.h"
 
 #include <QInputDialog>
 #include <QListWidget>

@@ -1,5 +1,5 @@
-#include "PartnerId.h"
 #include "WindowFixture.h"
+#include "common/PartnerId.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

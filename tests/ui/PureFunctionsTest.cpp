@@ -1,8 +1,8 @@
-#include "FitRectangle.h"
-#include "PartnerId.h"
-#include "RemotePath.h"
-#include "ShownNames.h"
-#include "ValueFormats.h"
+#include "common/PartnerId.h"
+#include "common/ShownNames.h"
+#include "common/ValueFormats.h"
+#include "services/RemotePath.h"
+#include "ui/FitRectangle.h"
 
 #include <gtest/gtest.h>
 

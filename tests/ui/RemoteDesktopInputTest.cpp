@@ -1,5 +1,5 @@
 #include "NativeKeyCodes.h"
-#include "RemoteDesktopWidget.h"
+#include "ui/RemoteDesktopWidget.h"
 
 #include <QMouseEvent>
 #include <QTest>

@@ -1,6 +1,6 @@
-#include "LogCapture.h"
-#include "RemoteDesktopWidget.h"
-#include "ViewerPage.h"
+#include "support/LogCapture.h"
+#include "ui/RemoteDesktopWidget.h"
+#include "ui/ViewerPage.h"
 
 #include <QImage>
 #include <QTest>

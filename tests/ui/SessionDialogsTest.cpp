@@ -1,9 +1,9 @@
-#include "ApiClient.h"
-#include "ChatDialog.h"
-#include "ConnectionInfoDialog.h"
-#include "ConnectionQualityMonitor.h"
-#include "SessionManager.h"
-#include "SignalingClient.h"
+#include "network/server/ApiClient.h"
+#include "network/server/SignalingClient.h"
+#include "services/ConnectionQualityMonitor.h"
+#include "session/SessionManager.h"
+#include "ui/ChatDialog.h"
+#include "ui/ConnectionInfoDialog.h"
 
 #include <QDateTime>
 #include <QFormLayout>

@@ -1,6 +1,6 @@
-#include "PartnerId.h"
-#include "RemoteDesktopWidget.h"
 #include "WindowFixture.h"
+#include "common/PartnerId.h"
+#include "ui/RemoteDesktopWidget.h"
 
 #include <QScreen>
 

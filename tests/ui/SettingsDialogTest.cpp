@@ -1,8 +1,8 @@
-#include "SettingsDialog.h"
-#include "Files.h"
-#include "ISystemIntegration.h"
+#include "ui/SettingsDialog.h"
 #include "ScratchSettings.h"
-#include "SettingsController.h"
+#include "app/settings/SettingsController.h"
+#include "integration/ISystemIntegration.h"
+#include "support/Files.h"
 
 #include <QApplication>
 #include <QCheckBox>

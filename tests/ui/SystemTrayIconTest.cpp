@@ -1,4 +1,4 @@
-#include "SystemTrayIcon.h"
+#include "ui/SystemTrayIcon.h"
 
 #include <QMenu>
 #include <QSignalSpy>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "AuthController.h"
-#include "HeartbeatService.h"
-#include "ISystemIntegration.h"
-#include "MainWindow.h"
 #include "ScratchSettings.h"
-#include "SessionTest.h"
-#include "SettingsController.h"
+#include "app/settings/SettingsController.h"
+#include "integration/ISystemIntegration.h"
+#include "network/identity/AuthController.h"
+#include "network/reachability/HeartbeatService.h"
+#include "session/SessionTest.h"
+#include "ui/MainWindow.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
-#include "ChatService.h"
-#include "FileTransferService.h"
-#include "PartnerId.h"
 #include "WindowFixture.h"
+#include "common/PartnerId.h"
+#include "services/ChatService.h"
+#include "services/FileTransferService.h"
 
 #include <QDialog>
 #include <QDir>

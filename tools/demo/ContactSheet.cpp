@@ -1,4 +1,4 @@
-#include "ContactSheet.h"
+#include "demo/ContactSheet.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "DemoReport.h"
+#include "demo/DemoReport.h"
 
 #include <cstdio>
 

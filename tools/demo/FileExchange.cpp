@@ -1,8 +1,8 @@
-#include "FileExchange.h"
+#include "demo/FileExchange.h"
 
-#include "SampleFile.h"
-#include "Stage.h"
-#include "WaitFor.h"
+#include "demo/Stage.h"
+#include "harness/SampleFile.h"
+#include "harness/WaitFor.h"
 
 #include <QDir>
 #include <QFile>

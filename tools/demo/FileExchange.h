@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileManager.h"
+#include "harness/FileManager.h"
 
 #include <QString>
 

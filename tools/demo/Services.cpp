@@ -1,7 +1,7 @@
-#include "Services.h"
+#include "demo/Services.h"
 
-#include "Stage.h"
-#include "WaitFor.h"
+#include "demo/Stage.h"
+#include "harness/WaitFor.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ContactSheet.h"
-#include "DemoReport.h"
-#include "DisplayUser.h"
-#include "LiveSession.h"
+#include "demo/ContactSheet.h"
+#include "demo/DemoReport.h"
+#include "harness/DisplayUser.h"
+#include "harness/LiveSession.h"
 
 #include <QPoint>
 

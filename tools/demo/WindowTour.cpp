@@ -1,7 +1,7 @@
-#include "WindowTour.h"
+#include "demo/WindowTour.h"
 
-#include "Stage.h"
-#include "WaitFor.h"
+#include "demo/Stage.h"
+#include "harness/WaitFor.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
-#include "FileExchange.h"
-#include "PictureComparison.h"
-#include "Services.h"
-#include "Stage.h"
-#include "WindowTour.h"
-#include "WineHost.h"
+#include "demo/FileExchange.h"
+#include "demo/Services.h"
+#include "demo/Stage.h"
+#include "demo/WindowTour.h"
+#include "harness/PictureComparison.h"
+#include "harness/WineHost.h"
 
 #include <QCommandLineParser>
 #include <QDir>

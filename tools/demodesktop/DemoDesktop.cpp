@@ -1,7 +1,7 @@
-#include "DemoDesktop.h"
+#include "demodesktop/DemoDesktop.h"
 
-#include "MovingShape.h"
-#include "ScrollingText.h"
+#include "demodesktop/MovingShape.h"
+#include "demodesktop/ScrollingText.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

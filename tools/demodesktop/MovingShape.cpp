@@ -1,4 +1,4 @@
-#include "MovingShape.h"
+#include "demodesktop/MovingShape.h"
 
 #include <QPainter>
 

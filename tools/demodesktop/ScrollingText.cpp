@@ -1,4 +1,4 @@
-#include "ScrollingText.h"
+#include "demodesktop/ScrollingText.h"
 
 #include <QTime>
 

@@ -1,4 +1,4 @@
-#include "DemoDesktop.h"
+#include "demodesktop/DemoDesktop.h"
 
 #include <QApplication>
 #include <QScreen>

@@ -1,10 +1,10 @@
-#include "DevServer.h"
+#include "devserver/DevServer.h"
 
-#include "HttpFront.h"
-#include "MisbehaviourControl.h"
-#include "RestApi.h"
-#include "SignalingHub.h"
-#include "StunResponder.h"
+#include "devserver/HttpFront.h"
+#include "devserver/MisbehaviourControl.h"
+#include "devserver/RestApi.h"
+#include "devserver/SignalingHub.h"
+#include "devserver/StunResponder.h"
 
 #include <QWebSocket>
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "DevServerConfig.h"
-#include "DeviceRegistry.h"
-#include "HttpMessages.h"
-#include "Misbehaviour.h"
-#include "PublicPages.h"
-#include "RelayNode.h"
-#include "SessionBook.h"
+#include "devserver/DevServerConfig.h"
+#include "devserver/DeviceRegistry.h"
+#include "devserver/HttpMessages.h"
+#include "devserver/Misbehaviour.h"
+#include "devserver/PublicPages.h"
+#include "devserver/RelayNode.h"
+#include "devserver/SessionBook.h"
 
 #include <QJsonObject>
 #include <QList>

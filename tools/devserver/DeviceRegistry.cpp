@@ -1,4 +1,4 @@
-#include "DeviceRegistry.h"
+#include "devserver/DeviceRegistry.h"
 
 #include <QRandomGenerator>
 

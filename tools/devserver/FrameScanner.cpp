@@ -1,4 +1,4 @@
-#include "FrameScanner.h"
+#include "devserver/FrameScanner.h"
 
 #include <QtEndian>
 

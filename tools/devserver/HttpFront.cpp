@@ -1,6 +1,6 @@
-#include "HttpFront.h"
+#include "devserver/HttpFront.h"
 
-#include "Misbehaviour.h"
+#include "devserver/Misbehaviour.h"
 
 #include <QHttpServerRequest>
 #include <QMetaEnum>

@@ -1,4 +1,4 @@
-#include "HttpMessages.h"
+#include "devserver/HttpMessages.h"
 
 #include <QJsonDocument>
 

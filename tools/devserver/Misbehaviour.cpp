@@ -1,4 +1,4 @@
-#include "Misbehaviour.h"
+#include "devserver/Misbehaviour.h"
 
 namespace corvane::devserver {
 

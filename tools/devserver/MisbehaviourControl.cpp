@@ -1,6 +1,6 @@
-#include "MisbehaviourControl.h"
+#include "devserver/MisbehaviourControl.h"
 
-#include "DevServer.h"
+#include "devserver/DevServer.h"
 
 #include <QSet>
 

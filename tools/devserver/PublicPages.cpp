@@ -1,4 +1,4 @@
-#include "PublicPages.h"
+#include "devserver/PublicPages.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
-#include "RelayNode.h"
+#include "devserver/RelayNode.h"
 
-#include "RelayPeer.h"
+#include "devserver/RelayPeer.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>

@@ -1,6 +1,6 @@
-#include "RelayPeer.h"
+#include "devserver/RelayPeer.h"
 
-#include "HttpMessages.h"
+#include "devserver/HttpMessages.h"
 
 #include <QTcpSocket>
 

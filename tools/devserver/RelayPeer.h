@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FrameScanner.h"
+#include "devserver/FrameScanner.h"
 
 #include <QByteArray>
 #include <QObject>

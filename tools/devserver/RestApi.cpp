@@ -1,9 +1,9 @@
-#include "RestApi.h"
+#include "devserver/RestApi.h"
 
-#include "DeviceRegistry.h"
-#include "Misbehaviour.h"
-#include "SessionBook.h"
-#include "SignalingHub.h"
+#include "devserver/DeviceRegistry.h"
+#include "devserver/Misbehaviour.h"
+#include "devserver/SessionBook.h"
+#include "devserver/SignalingHub.h"
 
 #include <QRegularExpression>
 

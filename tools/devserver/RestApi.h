@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HttpMessages.h"
+#include "devserver/HttpMessages.h"
 
 namespace corvane::devserver {
 

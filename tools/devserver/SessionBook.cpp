@@ -1,4 +1,4 @@
-#include "SessionBook.h"
+#include "devserver/SessionBook.h"
 
 #include <QUuid>
 

@@ -1,9 +1,9 @@
-#include "SignalingHub.h"
+#include "devserver/SignalingHub.h"
 
-#include "DeviceRegistry.h"
-#include "HttpMessages.h"
-#include "Misbehaviour.h"
-#include "SessionBook.h"
+#include "devserver/DeviceRegistry.h"
+#include "devserver/HttpMessages.h"
+#include "devserver/Misbehaviour.h"
+#include "devserver/SessionBook.h"
 
 #include <QWebSocket>
 

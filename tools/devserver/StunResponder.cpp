@@ -1,4 +1,4 @@
-#include "StunResponder.h"
+#include "devserver/StunResponder.h"
 
 #include <QNetworkDatagram>
 #include <QUdpSocket>

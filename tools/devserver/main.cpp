@@ -1,5 +1,5 @@
-#include "DevServer.h"
-#include "MisbehaviourControl.h"
+#include "devserver/DevServer.h"
+#include "devserver/MisbehaviourControl.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

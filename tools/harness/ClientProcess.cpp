@@ -1,7 +1,7 @@
-#include "ClientProcess.h"
+#include "harness/ClientProcess.h"
 
-#include "WaitFor.h"
-#include "XvfbServer.h"
+#include "harness/WaitFor.h"
+#include "xvfb/XvfbServer.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IHost.h"
+#include "harness/IHost.h"
 
 #include <QProcess>
 #include <QString>

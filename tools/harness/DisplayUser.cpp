@@ -1,6 +1,6 @@
-#include "DisplayUser.h"
+#include "harness/DisplayUser.h"
 
-#include "WaitFor.h"
+#include "harness/WaitFor.h"
 
 #include <QElapsedTimer>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "XClipboard.h"
-#include "XDisplay.h"
+#include "harness/XClipboard.h"
+#include "harness/XDisplay.h"
 
 #include <QImage>
 #include <QPoint>

@@ -1,8 +1,8 @@
-#include "FileManager.h"
+#include "harness/FileManager.h"
 
-#include "ClientProcess.h"
-#include "DisplayUser.h"
-#include "WaitFor.h"
+#include "harness/ClientProcess.h"
+#include "harness/DisplayUser.h"
+#include "harness/WaitFor.h"
 
 namespace corvane::harness {
 

@@ -1,7 +1,7 @@
-#include "IHost.h"
+#include "harness/IHost.h"
 
-#include "LinuxHost.h"
-#include "WineHost.h"
+#include "harness/LinuxHost.h"
+#include "harness/WineHost.h"
 
 namespace corvane::harness {
 

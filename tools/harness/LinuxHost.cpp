@@ -1,4 +1,4 @@
-#include "LinuxHost.h"
+#include "harness/LinuxHost.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
-#include "LiveSession.h"
+#include "harness/LiveSession.h"
 
-#include "DeploymentConstants.h"
-#include "FitRectangle.h"
-#include "PictureComparison.h"
+#include "app/settings/DeploymentConstants.h"
+#include "harness/PictureComparison.h"
+#include "ui/FitRectangle.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ClientProcess.h"
-#include "DevServer.h"
-#include "WaitFor.h"
-#include "XDisplay.h"
-#include "XvfbServer.h"
+#include "devserver/DevServer.h"
+#include "harness/ClientProcess.h"
+#include "harness/WaitFor.h"
+#include "harness/XDisplay.h"
+#include "xvfb/XvfbServer.h"
 
 #include <QImage>
 #include <QProcess>

@@ -1,4 +1,4 @@
-#include "PictureComparison.h"
+#include "harness/PictureComparison.h"
 
 #include <QRgb>
 

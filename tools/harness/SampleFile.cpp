@@ -1,4 +1,4 @@
-#include "SampleFile.h"
+#include "harness/SampleFile.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>

@@ -1,4 +1,4 @@
-#include "WaitFor.h"
+#include "harness/WaitFor.h"
 
 #include <qtestsupport_core.h>
 

@@ -1,4 +1,4 @@
-#include "WineHost.h"
+#include "harness/WineHost.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
-#include "XClipboard.h"
+#include "harness/XClipboard.h"
 
-#include "WaitFor.h"
-#include "XReply.h"
+#include "harness/WaitFor.h"
+#include "harness/XReply.h"
 
 #include <array>
 #include <cstring>

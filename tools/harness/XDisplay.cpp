@@ -1,6 +1,6 @@
-#include "XDisplay.h"
+#include "harness/XDisplay.h"
 
-#include "XReply.h"
+#include "harness/XReply.h"
 
 #include <xcb/xtest.h>
 

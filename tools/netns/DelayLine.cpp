@@ -1,4 +1,4 @@
-#include "DelayLine.h"
+#include "netns/DelayLine.h"
 
 #include <algorithm>
 #include <array>

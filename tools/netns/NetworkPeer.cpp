@@ -1,8 +1,8 @@
-#include "ChatService.h"
-#include "DesktopScene.h"
-#include "FrameConverter.h"
-#include "MonotonicClock.h"
-#include "SessionTest.h"
+#include "common/MonotonicClock.h"
+#include "media/FrameConverter.h"
+#include "services/ChatService.h"
+#include "session/SessionTest.h"
+#include "support/DesktopScene.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>

@@ -1,4 +1,4 @@
-#include "PeerProcess.h"
+#include "netns/PeerProcess.h"
 
 #include <qtestsupport_core.h>
 

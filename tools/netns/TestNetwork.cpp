@@ -1,4 +1,4 @@
-#include "TestNetwork.h"
+#include "netns/TestNetwork.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DelayLine.h"
+#include "netns/DelayLine.h"
 
 #include <QString>
 

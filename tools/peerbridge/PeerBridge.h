@@ -1,6 +1,6 @@
 #pragma once
 
-#include "P2PTransport.h"
+#include "transport/P2PTransport.h"
 
 #include <QJsonObject>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "PeerBridge.h"
+#include "peerbridge/PeerBridge.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>

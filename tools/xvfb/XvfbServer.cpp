@@ -1,4 +1,4 @@
-#include "XvfbServer.h"
+#include "xvfb/XvfbServer.h"
 
 #include <csignal>
 #include <sys/prctl.h>

@@ -1,4 +1,4 @@
-#include "CompanionService.h"
+#include "app/CompanionService.h"
 
 namespace corvane {
 

@@ -1,4 +1,4 @@
-#include "QuitOnRequest.h"
+#include "app/QuitOnRequest.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>

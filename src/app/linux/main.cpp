@@ -1,4 +1,4 @@
-#include "Client.h"
+#include "app/Client.h"
 
 int main(int argc, char** argv) {
     return corvane::runClient(argc, argv);

@@ -1,6 +1,6 @@
-#include "SettingsController.h"
+#include "app/settings/SettingsController.h"
 
-#include "DeploymentConstants.h"
+#include "app/settings/DeploymentConstants.h"
 
 namespace corvane {
 

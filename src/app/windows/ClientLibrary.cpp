@@ -1,6 +1,6 @@
 // The client is a library for the launcher to load, which can tell the user when that fails.
-#include "Client.h"
-#include "ClientEntry.h"
+#include "app/Client.h"
+#include "app/windows/launcher/ClientEntry.h"
 
 #include <type_traits>
 

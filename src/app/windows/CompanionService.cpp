@@ -1,4 +1,4 @@
-#include "CompanionService.h"
+#include "app/CompanionService.h"
 
 #include <windows.h>
 

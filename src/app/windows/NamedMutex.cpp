@@ -1,4 +1,4 @@
-#include "NamedMutex.h"
+#include "app/windows/NamedMutex.h"
 
 namespace corvane {
 

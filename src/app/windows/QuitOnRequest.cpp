@@ -1,4 +1,4 @@
-#include "QuitOnRequest.h"
+#include "app/QuitOnRequest.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>

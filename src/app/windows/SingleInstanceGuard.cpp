@@ -1,6 +1,6 @@
-#include "SingleInstanceGuard.h"
+#include "app/SingleInstanceGuard.h"
 
-#include "NamedMutex.h"
+#include "app/windows/NamedMutex.h"
 
 namespace corvane {
 

@@ -1,4 +1,4 @@
-#include "KeyTranslation.h"
+#include "input/linux/KeyTranslation.h"
 
 #include <linux/input-event-codes.h>
 

@@ -1,6 +1,6 @@
-#include "NativeKey.h"
+#include "input/NativeKey.h"
 
-#include "KeyTranslation.h"
+#include "input/linux/KeyTranslation.h"
 
 namespace corvane {
 

@@ -1,6 +1,6 @@
-#include "XtestInputBackend.h"
+#include "input/linux/XtestInputBackend.h"
 
-#include "KeyTranslation.h"
+#include "input/linux/KeyTranslation.h"
 
 #include <spdlog/spdlog.h>
 #include <xcb/randr.h>

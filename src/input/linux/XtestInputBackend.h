@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IInputBackend.h"
+#include "input/IInputBackend.h"
 
 #include <xcb/xcb.h>
 

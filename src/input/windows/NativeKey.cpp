@@ -1,4 +1,4 @@
-#include "NativeKey.h"
+#include "input/NativeKey.h"
 
 namespace corvane {
 

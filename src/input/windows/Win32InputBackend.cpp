@@ -1,4 +1,4 @@
-#include "Win32InputBackend.h"
+#include "input/windows/Win32InputBackend.h"
 
 #include <spdlog/spdlog.h>
 

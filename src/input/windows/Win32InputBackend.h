@@ -1,7 +1,7 @@
 #pragma once
 
-#include "IInputBackend.h"
-#include "InputFunctions.h"
+#include "input/IInputBackend.h"
+#include "input/windows/InputFunctions.h"
 
 namespace corvane {
 

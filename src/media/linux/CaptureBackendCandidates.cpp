@@ -1,6 +1,6 @@
-#include "CaptureBackendCandidate.h"
+#include "media/CaptureBackendCandidate.h"
 
-#include "XcbCaptureBackend.h"
+#include "media/linux/XcbCaptureBackend.h"
 
 namespace corvane {
 

@@ -1,7 +1,7 @@
-#include "CursorImage.h"
+#include "media/linux/CursorImage.h"
 
-#include "X11Connection.h"
-#include "XcbReply.h"
+#include "x11/X11Connection.h"
+#include "x11/XcbReply.h"
 
 #include <xcb/xfixes.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CapturedFrame.h"
+#include "media/CapturedFrame.h"
 
 #include <cstdint>
 #include <optional>

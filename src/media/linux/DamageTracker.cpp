@@ -1,8 +1,8 @@
-#include "DamageTracker.h"
+#include "media/linux/DamageTracker.h"
 
-#include "FrameRectClip.h"
-#include "X11Connection.h"
-#include "XcbReply.h"
+#include "media/linux/FrameRectClip.h"
+#include "x11/X11Connection.h"
+#include "x11/XcbReply.h"
 
 namespace corvane {
 

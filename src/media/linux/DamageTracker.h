@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CapturedFrame.h"
-#include "MonitorInfo.h"
+#include "common/MonitorInfo.h"
+#include "media/CapturedFrame.h"
 
 #include <xcb/damage.h>
 

@@ -1,7 +1,7 @@
-#include "ScreenImage.h"
+#include "media/linux/ScreenImage.h"
 
-#include "X11Connection.h"
-#include "XcbReply.h"
+#include "x11/X11Connection.h"
+#include "x11/XcbReply.h"
 
 #include <sys/ipc.h>
 #include <sys/shm.h>

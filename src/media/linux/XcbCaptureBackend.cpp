@@ -1,12 +1,12 @@
-#include "XcbCaptureBackend.h"
+#include "media/linux/XcbCaptureBackend.h"
 
-#include "DamageTracker.h"
-#include "FrameRectClip.h"
-#include "MonotonicClock.h"
-#include "ScreenImage.h"
-#include "X11Connection.h"
-#include "X11Monitors.h"
-#include "XcbReply.h"
+#include "common/MonotonicClock.h"
+#include "media/linux/DamageTracker.h"
+#include "media/linux/FrameRectClip.h"
+#include "media/linux/ScreenImage.h"
+#include "x11/X11Connection.h"
+#include "x11/X11Monitors.h"
+#include "x11/XcbReply.h"
 
 #include <spdlog/spdlog.h>
 #include <xcb/randr.h>

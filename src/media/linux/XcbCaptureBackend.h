@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CursorImage.h"
-#include "IScreenCaptureBackend.h"
+#include "media/IScreenCaptureBackend.h"
+#include "media/linux/CursorImage.h"
 
 #include <xcb/xcb.h>
 

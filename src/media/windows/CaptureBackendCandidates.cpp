@@ -1,7 +1,7 @@
-#include "CaptureBackendCandidate.h"
+#include "media/CaptureBackendCandidate.h"
 
-#include "DxgiCaptureBackend.h"
-#include "GdiCaptureBackend.h"
+#include "media/windows/DxgiCaptureBackend.h"
+#include "media/windows/GdiCaptureBackend.h"
 
 namespace corvane {
 

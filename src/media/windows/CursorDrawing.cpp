@@ -1,7 +1,7 @@
-#include "CursorDrawing.h"
+#include "media/windows/CursorDrawing.h"
 
-#include "CapturedFrame.h"
-#include "GdiSurface.h"
+#include "media/CapturedFrame.h"
+#include "media/windows/GdiSurface.h"
 
 #include <cstring>
 

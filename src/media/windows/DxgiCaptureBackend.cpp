@@ -1,7 +1,7 @@
-#include "DxgiCaptureBackend.h"
+#include "media/windows/DxgiCaptureBackend.h"
 
-#include "CursorDrawing.h"
-#include "MonotonicClock.h"
+#include "common/MonotonicClock.h"
+#include "media/windows/CursorDrawing.h"
 
 #include <QString>
 #include <spdlog/spdlog.h>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ComPtr.h"
-#include "DxgiFunctions.h"
-#include "GdiFunctions.h"
-#include "IScreenCaptureBackend.h"
+#include "media/IScreenCaptureBackend.h"
+#include "media/windows/ComPtr.h"
+#include "media/windows/DxgiFunctions.h"
+#include "media/windows/GdiFunctions.h"
 
 #include <optional>
 

@@ -1,7 +1,7 @@
-#include "GdiCaptureBackend.h"
+#include "media/windows/GdiCaptureBackend.h"
 
-#include "CursorDrawing.h"
-#include "MonotonicClock.h"
+#include "common/MonotonicClock.h"
+#include "media/windows/CursorDrawing.h"
 
 #include <spdlog/spdlog.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "GdiFunctions.h"
-#include "GdiSurface.h"
-#include "IScreenCaptureBackend.h"
+#include "media/IScreenCaptureBackend.h"
+#include "media/windows/GdiFunctions.h"
+#include "media/windows/GdiSurface.h"
 
 namespace corvane {
 

@@ -1,4 +1,4 @@
-#include "GdiSurface.h"
+#include "media/windows/GdiSurface.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GdiFunctions.h"
+#include "media/windows/GdiFunctions.h"
 
 #include <cstdint>
 

@@ -1,4 +1,4 @@
-#include "SocketRoundTrip.h"
+#include "transport/SocketRoundTrip.h"
 
 #include <netinet/in.h>
 #include <netinet/tcp.h>

@@ -1,4 +1,4 @@
-#include "SocketRoundTrip.h"
+#include "transport/SocketRoundTrip.h"
 
 #include <winsock2.h>
 // Needs the types of the header above.

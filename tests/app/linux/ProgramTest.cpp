@@ -1,9 +1,9 @@
-#include "Autostart.h"
-#include "Files.h"
-#include "ISystemIntegration.h"
-#include "QuitOnRequest.h"
-#include "SingleInstanceGuard.h"
-#include "XvfbServer.h"
+#include "app/QuitOnRequest.h"
+#include "app/SingleInstanceGuard.h"
+#include "integration/Autostart.h"
+#include "integration/ISystemIntegration.h"
+#include "support/Files.h"
+#include "xvfb/XvfbServer.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
-#include "CompanionService.h"
-#include "LogonTask.h"
-#include "NamedMutex.h"
-#include "QuitOnRequest.h"
-#include "SingleInstanceGuard.h"
+#include "app/CompanionService.h"
+#include "app/QuitOnRequest.h"
+#include "app/SingleInstanceGuard.h"
+#include "app/windows/NamedMutex.h"
+#include "integration/windows/LogonTask.h"
 
 #include <QApplication>
 #include <QCloseEvent>

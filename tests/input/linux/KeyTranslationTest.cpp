@@ -1,5 +1,5 @@
-#include "KeyTranslation.h"
-#include "NativeKey.h"
+#include "input/linux/KeyTranslation.h"
+#include "input/NativeKey.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>

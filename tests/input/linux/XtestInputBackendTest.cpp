@@ -1,7 +1,7 @@
-#include "XtestInputBackend.h"
-#include "LogCapture.h"
-#include "XClient.h"
-#include "XvfbServer.h"
+#include "input/linux/XtestInputBackend.h"
+#include "support/LogCapture.h"
+#include "support/linux/XClient.h"
+#include "xvfb/XvfbServer.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "Win32InputBackend.h"
+#include "input/windows/Win32InputBackend.h"
 #include "InputWitness.h"
-#include "LogCapture.h"
+#include "support/LogCapture.h"
 
 #include <QTest>
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "linux/CursorImage.h"
+#include "media/linux/CursorImage.h"
 
 #include <gtest/gtest.h>
 

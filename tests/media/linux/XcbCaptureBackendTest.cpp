@@ -1,8 +1,8 @@
-#include "linux/XcbCaptureBackend.h"
-#include "CaptureBackendCandidate.h"
-#include "LogCapture.h"
-#include "XClient.h"
-#include "XvfbServer.h"
+#include "media/linux/XcbCaptureBackend.h"
+#include "media/CaptureBackendCandidate.h"
+#include "support/LogCapture.h"
+#include "support/linux/XClient.h"
+#include "xvfb/XvfbServer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "windows/DxgiCaptureBackend.h"
-#include "CaptureBackendCandidate.h"
-#include "LogCapture.h"
+#include "media/windows/DxgiCaptureBackend.h"
 #include "ScriptedDesktop.h"
+#include "media/CaptureBackendCandidate.h"
+#include "support/LogCapture.h"
 
 #include <gmock/gmock.h>
 

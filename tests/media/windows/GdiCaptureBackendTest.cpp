@@ -1,6 +1,6 @@
-#include "windows/GdiCaptureBackend.h"
-#include "LogCapture.h"
-#include "MonotonicClock.h"
+#include "media/windows/GdiCaptureBackend.h"
+#include "common/MonotonicClock.h"
+#include "support/LogCapture.h"
 
 #include <QTest>
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "FileTransferService.h"
+#include "services/FileTransferService.h"
 
 #include <QDir>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "XvfbServer.h"
+#include "xvfb/XvfbServer.h"
 
 #include <dlfcn.h>
 

@@ -1,4 +1,4 @@
-#include "SocketRoundTrip.h"
+#include "transport/SocketRoundTrip.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>

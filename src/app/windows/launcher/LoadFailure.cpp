@@ -1,4 +1,4 @@
-#include "LoadFailure.h"
+#include "app/windows/launcher/LoadFailure.h"
 
 #include <cstddef>
 #include <cstdint>

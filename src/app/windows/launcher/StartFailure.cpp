@@ -1,4 +1,4 @@
-#include "StartFailure.h"
+#include "app/windows/launcher/StartFailure.h"
 
 #include <windows.h>
 

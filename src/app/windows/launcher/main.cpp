@@ -1,9 +1,9 @@
 // The program that the user starts. It needs nothing that Windows does not bring, so that it can
 // say what is wrong where a library of the client is missing: Windows looks for those before any
 // code of the client runs.
-#include "ClientEntry.h"
-#include "LoadFailure.h"
-#include "StartFailure.h"
+#include "app/windows/launcher/ClientEntry.h"
+#include "app/windows/launcher/LoadFailure.h"
+#include "app/windows/launcher/StartFailure.h"
 
 #include <windows.h>
 

@@ -1,0 +1,27 @@
+#include "common/ShownNames.h"
+
+namespace corvane {
+
+QString shownOnOneLine(const QString& text, qsizetype longest) {
+    QString line = text.first(qMin(text.size(), longest)).simplified();
+    line.removeIf([](QChar character) { return !character.isPrint() && !character.isSurrogate(); });
+    return text.size() > longest ? line + QStringLiteral("…") : line;
+}
+
+QString shownName(const QString& name) {
+    return shownOnOneLine(name, 60);
+}
+
+QString shownNames(const QStringList& names) {
+    constexpr qsizetype kMostNames = 12;
+    QStringList lines;
+    for (const QString& name : names.first(qMin(names.size(), kMostNames))) {
+        lines.append(shownName(name));
+    }
+    if (names.size() > kMostNames) {
+        lines.append(QStringLiteral("… (+%1)").arg(names.size() - kMostNames));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace corvane

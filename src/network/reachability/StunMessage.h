@@ -1,0 +1,31 @@
+#pragma once
+
+#include "common/ByteVector.h"
+
+#include <QByteArray>
+#include <QHostAddress>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace corvane {
+
+using StunTransactionId = std::array<uint8_t, 12>;
+
+/// Where a STUN server saw a request come from, always IPv4.
+struct MappedAddress {
+    QHostAddress address;
+    uint16_t port = 0;
+
+    bool operator==(const MappedAddress&) const = default;
+};
+
+/// A Binding Request without attributes.
+QByteArray stunBindingRequest(const StunTransactionId& transactionId);
+
+/// The first IPv4 mapping in a Binding Success Response. No value for any other datagram, however
+/// malformed. Cookie and transaction ID are not looked at.
+std::optional<MappedAddress> parseStunBindingResponse(ByteSpan datagram);
+
+} // namespace corvane

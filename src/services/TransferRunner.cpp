@@ -1,0 +1,157 @@
+#include "services/TransferRunner.h"
+
+#include "common/ShownNames.h"
+#include "services/FileMessage.h"
+#include "services/FileTransferService.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace corvane {
+
+TransferRunner::TransferRunner(FileTransferService* service, QObject* parent)
+    : QObject(parent), m_service(service) {}
+
+bool TransferRunner::hasService() const {
+    return m_service != nullptr;
+}
+
+void TransferRunner::list(const QString& remotePath) {
+    if (m_service) {
+        m_listings.append(remotePath);
+        m_service->requestListing(remotePath);
+    }
+}
+
+void TransferRunner::download(const QList<FileTransfer>& transfers) {
+    append(m_downloads, transfers);
+}
+
+void TransferRunner::upload(const QList<FileTransfer>& transfers) {
+    append(m_uploads, transfers);
+}
+
+void TransferRunner::append(TransferQueue& queue, const QList<FileTransfer>& transfers) {
+    if (!m_service) {
+        return;
+    }
+    if (!isRunning()) {
+        Q_EMIT batchStarted();
+    }
+    queue.append(transfers);
+    if (m_downloads.isUnderWay()) {
+        reportDownload();
+    }
+    startNext();
+}
+
+void TransferRunner::startNext() {
+    if (m_downloads.isUnderWay() || m_uploads.isUnderWay() || !m_service) {
+        return;
+    }
+    if (m_downloads.remaining() > 0) {
+        startDownload();
+        return;
+    }
+    if (m_downloads.isRunning()) {
+        m_downloads.clear();
+        Q_EMIT statusChanged(tr("All downloads complete."));
+    }
+    if (m_uploads.remaining() > 0) {
+        startUpload();
+    } else if (m_uploads.isRunning()) {
+        m_uploads.clear();
+        Q_EMIT statusChanged(tr("All uploads complete."));
+        Q_EMIT uploadsComplete();
+    }
+}
+
+void TransferRunner::startNextLater() {
+    QMetaObject::invokeMethod(this, &TransferRunner::startNext, Qt::QueuedConnection);
+}
+
+void TransferRunner::startDownload() {
+    m_downloads.startNext();
+    reportDownload();
+    Q_EMIT transferStarting();
+    const FileTransfer transfer = m_downloads.current();
+    m_service->requestDownload(transfer.remotePath, transfer.localPath);
+}
+
+void TransferRunner::startUpload() {
+    m_uploads.startNext();
+    reportCurrent(tr("Uploading %1 of %2: %3"), m_uploads);
+    Q_EMIT transferStarting();
+    const FileTransfer transfer = m_uploads.current();
+    const QPointer<TransferRunner> self(this);
+    m_service->uploadFile(transfer.localPath, transfer.remotePath);
+    if (!self) {
+        return;
+    }
+    Q_EMIT uploadEnded();
+    if (m_uploads.isUnderWay()) {
+        stop();
+    }
+}
+
+void TransferRunner::folderListed(const QString& remotePath) {
+    m_listings.removeOne(remotePath);
+}
+
+void TransferRunner::downloadComplete(const QString& localPath) {
+    if (!m_downloads.isUnderWay() || m_downloads.current().localPath != localPath) {
+        return;
+    }
+    m_downloads.finishCurrent();
+    Q_EMIT statusChanged(tr("Downloaded: %1 — %2 remaining")
+                             .arg(shownName(QFileInfo(localPath).fileName()),
+                                  QString::number(m_downloads.remaining())));
+    startNextLater();
+}
+
+void TransferRunner::uploadComplete() {
+    if (m_uploads.isUnderWay()) {
+        m_uploads.finishCurrent();
+        startNextLater();
+    }
+}
+
+void TransferRunner::requestFailed(const QString& error) {
+    if (takeListing(error)) {
+        return;
+    }
+    if (error.startsWith(kUploadRefused)) {
+        m_uploads.clear();
+    } else {
+        stop();
+    }
+}
+
+/// Whether the error, which names its path at the end, is about a folder that was asked for.
+bool TransferRunner::takeListing(const QString& error) {
+    const auto failed = std::ranges::find_if(
+        m_listings, [&](const QString& path) { return error.endsWith(u' ' + path); });
+    if (failed == m_listings.end()) {
+        return false;
+    }
+    m_listings.erase(failed);
+    return true;
+}
+
+void TransferRunner::stop() {
+    m_downloads.clear();
+    m_uploads.clear();
+}
+
+void TransferRunner::reportDownload() {
+    reportCurrent(tr("Downloading %1 of %2: %3"), m_downloads);
+}
+
+void TransferRunner::reportCurrent(const QString& text, const TransferQueue& queue) {
+    const QString name = QFileInfo(queue.current().localPath).fileName();
+    Q_EMIT statusChanged(text.arg(QString::number(queue.ordinal()), QString::number(queue.total()),
+                                  shownName(name)));
+}
+
+} // namespace corvane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "common/MonitorInfo.h"
+
+#include <vector>
+
+namespace corvane {
+
+class X11Connection;
+
+/// The monitors in the server's order, or the whole screen as the only one where the server cannot
+/// tell. Empty when the connection is dead.
+std::vector<MonitorInfo> enumerateMonitors(const X11Connection& connection);
+
+} // namespace corvane

@@ -1,0 +1,96 @@
+#include "app/settings/SettingsController.h"
+#include "ScratchSettings.h"
+
+#include <QSettings>
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The settings store and a second view of the same values, in a folder of their own.
+class SettingsControllerTest : public testing::Test {
+protected:
+    const test::ScratchSettings m_place;
+    SettingsController m_settings;
+    QSettings m_raw{QSettings::NativeFormat, QSettings::UserScope, u"Corvane"_s,
+                    u"CorvaneClient"_s};
+};
+
+QStringList ids(int count) {
+    QStringList list;
+    for (int i = 0; i < count; ++i) {
+        list.append(QString::number(100'000'000 + i));
+    }
+    return list;
+}
+
+TEST_F(SettingsControllerTest, EverySetterWritesItsKeyAndItsGetterReadsIt) {
+    using Store = SettingsController;
+    const auto check = [this](const char* key, auto set, auto get, const auto& value) {
+        (m_settings.*set)(value);
+        EXPECT_EQ(m_raw.value(QLatin1String(key)), QVariant(value)) << key;
+        EXPECT_EQ((m_settings.*get)(), value) << key;
+    };
+    const QString text = u"väl,ue 1"_s;
+    EXPECT_FALSE(m_settings.hasCredentials());
+    check("general/language", &Store::setLanguage, &Store::language, text);
+    check("auth/clientId", &Store::setClientId, &Store::clientId, text);
+    EXPECT_FALSE(m_settings.hasCredentials());
+    check("auth/deviceSecret", &Store::setDeviceSecret, &Store::deviceSecret, text);
+    EXPECT_TRUE(m_settings.hasCredentials());
+    check("auth/sessionPassword", &Store::setSessionPassword, &Store::sessionPassword, text);
+    check("display/mode", &Store::setDisplayMode, &Store::displayMode, 7);
+    check("display/monitorIndex", &Store::setMonitorIndex, &Store::monitorIndex, 7);
+    check("network/maxReconnectAttempts", &Store::setMaxReconnectAttempts,
+          &Store::maxReconnectAttempts, 7);
+    check("display/clipboardSharing", &Store::setClipboardSharing, &Store::clipboardSharing, false);
+    check("network/autoReconnect", &Store::setAutoReconnect, &Store::autoReconnect, false);
+    check("advanced/minimizeToTray", &Store::setMinimizeToTray, &Store::minimizeToTray, false);
+    m_raw.setValue(u"display/mode"_s, u"many"_s);
+    EXPECT_EQ(m_settings.displayMode(), 0);
+    m_settings.setWakeOnLanAddress(u"123456789"_s, u"00:11"_s);
+    EXPECT_EQ(m_raw.value(u"wol/123456789"_s), u"00:11"_s);
+    EXPECT_EQ(m_settings.wakeOnLanAddress(u"123 456 789"_s), u"00:11"_s);
+}
+
+TEST_F(SettingsControllerTest, DisplayModeDecidesRateAndQuality) {
+    const int modes[][3] = {{0, 24, 23}, {1, 10, 45}, {2, 10, 45}, {-1, 10, 45}};
+    for (const auto& [mode, frameRate, quality] : modes) {
+        m_settings.setDisplayMode(mode);
+        EXPECT_EQ(m_settings.captureFrameRate(), frameRate) << mode;
+        EXPECT_EQ(m_settings.encoderQuality(), quality) << mode;
+    }
+}
+
+TEST_F(SettingsControllerTest, FavoritesKeepTheirOrderAndTheOldestTwenty) {
+    const QStringList all = ids(21);
+    for (const QString& id : all + QStringList{u"100 000 003"_s, u"   "_s}) {
+        m_settings.addFavorite(id);
+    }
+    QStringList kept = all.mid(0, 20);
+    EXPECT_EQ(m_settings.favorites(), kept);
+    m_raw.setValue(u"favorites/partnerIds"_s, kept + QStringList{kept.at(3)});
+    for (const QString& id : {u"100 000 003"_s, u" "_s}) {
+        m_settings.removeFavorite(id);
+    }
+    kept.removeAt(3);
+    EXPECT_EQ(m_settings.favorites(), kept);
+    m_settings.addFavorite(all.at(20));
+    EXPECT_EQ(m_settings.favorites(), kept + QStringList{all.at(20)});
+}
+
+TEST_F(SettingsControllerTest, RecentPartnersAreTheNewestTenWithoutDuplicates) {
+    const QStringList all = ids(11);
+    for (const QString& id : all + QStringList{u" 100 000 005"_s, u"  "_s}) {
+        m_settings.addRecentPartner(id);
+    }
+    QStringList expected(all.rbegin(), all.rend() - 1);
+    expected.move(expected.indexOf(all.at(5)), 0);
+    EXPECT_EQ(m_settings.recentPartners(), expected);
+    EXPECT_EQ(m_raw.value(u"history/recentPartnerIds"_s), expected);
+}
+
+} // namespace
+} // namespace corvane
