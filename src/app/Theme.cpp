@@ -14,7 +14,7 @@ struct Colour {
     const char* value;
 };
 
-constexpr auto kColours = std::to_array<Colour>({
+constexpr auto kColors = std::to_array<Colour>({
     {"$window", "#1a1a2e"},    // windows and dialogs
     {"$raised", "#16213e"},    // tab panes, headers, message boxes, tool tips
     {"$field", "#0d1b2a"},     // input fields, lists, tracks; text on the accent
@@ -223,7 +223,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background-color: transparent; }
 )";
 
 QColor colour(const char* token) {
-    for (const Colour& entry : kColours) {
+    for (const Colour& entry : kColors) {
         if (std::strcmp(entry.token, token) == 0) {
             return QColor(QLatin1String(entry.value));
         }
@@ -255,7 +255,7 @@ QString applicationStyleSheet() {
     for (const char* part : {kSurfaces, kButtons, kInputs, kViews}) {
         sheet += QLatin1String(part);
     }
-    for (const Colour& colour : kColours) {
+    for (const Colour& colour : kColors) {
         sheet.replace(QLatin1String(colour.token), QLatin1String(colour.value));
     }
     return sheet;

@@ -4,12 +4,12 @@
 
 namespace corvane {
 
-std::string loggableText(std::string_view text, size_t maximumLength) {
-    std::string loggable(text.substr(0, maximumLength));
+std::string loggableText(std::string_view text, size_t maxLength) {
+    std::string loggable(text.substr(0, maxLength));
     std::replace_if(
         loggable.begin(), loggable.end(),
         [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
-    return text.size() > maximumLength ? loggable + "..." : loggable;
+    return text.size() > maxLength ? loggable + "..." : loggable;
 }
 
 } // namespace corvane

@@ -7,7 +7,7 @@
 namespace corvane {
 
 /// What the peer wrote, made fit for one log line: control characters replaced, and cut after
-/// `maximumLength` bytes.
-std::string loggableText(std::string_view text, size_t maximumLength);
+/// `maxLength` bytes.
+std::string loggableText(std::string_view text, size_t maxLength);
 
 } // namespace corvane

@@ -13,13 +13,13 @@ QString shownName(const QString& name) {
 }
 
 QString shownNames(const QStringList& names) {
-    constexpr qsizetype kMostNames = 12;
+    constexpr qsizetype kMaxNames = 12;
     QStringList lines;
-    for (const QString& name : names.first(qMin(names.size(), kMostNames))) {
+    for (const QString& name : names.first(qMin(names.size(), kMaxNames))) {
         lines.append(shownName(name));
     }
-    if (names.size() > kMostNames) {
-        lines.append(QStringLiteral("… (+%1)").arg(names.size() - kMostNames));
+    if (names.size() > kMaxNames) {
+        lines.append(QStringLiteral("… (+%1)").arg(names.size() - kMaxNames));
     }
     return lines.join(QLatin1Char('\n'));
 }

@@ -15,7 +15,7 @@ namespace {
 constexpr int kTryAgain = DAV1D_ERR(EAGAIN);
 
 /// No screen is larger; a packet that claims more must not make us allocate it.
-constexpr unsigned kMaximumPixels = 16384U * 16384U;
+constexpr unsigned kMaxPixels = 16384U * 16384U;
 
 /// A packet on its way into the library. Whatever the library did not take is released.
 struct PacketData {
@@ -112,7 +112,7 @@ bool AV1Decoder::initialize(int width, int height) {
     dav1d_default_settings(&settings);
     settings.n_threads = 0;
     settings.max_frame_delay = 1;
-    settings.frame_size_limit = kMaximumPixels;
+    settings.frame_size_limit = kMaxPixels;
     // The library would write to stderr; the result codes in our own lines say what failed.
     settings.logger.callback = nullptr;
     const int result = dav1d_open(&m_context, &settings);

@@ -15,9 +15,9 @@ namespace corvane {
 namespace {
 
 constexpr unsigned kGoodQualityUsage = 0;
-constexpr int kMaximumSpeed = 10;
+constexpr int kMaxSpeed = 10;
 constexpr int kDefaultSpeed = 8;
-constexpr int kMaximumCqLevel = 63;
+constexpr int kMaxCqLevel = 63;
 constexpr unsigned kImageAlignment = 16;
 constexpr int kNeutralChroma = 128;
 constexpr int kTileColumnsLog2 = 2;
@@ -35,7 +35,7 @@ constexpr std::array kNamedSpeeds = {
 };
 
 int cqLevelOf(const EncoderConfig& config) {
-    return std::clamp(config.cqLevel, 0, kMaximumCqLevel);
+    return std::clamp(config.cqLevel, 0, kMaxCqLevel);
 }
 
 /// What both the first configuration and every change of the rate set.
@@ -112,7 +112,7 @@ AV1Encoder::~AV1Encoder() = default;
 int AV1Encoder::speedOf(const std::string& preset) {
     try {
         const int64_t number = std::stoi(preset);
-        return static_cast<int>(std::clamp<int64_t>(number * 10 / 13, 0, kMaximumSpeed));
+        return static_cast<int>(std::clamp<int64_t>(number * 10 / 13, 0, kMaxSpeed));
     } catch (const std::logic_error&) {
         const auto named =
             std::find_if(kNamedSpeeds.begin(), kNamedSpeeds.end(),

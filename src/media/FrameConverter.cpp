@@ -29,7 +29,7 @@ uint64_t nv12Size(int32_t width, int32_t height) {
     return static_cast<uint64_t>(width) * static_cast<uint64_t>(height) * 3 / 2;
 }
 
-void splitColours(const uint8_t* __restrict source, size_t count, Colours& __restrict colours) {
+void splitColors(const uint8_t* __restrict source, size_t count, Colours& __restrict colours) {
     for (size_t i = 0; i < count; ++i) {
         colours.blue[i] = source[i * kBytesPerPixel];
         colours.green[i] = source[i * kBytesPerPixel + 1];
@@ -90,8 +90,8 @@ void convertRowPair(const uint8_t* upper, const uint8_t* lower, size_t count, ui
     Colours averages;
     for (size_t column = 0; column < count; column += kBlock) {
         const size_t block = std::min(kBlock, count - column);
-        splitColours(upper + column * kBytesPerPixel, block, above);
-        splitColours(lower + column * kBytesPerPixel, block, below);
+        splitColors(upper + column * kBytesPerPixel, block, above);
+        splitColors(lower + column * kBytesPerPixel, block, below);
         convertLuma(above, block, upperLuma + column);
         convertLuma(below, block, lowerLuma + column);
         averageBlocks(above.red, below.red, block / 2, averages.red);

@@ -14,7 +14,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kNoMonitor = -1;
 constexpr int kLowestFps = 1;
-constexpr int kHighestFps = 120;
+constexpr int kMaxFps = 120;
 
 struct Termination : QThread {
     using QThread::setTerminationEnabled;
@@ -58,7 +58,7 @@ void ScreenCaptureManager::start(int fps) {
         Q_EMIT captureError(QStringLiteral("Capture backend is not initialized"));
         return;
     }
-    m_targetFps = std::clamp(fps, kLowestFps, kHighestFps);
+    m_targetFps = std::clamp(fps, kLowestFps, kMaxFps);
     m_running = true;
     m_looping = true;
     m_framesDelivered = 0;

@@ -13,7 +13,7 @@ namespace corvane {
 namespace {
 
 constexpr size_t kHeaderSize = 8 + 2;
-constexpr qsizetype kMaximumTextSize = 0xFFFF;
+constexpr qsizetype kMaxTextSize = 0xFFFF;
 
 /// A time the peer made up may lie beyond what a date can show: the end of the year 9999 will do.
 QDateTime dateTimeOf(quint64 milliseconds) {
@@ -28,9 +28,9 @@ ChatService::ChatService(SendFunction send, QObject* parent)
 
 void ChatService::sendMessage(const QString& text) {
     QByteArray utf8 = text.toUtf8();
-    if (utf8.size() > kMaximumTextSize) {
+    if (utf8.size() > kMaxTextSize) {
         spdlog::warn("ChatService: message too long, truncating to 65535 bytes");
-        utf8.truncate(kMaximumTextSize);
+        utf8.truncate(kMaxTextSize);
     }
     ByteWriter writer(static_cast<size_t>(utf8.size()) + kHeaderSize);
     writer.integer(static_cast<quint64>(QDateTime::currentMSecsSinceEpoch()));

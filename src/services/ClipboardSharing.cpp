@@ -15,7 +15,7 @@ namespace {
 
 constexpr uint8_t kTag = 0x04;
 constexpr size_t kHeaderSize = 1 + 4;
-constexpr size_t kMaximumTextSize = 10 * 1024 * 1024;
+constexpr size_t kMaxTextSize = 10 * 1024 * 1024;
 
 /// Null, and never one without a window system behind it, where there is no such application.
 QClipboard* applicationClipboard() {
@@ -73,10 +73,10 @@ void ClipboardSharing::onLocalClipboardChanged() {
         return;
     }
     const auto size = static_cast<size_t>(text.size());
-    if (size > kMaximumTextSize) {
+    if (size > kMaxTextSize) {
         spdlog::warn("ClipboardSharing: local clipboard text too large ({} bytes, max {} bytes) — "
                      "skipping",
-                     size, kMaximumTextSize);
+                     size, kMaxTextSize);
         return;
     }
     ByteWriter writer(kHeaderSize);
@@ -102,10 +102,10 @@ void ClipboardSharing::onRemoteClipboardData(const QByteArray& data) {
                      *tag, kTag);
         return;
     }
-    if (*length > kMaximumTextSize) {
+    if (*length > kMaxTextSize) {
         spdlog::warn("ClipboardSharing: remote clipboard text too large ({} bytes, max {} bytes) — "
                      "ignoring",
-                     *length, kMaximumTextSize);
+                     *length, kMaxTextSize);
         return;
     }
     if (reader.remaining() < *length) {

@@ -3,8 +3,8 @@
 #include "common/ByteViews.h"
 #include "common/LoggableText.h"
 #include "common/MonotonicClock.h"
+#include "services/AtomicFile.h"
 #include "services/FileMessage.h"
-#include "services/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,8 +25,8 @@ constexpr qint64 kBlockSize = 65'536;
 
 /// A path of the peer's, in a log line. Beyond what file systems take it is no path.
 std::string loggable(const QString& path) {
-    constexpr size_t kLongestPath = 4096;
-    return loggableText(path.toStdString(), kLongestPath);
+    constexpr size_t kMaxPath = 4096;
+    return loggableText(path.toStdString(), kMaxPath);
 }
 
 /// Devices and pipes are left alone: reading one may never end.
@@ -76,9 +76,8 @@ int clampedToInt(qint64 value) {
 
 } // namespace
 
-FileTransferService::FileTransferService(SendFunction send, qint64 maximumMessageSize,
-                                         QObject* parent)
-    : QObject(parent), m_send(std::move(send)), m_maximumMessageSize(maximumMessageSize) {}
+FileTransferService::FileTransferService(SendFunction send, qint64 maxMessageSize, QObject* parent)
+    : QObject(parent), m_send(std::move(send)), m_maxMessageSize(maxMessageSize) {}
 
 FileTransferService::~FileTransferService() = default;
 
@@ -157,7 +156,7 @@ void FileTransferService::onListingRequest(ByteSpan body) {
     }
     const ByteVector response =
         listingResponse({*path, path->isEmpty() ? mountedVolumes() : entriesOf(directory)});
-    if (static_cast<qint64>(response.size()) > m_maximumMessageSize) {
+    if (static_cast<qint64>(response.size()) > m_maxMessageSize) {
         sendError(QStringLiteral("Directory has too many entries to list: ") + *path);
         return;
     }
@@ -186,7 +185,7 @@ void FileTransferService::onDownloadRequest(ByteSpan body) {
         sendError(QStringLiteral("Cannot open file: ") + *path);
         return;
     }
-    const qint64 room = m_maximumMessageSize - kDownloadResponseOverhead;
+    const qint64 room = m_maxMessageSize - kDownloadResponseOverhead;
     // Its size may be wrong by the time it is read, so one byte more than fits is asked for.
     const QByteArray content = file.size() > room ? QByteArray() : file.read(room + 1);
     if (file.size() > room || content.size() > room) {
@@ -225,7 +224,7 @@ void FileTransferService::onDownloadResponse(ByteSpan body) {
         *reader.bytes(static_cast<size_t>(std::min<uint64_t>(reader.remaining(), *announced)));
     --m_expectedDownloads;
     const Download download = m_download;
-    if (!writeWholeFile(download.localPath, content)) {
+    if (!writeAtomicFile(download.localPath, content)) {
         Q_EMIT fileError(tr("Cannot write to local file: %1").arg(download.localPath));
         return;
     }

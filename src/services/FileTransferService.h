@@ -27,9 +27,9 @@ public:
     /// Blocks until the way out is clear enough for another block; false when it never will be.
     using PacingFunction = std::function<bool()>;
 
-    /// `send` may be empty: messages then go nowhere. `maximumMessageSize`: bytes that `send` takes
+    /// `send` may be empty: messages then go nowhere. `maxMessageSize`: bytes that `send` takes
     /// at most.
-    FileTransferService(SendFunction send, qint64 maximumMessageSize, QObject* parent = nullptr);
+    FileTransferService(SendFunction send, qint64 maxMessageSize, QObject* parent = nullptr);
     ~FileTransferService() override;
 
     /// Asked before every block of an upload, so that a large file is not read into the send queue
@@ -81,7 +81,7 @@ private:
     void reportProgress(const QString& remotePath, qint64 sent, qint64 size, qint64 startedAt);
 
     const SendFunction m_send;
-    const qint64 m_maximumMessageSize;
+    const qint64 m_maxMessageSize;
     PacingFunction m_pacing;
     bool m_uploading = false;
     Download m_download;                     ///< the one last asked for

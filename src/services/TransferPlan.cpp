@@ -11,7 +11,7 @@ namespace corvane {
 
 TransferPlan planDownloads(const QList<FileEntry>& entries, const QString& remoteFolder,
                            const QString& localFolder) {
-    constexpr size_t kLongestLoggedName = 255;
+    constexpr size_t kMaxLoggedName = 255;
     TransferPlan plan;
     for (const FileEntry& entry : entries) {
         if (entry.isDirectory) {
@@ -19,7 +19,7 @@ TransferPlan planDownloads(const QList<FileEntry>& entries, const QString& remot
         }
         if (!isPlainFileName(entry.name)) {
             spdlog::warn("FileManagerDialog: skipping '{}', which is not a file name",
-                         loggableText(entry.name.toStdString(), kLongestLoggedName));
+                         loggableText(entry.name.toStdString(), kMaxLoggedName));
             continue;
         }
         const QString localPath = localFolder + QDir::separator() + entry.name;

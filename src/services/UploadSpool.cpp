@@ -1,6 +1,6 @@
 #include "services/UploadSpool.h"
 
-#include "services/WholeFile.h"
+#include "services/AtomicFile.h"
 
 #include <QDir>
 
@@ -35,7 +35,7 @@ bool UploadSpool::commit() {
     if (m_failed) {
         return false;
     }
-    return m_file ? m_file->commit() : writeWholeFile(m_destination, m_memory);
+    return m_file ? m_file->commit() : writeAtomicFile(m_destination, m_memory);
 }
 
 bool UploadSpool::keep(ByteSpan chunk) {
@@ -44,7 +44,7 @@ bool UploadSpool::keep(ByteSpan chunk) {
             appendBytes(m_memory, chunk);
             return true;
         }
-        m_file = std::make_unique<WholeFile>(m_destination);
+        m_file = std::make_unique<AtomicFile>(m_destination);
         if (!m_file->open() || !m_file->append(std::exchange(m_memory, {}))) {
             return false;
         }

@@ -8,7 +8,7 @@
 
 namespace corvane {
 
-class WholeFile;
+class AtomicFile;
 
 /// The peer's upload while it arrives: in memory as far as that is reasonable, in a file beside its
 /// destination beyond it, and at its destination only when `commit` says so.
@@ -42,7 +42,7 @@ private:
     quint64 m_receivedSize = 0;
     bool m_failed;
     ByteVector m_memory;
-    std::unique_ptr<WholeFile> m_file;
+    std::unique_ptr<AtomicFile> m_file;
 };
 
 } // namespace corvane

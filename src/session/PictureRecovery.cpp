@@ -11,7 +11,7 @@ using Clock = std::chrono::steady_clock;
 } // namespace
 
 PictureRecovery::PictureRecovery(Timings timings, QObject* parent)
-    : QObject(parent), m_timings(timings), m_gaps(timings.patience) {
+    : QObject(parent), m_timings(timings), m_losses(timings.reorderWindow) {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &PictureRecovery::look);
@@ -30,16 +30,16 @@ void PictureRecovery::stop() {
 }
 
 bool PictureRecovery::onMessage(uint64_t counter) {
-    const bool awaited = m_gaps.note(counter, Clock::now());
-    if (m_gaps.isAnythingMissing()) {
-        schedule(m_timings.patience);
+    const bool awaited = m_losses.note(counter, Clock::now());
+    if (m_losses.isAnythingMissing()) {
+        schedule(m_timings.reorderWindow);
     }
     return awaited;
 }
 
 void PictureRecovery::onPicture(uint64_t counter, bool keyframe) {
     if (keyframe) {
-        m_gaps.forgetBefore(counter);
+        m_losses.forgetBefore(counter);
         m_whole = true;
     }
 }
@@ -59,7 +59,7 @@ void PictureRecovery::miss() {
 /// Asks where something is missing, and comes back as long as something may be.
 void PictureRecovery::look() {
     const auto now = Clock::now();
-    if (m_gaps.takeLoss(now)) {
+    if (m_losses.takeLoss(now)) {
         miss();
     }
     if (!m_running) {
@@ -71,8 +71,8 @@ void PictureRecovery::look() {
             Q_EMIT keyframeNeeded();
         }
         schedule(std::chrono::ceil<std::chrono::milliseconds>(m_notBefore - now));
-    } else if (m_gaps.isAnythingMissing()) {
-        schedule(m_timings.patience);
+    } else if (m_losses.isAnythingMissing()) {
+        schedule(m_timings.reorderWindow);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/MessageGaps.h"
+#include "session/LossDetector.h"
 
 #include <QObject>
 #include <QTimer>
@@ -18,7 +18,7 @@ class PictureRecovery : public QObject {
 public:
     struct Timings {
         /// How long a message may be on its way after a later one has arrived.
-        std::chrono::milliseconds patience{200};
+        std::chrono::milliseconds reorderWindow{200};
         /// The least time between two requests.
         std::chrono::milliseconds interval{500};
         /// How long to wait for anything at all. Long, since the encoder's first picture takes
@@ -52,9 +52,9 @@ private:
     void schedule(std::chrono::milliseconds delay);
 
     const Timings m_timings;
-    MessageGaps m_gaps;
+    LossDetector m_losses;
     QTimer m_timer;
-    MessageGaps::Time m_notBefore; ///< of the next request
+    LossDetector::Time m_notBefore; ///< of the next request
     bool m_running = false;
     bool m_whole = false;
 };

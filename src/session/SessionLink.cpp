@@ -18,7 +18,7 @@ constexpr qint64 kFileQueueLimit = 4 * 1024 * 1024;
 
 } // namespace
 
-const size_t SessionLink::kMaximumControlMessage = kRelayMaxPayload - AesGcmCipher::kOverhead;
+const size_t SessionLink::kMaxControlMessage = kRelayMaxPayload - AesGcmCipher::kOverhead;
 
 SessionLink::SessionLink(const ByteVector& key, const ByteVector& baseIv, QObject* parent)
     : QObject(parent), m_cipher(key, baseIv) {

@@ -21,7 +21,7 @@ class SessionLink : public QObject {
 
 public:
     /// The largest control message that can be sent, tag byte included.
-    static const size_t kMaximumControlMessage;
+    static const size_t kMaxControlMessage;
 
     /// Throws std::invalid_argument when the key material has the wrong size.
     SessionLink(const ByteVector& key, const ByteVector& baseIv, QObject* parent = nullptr);

@@ -18,7 +18,7 @@ void SessionServices::start(bool clipboardSharing) {
     constexpr qint64 kTagSize = 1;
     m_fileTransfer = std::make_unique<FileTransferService>(
         [this](const ByteVector& message) { return sendFileTransfer(message); },
-        static_cast<qint64>(SessionLink::kMaximumControlMessage) - kTagSize);
+        static_cast<qint64>(SessionLink::kMaxControlMessage) - kTagSize);
     m_fileTransfer->setPacing([this] { return m_link.waitForRoom(); });
     spdlog::info("File transfer service initialized");
     m_chat = std::make_unique<ChatService>(

@@ -2,7 +2,7 @@
 
 #include "common/MonotonicClock.h"
 #include "media/AV1Decoder.h"
-#include "media/Av1Packet.h"
+#include "media/AV1Packet.h"
 
 namespace corvane {
 

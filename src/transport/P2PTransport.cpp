@@ -52,9 +52,9 @@ void receiveWholeMessages() {
 
 } // namespace
 
-P2PTransport::P2PTransport(QObject* parent, std::chrono::milliseconds standstill)
-    : IPeerTransport(parent), m_standstill(standstill) {
-    m_queueWatch.setInterval(standstill / 10);
+P2PTransport::P2PTransport(QObject* parent, std::chrono::milliseconds stallTimeout)
+    : IPeerTransport(parent), m_stall(stallTimeout) {
+    m_queueWatch.setInterval(stallTimeout / 10);
     m_queueWatch.callOnTimeout(this, &P2PTransport::watchQueue);
 }
 
@@ -176,7 +176,7 @@ bool P2PTransport::waitUntilQueued(qint64 atMost) {
     }
     const auto events = m_events;
     while (isConnected() && bytesQueued() > atMost && !standsStill()) {
-        events->wait(m_standstill.deadline());
+        events->wait(m_stall.deadline());
         events->deliver();
     }
     return isConnected() && bytesQueued() <= atMost;
@@ -330,13 +330,13 @@ void P2PTransport::onPeerConnectionLost() {
 }
 
 bool P2PTransport::standsStill() {
-    return m_standstill.reached(m_accepted, bytesQueued());
+    return m_stall.reached(m_accepted, bytesQueued());
 }
 
 void P2PTransport::watchQueue() {
     if (standsStill()) {
         spdlog::warn("P2PTransport: nothing was sent for {} ms, giving the connection up",
-                     m_standstill.limit().count());
+                     m_stall.limit().count());
         onPeerConnectionLost();
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "transport/IPeerTransport.h"
-#include "transport/Standstill.h"
+#include "transport/StallDetector.h"
 
 #include <QTimer>
 
@@ -51,11 +51,12 @@ public:
     /// How much the peer may send ahead of the main thread before it is slowed down.
     static constexpr size_t kMaxUndelivered = 4 * kMaxMessageSize;
 
-    static constexpr std::chrono::milliseconds kStandstill{30'000};
+    static constexpr std::chrono::milliseconds kStallTimeout{30'000};
 
-    /// `standstill`: how long a queue may wait with nothing sent before the connection is given up.
+    /// `stallTimeout`: how long a queue may wait with nothing sent before the connection is given
+    /// up.
     explicit P2PTransport(QObject* parent = nullptr,
-                          std::chrono::milliseconds standstill = kStandstill);
+                          std::chrono::milliseconds stallTimeout = kStallTimeout);
     ~P2PTransport() override;
 
     /// Has a TURN server used as well. Before the start; none without a password.
@@ -115,7 +116,7 @@ private:
     bool m_videoOpen = false;
     std::string m_turnPassword;
     std::atomic<qint64> m_accepted = 0; ///< bytes that `send` has taken
-    Standstill m_standstill;
+    StallDetector m_stall;
     QTimer m_queueWatch;
     std::shared_ptr<PeerEventQueue> m_events; ///< of this attempt; closed when it is over
 };

@@ -23,9 +23,9 @@ constexpr qint64 kMaxUnsent = 64 * 1024 * 1024;
 } // namespace
 
 RelayTransport::RelayTransport(QObject* parent, std::chrono::milliseconds reconnectDelay,
-                               std::chrono::milliseconds standstill)
+                               std::chrono::milliseconds stallTimeout)
     : ITransport(parent), m_piece(kReadPiece), m_reconnectDelay(reconnectDelay),
-      m_standstill(standstill) {
+      m_stallTimeout(stallTimeout) {
     m_socket.setReadBufferSize(kSocketReadBuffer);
     m_reconnectTimer.setSingleShot(true);
     m_reconnectTimer.setTimerType(Qt::PreciseTimer);
@@ -116,7 +116,7 @@ qint64 RelayTransport::bytesQueued() const {
 
 bool RelayTransport::waitUntilQueued(qint64 atMost) {
     while (isConnected() && bytesQueued() > atMost) {
-        if (!m_socket.waitForBytesWritten(static_cast<int>(m_standstill.count()))) {
+        if (!m_socket.waitForBytesWritten(static_cast<int>(m_stallTimeout.count()))) {
             break;
         }
         // The socket reports nothing from inside a report of its own, where this call may stand.

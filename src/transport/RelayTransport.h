@@ -24,13 +24,13 @@ class RelayTransport : public ITransport {
 public:
     static constexpr int kMaxReconnectAttempts = 3;
     static constexpr std::chrono::milliseconds kReconnectDelay{1000};
-    static constexpr std::chrono::milliseconds kStandstill{30'000};
+    static constexpr std::chrono::milliseconds kStallTimeout{30'000};
 
     /// `reconnectDelay`: wait before the first further attempt; it doubles with each one.
-    /// `standstill`: how long a wait goes on while nothing is sent.
+    /// `stallTimeout`: how long a wait goes on while nothing is sent.
     explicit RelayTransport(QObject* parent = nullptr,
                             std::chrono::milliseconds reconnectDelay = kReconnectDelay,
-                            std::chrono::milliseconds standstill = kStandstill);
+                            std::chrono::milliseconds stallTimeout = kStallTimeout);
     ~RelayTransport() override;
 
     void setSessionId(const QString& sessionId) { m_sessionId = sessionId; }
@@ -72,7 +72,7 @@ private:
     int32_t m_reconnectAttempts = 0;
     bool m_stopped = false;
     const std::chrono::milliseconds m_reconnectDelay;
-    const std::chrono::milliseconds m_standstill;
+    const std::chrono::milliseconds m_stallTimeout;
     uint64_t m_receiveEpoch = 0; ///< changes whenever bytes received so far lose their meaning
 };
 

@@ -33,7 +33,7 @@ ChatDialog::ChatDialog(QWidget* parent)
     m_transcript->setOpenLinks(false);
     m_transcript->setOpenExternalLinks(false);
     m_transcript->document()->setDefaultStyleSheet(QLatin1String(kTranscriptStyle));
-    m_transcript->document()->setMaximumBlockCount(kMostMessages);
+    m_transcript->document()->setMaximumBlockCount(kMaxMessages);
 
     m_input = new QLineEdit(this);
     m_input->setObjectName(QStringLiteral("chatInput"));
@@ -68,7 +68,7 @@ void ChatDialog::appendMessage(const QString& sender, const QString& text,
 }
 
 void ChatDialog::onSendClicked() {
-    const QString text = m_input->text().trimmed().left(kLongestMessage);
+    const QString text = m_input->text().trimmed().left(kMaxMessage);
     if (text.isEmpty()) {
         return;
     }

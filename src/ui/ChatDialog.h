@@ -17,10 +17,10 @@ class ChatDialog : public QDialog {
 
 public:
     /// Messages that the transcript keeps; the oldest make room for new ones.
-    static constexpr int kMostMessages = 1000;
+    static constexpr int kMaxMessages = 1000;
 
     /// The characters of a message that are sent at most.
-    static constexpr int kLongestMessage = 10'000;
+    static constexpr int kMaxMessage = 10'000;
 
     explicit ChatDialog(QWidget* parent = nullptr);
 

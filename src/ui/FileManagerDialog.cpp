@@ -190,12 +190,12 @@ void FileManagerDialog::confirm(const QString& question, const QStringList& over
 }
 
 void FileManagerDialog::onTransferError(const QString& error) {
-    constexpr qsizetype kLongestError = 300;
+    constexpr qsizetype kMaxError = 300;
     m_runner->requestFailed(error);
     if (!m_runner->isRunning()) {
         m_status->showPercent(0);
     }
-    showResult(tr("Error: %1").arg(shownOnOneLine(error, kLongestError)));
+    showResult(tr("Error: %1").arg(shownOnOneLine(error, kMaxError)));
 }
 
 void FileManagerDialog::onDownloadComplete(const QString& localPath) {

@@ -234,11 +234,11 @@ void MainWindow::onSessionHandshakeRequest(const QString& sessionId, const QStri
     showNormal();
     activateWindow();
     raise();
-    constexpr qsizetype kLongestText = 200;
+    constexpr qsizetype kMaxText = 200;
     const QString text =
         tr("Client %1 wants to connect.\nPurpose: %2\n\nAccept?")
-            .arg(shownOnOneLine(formatPartnerId(masterClientId), kLongestText),
-                 purpose.isEmpty() ? tr("remote access") : shownOnOneLine(purpose, kLongestText));
+            .arg(shownOnOneLine(formatPartnerId(masterClientId), kMaxText),
+                 purpose.isEmpty() ? tr("remote access") : shownOnOneLine(purpose, kMaxText));
     m_boxes->ask(tr("Incoming Connection"), text, [this, sessionId, masterClientId](bool yes) {
         spdlog::info("{} session {} from {}", yes ? "Accepted" : "Rejected",
                      sessionId.toStdString(), masterClientId.toStdString());

@@ -6,10 +6,9 @@ namespace {
 
 /// As much as leaves the box's buttons on the screen.
 QString boundedText(const QString& text) {
-    constexpr qsizetype kLongestText = 1000;
-    constexpr qsizetype kMostLines = 20;
-    return text.first(qMin(text.size(), kLongestText))
-        .section(QLatin1Char('\n'), 0, kMostLines - 1);
+    constexpr qsizetype kMaxText = 1000;
+    constexpr qsizetype kMaxLines = 20;
+    return text.first(qMin(text.size(), kMaxText)).section(QLatin1Char('\n'), 0, kMaxLines - 1);
 }
 
 } // namespace

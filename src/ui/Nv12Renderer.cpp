@@ -220,8 +220,8 @@ void Nv12Renderer::uploadPlane(GLuint texture, GLenum format, int texelBytes, QS
 
 void Nv12Renderer::reportErrors(const char* step) {
     // A lost context reports an error forever.
-    constexpr int kMostErrors = 32;
-    for (int i = 0; i < kMostErrors; ++i) {
+    constexpr int kMaxErrors = 32;
+    for (int i = 0; i < kMaxErrors; ++i) {
         const GLenum error = glGetError();
         if (error == GL_NO_ERROR) {
             return;

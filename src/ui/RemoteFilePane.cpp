@@ -126,13 +126,13 @@ void RemoteFilePane::openFolder(const QString& path) {
 }
 
 void RemoteFilePane::showEntries(const QList<FileEntry>& entries) {
-    if (entries.size() > kMostRows) {
-        spdlog::warn("RemoteFilePane: showing {} of {} entries", kMostRows, entries.size());
+    if (entries.size() > kMaxRows) {
+        spdlog::warn("RemoteFilePane: showing {} of {} entries", kMaxRows, entries.size());
     }
     const QIcon folder = folderIcon();
     const QIcon file = fileIcon();
     QList<QTreeWidgetItem*> items;
-    for (const FileEntry& entry : entries.first(qMin(entries.size(), kMostRows))) {
+    for (const FileEntry& entry : entries.first(qMin(entries.size(), kMaxRows))) {
         items.append(new EntryItem(entry));
         items.back()->setIcon(kNameColumn, entry.isDirectory ? folder : file);
     }

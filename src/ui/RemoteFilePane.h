@@ -21,7 +21,7 @@ class RemoteFilePane : public QWidget {
 
 public:
     /// Rows that are shown at most, so that no listing can freeze the window.
-    static constexpr qsizetype kMostRows = 100'000;
+    static constexpr qsizetype kMaxRows = 100'000;
 
     static constexpr int kTitleHeight = 28; ///< of what stands above the list
 

@@ -12,12 +12,11 @@ namespace {
 
 constexpr int kHomeWidth = 420;
 constexpr QSize kViewerMinimum(800, 600);
-constexpr QSize kViewerLargest(1280, 720);
+constexpr QSize kViewerMax(1280, 720);
 
 QSize initialViewerSize() {
     const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? (screen->availableSize() * 3 / 4).boundedTo(kViewerLargest)
-                             : kViewerLargest;
+    return screen != nullptr ? (screen->availableSize() * 3 / 4).boundedTo(kViewerMax) : kViewerMax;
 }
 
 /// A new size alone would leave the window's system with one that fills the screen.

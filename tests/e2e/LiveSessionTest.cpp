@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 20s;
+constexpr auto kTimeout = 20s;
 const QString kHomeTitle = QStringLiteral("Corvane - Remote Access");
 
 /// Two real programs on two displays, and a desktop that stands still.
@@ -20,13 +20,13 @@ protected:
 
     bool isShown(const QString& title) {
         return waitFor([&] { return m_live.viewerDisplay().findWindow(title).has_value(); },
-                       kPatience);
+                       kTimeout);
     }
 
     bool endsWith(const ClientProcess& client, const char* state) {
         return waitFor(
             [&] { return LiveSession::stateChanges(client).endsWith(QLatin1String(state)); },
-            kPatience);
+            kTimeout);
     }
 
     std::vector<QRect> boxes() {
@@ -75,7 +75,7 @@ TEST_F(LiveSessionTest, AWrongPasswordIsToldAndTheNextTryConnects) {
     for (auto shown = boxes(); !shown.empty(); shown = boxes()) {
         // OK sits in the lower right corner of whichever box is on top there.
         m_live.viewerDisplay().click(shown.front().bottomRight() - QPoint(40, 24));
-        ASSERT_TRUE(waitFor([&] { return boxes().size() < shown.size(); }, kPatience));
+        ASSERT_TRUE(waitFor([&] { return boxes().size() < shown.size(); }, kTimeout));
     }
     // The password field still has the keyboard.
     m_live.viewerDisplay().pressKey('a', {kKeyControl});
@@ -93,7 +93,7 @@ TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) 
     EXPECT_TRUE(endsWith(m_live.viewer(), "Closing -> Idle"));
     ASSERT_TRUE(m_live.target().start());
     ASSERT_TRUE(
-        waitFor([&] { return m_live.server().isOnline(m_live.target().clientId()); }, kPatience));
+        waitFor([&] { return m_live.server().isOnline(m_live.target().clientId()); }, kTimeout));
     EXPECT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
     // A request of the system's ends the program and, on the way, the session.
     EXPECT_TRUE(m_live.target().stop());
@@ -102,7 +102,7 @@ TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) 
         return request.body.contains("destructor_cleanup");
     };
     EXPECT_TRUE(waitFor([&] { return std::ranges::any_of(m_live.server().requests(), isLastWord); },
-                        kPatience));
+                        kTimeout));
 }
 
 } // namespace

@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kPatienceMs = 10'000;
+constexpr int kTimeoutMs = 10'000;
 constexpr int kChatMessages = 500; ///< each way
 
 struct Network {
@@ -76,7 +76,7 @@ protected:
         takeOnline(m_viewer);
         m_target.order({{"do", "share"}});
         ASSERT_TRUE(QTest::qWaitFor(
-            [&] { return m_server.signalingMessages(m_targetId).size() == 2; }, kPatienceMs));
+            [&] { return m_server.signalingMessages(m_targetId).size() == 2; }, kTimeoutMs));
     }
 
     QString takeOnline(PeerProcess& peer) {
@@ -89,7 +89,7 @@ protected:
                     {"height", 360},
                     {"rate", 30}});
         EXPECT_TRUE(
-            QTest::qWaitFor([&] { return m_server.isOnline(device.clientId); }, kPatienceMs));
+            QTest::qWaitFor([&] { return m_server.isOnline(device.clientId); }, kTimeoutMs));
         return device.clientId;
     }
 
@@ -97,12 +97,12 @@ protected:
     int connectPeers() {
         m_viewer.order({{"do", "connect"}, {"target", m_targetId.toStdString()}});
         const nlohmann::json connected{{"event", "state"}, {"state", "Connected"}};
-        const auto begin = m_viewer.await({{"event", "connecting"}}, kPatienceMs);
-        const auto viewer = m_viewer.await(connected, kPatienceMs);
-        const auto target = m_target.await(connected, kPatienceMs);
+        const auto begin = m_viewer.await({{"event", "connecting"}}, kTimeoutMs);
+        const auto viewer = m_viewer.await(connected, kTimeoutMs);
+        const auto target = m_target.await(connected, kTimeoutMs);
         if (!begin || !viewer || !target) {
             ADD_FAILURE() << "not connected";
-            return kPatienceMs;
+            return kTimeoutMs;
         }
         m_transport = viewer->at("transport");
         EXPECT_EQ(target->at("transport"), m_transport);
@@ -122,11 +122,11 @@ protected:
         }
         m_viewer.order(expect);
         m_target.order(show);
-        const auto stopped = m_target.await(still, kPatienceMs);
-        const auto repaired = m_viewer.await(whole, GetParam().repairLimitMs + kPatienceMs);
+        const auto stopped = m_target.await(still, kTimeoutMs);
+        const auto repaired = m_viewer.await(whole, GetParam().repairLimitMs + kTimeoutMs);
         if (!stopped || !repaired) {
             ADD_FAILURE() << "no whole picture of step " << m_shown - 1;
-            return GetParam().repairLimitMs + kPatienceMs;
+            return GetParam().repairLimitMs + kTimeoutMs;
         }
         m_decoded = repaired->at("pictures");
         return repaired->at("at").get<int>() - stopped->at("since").get<int>();
@@ -163,7 +163,7 @@ TEST_P(BadNetworkTest, CarriesALiveSession) {
     std::vector<int> sent(kChatMessages);
     std::iota(sent.begin(), sent.end(), 0);
     for (PeerProcess* peer : {&m_viewer, &m_target}) {
-        peer->await({{"event", "chat"}, {"number", kChatMessages - 1}}, kPatienceMs);
+        peer->await({{"event", "chat"}, {"number", kChatMessages - 1}}, kTimeoutMs);
         EXPECT_EQ(peer->numbers("chat", "number"), sent);
     }
     const bool lossy = network.conditions.udpLossPercent > 0;

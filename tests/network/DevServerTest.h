@@ -10,7 +10,7 @@
 
 namespace corvane::test {
 
-constexpr std::chrono::seconds kPatience(5);
+constexpr std::chrono::seconds kTimeout(5);
 
 /// A test with a server of its own on free ports, and with the log captured.
 class DevServerTest : public testing::Test {

@@ -17,8 +17,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr qint64 kMaximumMessage = 100'000;
-constexpr qint64 kLargestDownload = kMaximumMessage - kDownloadResponseOverhead;
+constexpr qint64 kMaxMessage = 100'000;
+constexpr qint64 kMaxDownload = kMaxMessage - kDownloadResponseOverhead;
 using Type = FileMessageType;
 
 QByteArray content(qint64 size) {
@@ -33,7 +33,7 @@ QByteArray content(qint64 size) {
 class FileTransferServiceTest : public ::testing::Test {
 protected:
     bool deliver(FileTransferService& to, const ByteVector& message) {
-        EXPECT_LE(static_cast<qint64>(message.size()), kMaximumMessage);
+        EXPECT_LE(static_cast<qint64>(message.size()), kMaxMessage);
         m_types.push_back(static_cast<int>(message.front()));
         if (m_connected) {
             to.handleMessage(message);
@@ -61,9 +61,9 @@ protected:
     bool m_connected = true;
     std::vector<int> m_types; ///< of the messages sent, either way
     FileTransferService m_service{[this](const ByteVector& m) { return deliver(m_peer, m); },
-                                  kMaximumMessage};
+                                  kMaxMessage};
     FileTransferService m_peer{[this](const ByteVector& m) { return deliver(m_service, m); },
-                               kMaximumMessage};
+                               kMaxMessage};
     QSignalSpy m_listed{&m_service, &FileTransferService::directoryListed};
     QSignalSpy m_downloadProgress{&m_service, &FileTransferService::fileDownloadProgress};
     QSignalSpy m_downloaded{&m_service, &FileTransferService::fileDownloadComplete};
@@ -127,8 +127,8 @@ TEST_F(FileTransferServiceTest, WhatCannotBeDoneIsToldTheUser) {
     const QString missing = path(u"missing 无"_s);
     const QString impossible = existing + u"/below a file"_s;
     const QString unused = path(u"x"_s);
-    createFile(u"fits"_s, content(kLargestDownload));
-    const QString tooLarge = createFile(u"too large"_s, content(kLargestDownload + 1));
+    createFile(u"fits"_s, content(kMaxDownload));
+    const QString tooLarge = createFile(u"too large"_s, content(kMaxDownload + 1));
     m_service.requestDownload(path(u"fits"_s), path(u"copy"_s));
     EXPECT_EQ(m_downloaded.count(), 1);
 
@@ -261,7 +261,7 @@ TEST_F(FileTransferServiceTest, AListingIsReadAsFarAsItGoes) {
 
 TEST_F(FileTransferServiceTest, AReplacedDownloadLeavesTheNewOnesContentInTheEnd) {
     const QString target = path(u"target"_s);
-    FileTransferService service([](const ByteVector&) { return true; }, kMaximumMessage);
+    FileTransferService service([](const ByteVector&) { return true; }, kMaxMessage);
     service.requestDownload(u"former"_s, path(u"unused"_s));
     service.requestDownload(u"remote"_s, target);
     for (const char* const answer : {"former", "remote", "uncalled for"}) {
@@ -274,7 +274,7 @@ TEST_F(FileTransferServiceTest, AReplacedDownloadLeavesTheNewOnesContentInTheEnd
 TEST_F(FileTransferServiceTest, ADownloadIsAnsweredOnce) {
     const QString target = path(u"target"_s);
     m_connected = false;
-    FileTransferService service({}, kMaximumMessage);
+    FileTransferService service({}, kMaxMessage);
     QSignalSpy failed(&service, &FileTransferService::fileError);
     const auto answer = [&](const QByteArray& response) {
         service.requestDownload(u"remote"_s, target);

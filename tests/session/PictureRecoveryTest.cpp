@@ -11,48 +11,48 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 200ms;
+constexpr auto kTimeout = 200ms;
 
-TEST(MessageGapsTest, AMissingMessageIsLostWhenItStaysAwayTooLong) {
-    const MessageGaps::Time start{};
-    MessageGaps gaps(kPatience);
+TEST(LossDetectorTest, AMissingMessageIsLostWhenItStaysAwayTooLong) {
+    const LossDetector::Time start{};
+    LossDetector losses(kTimeout);
     for (const uint64_t counter : {0U, 1U, 4U, 3U}) { // 2 is missing, 3 was overtaken
-        EXPECT_TRUE(gaps.note(counter, start));
-        EXPECT_FALSE(gaps.note(counter, start)) << "a repetition";
+        EXPECT_TRUE(losses.note(counter, start));
+        EXPECT_FALSE(losses.note(counter, start)) << "a repetition";
     }
-    EXPECT_FALSE(gaps.takeLoss(start + kPatience - 1ms));
-    EXPECT_TRUE(gaps.takeLoss(start + kPatience));
-    EXPECT_FALSE(gaps.takeLoss(start + 2 * kPatience)) << "reported twice";
-    EXPECT_FALSE(gaps.note(2, start)) << "given up";
+    EXPECT_FALSE(losses.takeLoss(start + kTimeout - 1ms));
+    EXPECT_TRUE(losses.takeLoss(start + kTimeout));
+    EXPECT_FALSE(losses.takeLoss(start + 2 * kTimeout)) << "reported twice";
+    EXPECT_FALSE(losses.note(2, start)) << "given up";
 
-    gaps.note(9, start);
+    losses.note(9, start);
     for (const uint64_t counter : {6U, 8U, 5U, 7U, 7U, 2U}) {
-        gaps.note(counter, start + 10ms);
+        losses.note(counter, start + 10ms);
     }
-    EXPECT_FALSE(gaps.isAnythingMissing());
+    EXPECT_FALSE(losses.isAnythingMissing());
 
-    gaps.note(20, start);
-    gaps.forgetBefore(20);
-    EXPECT_FALSE(gaps.isAnythingMissing());
+    losses.note(20, start);
+    losses.forgetBefore(20);
+    EXPECT_FALSE(losses.isAnythingMissing());
 
-    MessageGaps begunLate(kPatience);
+    LossDetector begunLate(kTimeout);
     begunLate.note(1, start);
-    EXPECT_TRUE(begunLate.takeLoss(start + kPatience)) << "the first message";
+    EXPECT_TRUE(begunLate.takeLoss(start + kTimeout)) << "the first message";
 }
 
-TEST(MessageGapsTest, InventedCountersCostNeitherMemoryNorTime) {
-    MessageGaps gaps(kPatience);
+TEST(LossDetectorTest, InventedCountersCostNeitherMemoryNorTime) {
+    LossDetector losses(kTimeout);
     for (uint64_t i = 0; i < 100'000; ++i) {
-        gaps.note(2 * i + 1, {});
+        losses.note(2 * i + 1, {});
     }
-    gaps.note(std::numeric_limits<uint64_t>::max(), {});
-    gaps.note(std::numeric_limits<uint64_t>::max(), {});
-    EXPECT_TRUE(gaps.takeLoss({}));
+    losses.note(std::numeric_limits<uint64_t>::max(), {});
+    losses.note(std::numeric_limits<uint64_t>::max(), {});
+    EXPECT_TRUE(losses.takeLoss({}));
 }
 
 class PictureRecoveryTest : public testing::Test {
 protected:
-    PictureRecovery m_recovery{{.patience = 20ms, .interval = 50ms, .firstPicture = 100ms}};
+    PictureRecovery m_recovery{{.reorderWindow = 20ms, .interval = 50ms, .firstPicture = 100ms}};
     QSignalSpy m_requests{&m_recovery, &PictureRecovery::keyframeNeeded};
 };
 

@@ -23,7 +23,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr qint64 kMebibyte = 1024 * 1024;
-constexpr int kPatienceMs = 60'000;
+constexpr int kTimeoutMs = 60'000;
 const QString kSession = u"s"_s;
 
 /// An object that is made, lives and dies on a thread of its own.
@@ -98,7 +98,7 @@ struct Peer {
 class UploadOverRelayTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(eventually([this] { return joinedPeers(kSession) == 2; }, kPatienceMs));
+        ASSERT_TRUE(eventually([this] { return joinedPeers(kSession) == 2; }, kTimeoutMs));
     }
 
     int joinedPeers(const QString& session) {
@@ -154,7 +154,7 @@ TEST_F(UploadOverRelayTest, AHugeFileArrivesWholeAndWaitsOnDiskNotInTheQueue) {
     EXPECT_EQ(m_errors.count(), 0);
     EXPECT_LT(longestQueue, 5 * kMebibyte);
     const std::string received = "received upload -> '" + target.toStdString();
-    ASSERT_TRUE(eventually([&] { return m_log.contains(received); }, kPatienceMs));
+    ASSERT_TRUE(eventually([&] { return m_log.contains(received); }, kTimeoutMs));
     EXPECT_EQ(checksum(source), checksum(target));
 }
 
@@ -168,7 +168,7 @@ TEST_F(UploadOverRelayTest, TwoPeersThatSendAtOnceDoNotWaitForEachOther) {
     };
     OnThread<RelayTransport> peer(join);
     const auto user = join();
-    ASSERT_TRUE(eventually([&] { return joinedPeers(session) == 2; }, kPatienceMs));
+    ASSERT_TRUE(eventually([&] { return joinedPeers(session) == 2; }, kTimeoutMs));
     // Together more than all sockets on the way take while nobody reads.
     const auto sendMuch = [](RelayTransport& transport) {
         const ByteVector message(kMebibyte);
@@ -180,7 +180,7 @@ TEST_F(UploadOverRelayTest, TwoPeersThatSendAtOnceDoNotWaitForEachOther) {
     peer.post([&] { sendMuch(*peer); });
     QSignalSpy received(user.get(), &ITransport::dataReceived);
     sendMuch(*user);
-    EXPECT_TRUE(eventually([&] { return received.count() == 64; }, kPatienceMs));
+    EXPECT_TRUE(eventually([&] { return received.count() == 64; }, kTimeoutMs));
 }
 
 TEST_F(UploadOverRelayTest, AnUploadSurvivesTheEndOfItsConnection) {

@@ -16,7 +16,7 @@ namespace {
 using Messages = std::vector<std::pair<ChannelType, QByteArray>>;
 
 /// After which a connection counts as silent. The largest message shows nothing of its progress.
-constexpr int kSilenceMs = 40'000;
+constexpr int kInactivityTimeoutMs = 40'000;
 
 QByteArray randomBytes(size_t size) {
     std::minstd_rand random(static_cast<unsigned>(size));
@@ -84,7 +84,7 @@ protected:
 
     bool bothConnect() {
         return QTest::qWaitFor([this] { return offerer->isConnected() && answerer->isConnected(); },
-                               kSilenceMs);
+                               kInactivityTimeoutMs);
     }
 
     bool connectPeers() {
@@ -104,7 +104,7 @@ protected:
         do {
             before = atOfferer.size() + atAnswerer.size();
             (void)QTest::qWaitFor([&] { return atOfferer.size() + atAnswerer.size() > before; },
-                                  before < 2 * sent.size() ? kSilenceMs : 0);
+                                  before < 2 * sent.size() ? kInactivityTimeoutMs : 0);
         } while (atOfferer.size() + atAnswerer.size() > before);
         for (const Messages& inbox : {std::cref(atOfferer), std::cref(atAnswerer)}) {
             EXPECT_LE(inbox.size(), sent.size());
@@ -183,7 +183,7 @@ TEST_F(PeerLoopbackTest, TheOtherSideNoticesTheEndOnce) {
         const QSignalSpy lost(answerer.get(), &ITransport::disconnected);
         const QSignalSpy own(offerer.get(), &ITransport::disconnected);
         destroy ? offerer.reset() : offerer->disconnect();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !lost.isEmpty(); }, kSilenceMs));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !lost.isEmpty(); }, kInactivityTimeoutMs));
         EXPECT_FALSE(answerer->isConnected());
         EXPECT_FALSE(send(*answerer, ChannelType::Control, "x"));
         EXPECT_EQ(own.count(), 0);

@@ -43,7 +43,7 @@ TEST_F(ChatDialogTest, SendsWhatWasTyped) {
     EXPECT_TRUE(m_dialog.windowFlags() & Qt::WindowStaysOnTopHint);
     EXPECT_EQ(m_dialog.focusWidget(), m_input);
 
-    const QString longest(ChatDialog::kLongestMessage, u'x');
+    const QString longest(ChatDialog::kMaxMessage, u'x');
     const std::pair<QString, std::optional<QString>> cases[] = {
         {u"hello"_s, u"hello"_s},
         {u"\t <b>&amp;</b> ü  "_s, u"<b>&amp;</b> ü"_s},
@@ -83,7 +83,7 @@ TEST_F(ChatDialogTest, ShowsEverythingLiterally) {
 
 TEST_F(ChatDialogTest, KeepsTheLatestInView) {
     QScrollBar* const bar = m_transcript->verticalScrollBar();
-    for (int i = 0; i < ChatDialog::kMostMessages + 20; ++i) {
+    for (int i = 0; i < ChatDialog::kMaxMessages + 20; ++i) {
         if (i == 40) {
             bar->setValue(0);
         }
@@ -91,7 +91,7 @@ TEST_F(ChatDialogTest, KeepsTheLatestInView) {
         EXPECT_EQ(bar->value(), bar->maximum());
     }
     EXPECT_GT(bar->maximum(), 0);
-    EXPECT_EQ(m_transcript->document()->blockCount(), ChatDialog::kMostMessages);
+    EXPECT_EQ(m_transcript->document()->blockCount(), ChatDialog::kMaxMessages);
     EXPECT_TRUE(transcript().startsWith(u"Remote 03:04\n20\n"));
 
     m_dialog.hide();

@@ -72,12 +72,12 @@ protected:
 
     /// "text|colour" of the status line, without its dot.
     QString status() const {
-        static const QRegularExpression kColour(
+        static const QRegularExpression kColor(
             u"color: (#\\w+); font-size: 12px; padding-top: 4px;"_s);
         const auto* const line = widget<QLabel>("statusLabel");
         EXPECT_TRUE(line->text().startsWith(u"● "));
         return line->text().mid(2) + QLatin1Char('|') +
-               kColour.match(line->styleSheet()).captured(1);
+               kColor.match(line->styleSheet()).captured(1);
     }
 
     /// The message boxes on the screen.

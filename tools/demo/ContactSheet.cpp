@@ -11,20 +11,19 @@ namespace {
 constexpr size_t kColumns = 4;
 constexpr int kGap = 16;
 constexpr int kCaptionHeight = 28;
-constexpr QSize kLargestPicture(480, 420);
+constexpr QSize kMaxPicture(480, 420);
 constexpr QColor kBackground(0x30, 0x34, 0x3c);
 
 /// To what fits, never enlarged.
 QImage shrunk(const QImage& image) {
-    const bool fits = image.size().boundedTo(kLargestPicture) == image.size();
-    return fits ? image
-                : image.scaled(kLargestPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const bool fits = image.size().boundedTo(kMaxPicture) == image.size();
+    return fits ? image : image.scaled(kMaxPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace
 
 QImage ContactSheet::draw() const {
-    constexpr int kCellWidth = kLargestPicture.width() + kGap;
+    constexpr int kCellWidth = kMaxPicture.width() + kGap;
     std::vector<QImage> shown;
     for (const Picture& picture : m_pictures) {
         shown.push_back(shrunk(picture.image));
@@ -49,7 +48,7 @@ QImage ContactSheet::draw() const {
     painter.setFont(font);
     QPoint corner(kGap, kGap);
     for (size_t i = 0; i < shown.size(); ++i) {
-        painter.drawText(QRect(corner, QSize(kLargestPicture.width(), kCaptionHeight)),
+        painter.drawText(QRect(corner, QSize(kMaxPicture.width(), kCaptionHeight)),
                          Qt::AlignLeft | Qt::AlignVCenter, m_pictures[i].caption);
         painter.drawImage(corner + QPoint(0, kCaptionHeight), shown[i]);
         corner.rx() += kCellWidth;

@@ -12,7 +12,7 @@ using harness::DisplayUser;
 
 namespace {
 
-constexpr auto kPatience = 10s;
+constexpr auto kTimeout = 10s;
 const QString kChatTitle = QStringLiteral("Chat");
 
 constexpr QPoint kInput(60, -26);
@@ -36,12 +36,12 @@ bool reads(DisplayUser& user, const QString& text) {
                    user.display().pressKey('a', {harness::kKeyControl});
                    return user.copied().contains(text);
                },
-               kPatience);
+               kTimeout);
 }
 
 bool sendsClipboard(DisplayUser& from, DisplayUser& to, const QString& text) {
     from.clipboard().copy(text);
-    return harness::waitFor([&] { return to.clipboard().text() == text; }, kPatience);
+    return harness::waitFor([&] { return to.clipboard().text() == text; }, kTimeout);
 }
 
 void checkText(Stage& stage, const QString& name, bool arrived, const QString& text) {

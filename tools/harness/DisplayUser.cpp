@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kPatience = 10s;
+constexpr auto kTimeout = 10s;
 constexpr qint64 kStandsStillMs = 250;
 
 /// A window that is not painted yet has one colour.
@@ -30,11 +30,11 @@ bool isBlank(const QImage& image) {
 DisplayUser::DisplayUser(XDisplay& display) : m_display(display), m_clipboard(display.name()) {}
 
 bool DisplayUser::sees(const QString& title) {
-    return waitFor([&] { return m_display.findWindow(title).has_value(); }, kPatience);
+    return waitFor([&] { return m_display.findWindow(title).has_value(); }, kTimeout);
 }
 
 bool DisplayUser::seesNo(const QString& title) {
-    return waitFor([&] { return !m_display.findWindow(title).has_value(); }, kPatience);
+    return waitFor([&] { return !m_display.findWindow(title).has_value(); }, kTimeout);
 }
 
 bool DisplayUser::clickInto(const QString& title, QPoint place) {
@@ -91,7 +91,7 @@ QImage DisplayUser::look(const QString& title) {
             }
             return still.isValid() && still.elapsed() >= kStandsStillMs;
         },
-        kPatience);
+        kTimeout);
     return seen;
 }
 

@@ -12,10 +12,10 @@ bool waitFor(const std::function<bool()>& condition, std::chrono::milliseconds t
 
 bool achieve(const std::function<void()>& step, const std::function<bool()>& result) {
     constexpr int kAttempts = 4;
-    constexpr auto kPatience = 3s;
+    constexpr auto kTimeout = 3s;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         step();
-        if (waitFor(result, kPatience)) {
+        if (waitFor(result, kTimeout)) {
             return true;
         }
     }

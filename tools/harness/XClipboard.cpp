@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kAnswerTimeout = 3s;
-constexpr uint32_t kLongestText = 65'536; // four-byte units
+constexpr uint32_t kMaxText = 65'536; // four-byte units
 
 } // namespace
 
@@ -132,7 +132,7 @@ std::optional<QString> XClipboard::readProperty(xcb_atom_t property) const {
     constexpr uint8_t kDelete = 1;
     const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
         m_connection.get(),
-        xcb_get_property(m_connection.get(), kDelete, m_window, property, m_utf8, 0, kLongestText),
+        xcb_get_property(m_connection.get(), kDelete, m_window, property, m_utf8, 0, kMaxText),
         nullptr));
     if (!reply || reply->type != m_utf8) {
         return std::nullopt;

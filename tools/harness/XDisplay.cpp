@@ -61,11 +61,11 @@ QImage XDisplay::grab(const QRect& area) const {
 }
 
 QString XDisplay::title(xcb_window_t window) const {
-    constexpr uint32_t kLongestTitle = 256; // four-byte units
+    constexpr uint32_t kMaxTitle = 256; // four-byte units
     const XReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(m_connection.get(),
                                xcb_get_property(m_connection.get(), 0, window, XCB_ATOM_WM_NAME,
-                                                XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestTitle),
+                                                XCB_GET_PROPERTY_TYPE_ANY, 0, kMaxTitle),
                                nullptr));
     return reply ? QString::fromUtf8(static_cast<const char*>(xcb_get_property_value(reply.get())),
                                      xcb_get_property_value_length(reply.get()))

@@ -38,8 +38,8 @@ LRESULT CALLBACK holdSystem(HWND window, UINT message, WPARAM word, LPARAM data)
     if (auto* const application = QCoreApplication::instance(); application != nullptr) {
         QMetaObject::invokeMethod(application, [] { QCoreApplication::exit(); });
     }
-    constexpr DWORD kPatienceMs = 5000; // the system's own, after which it ends the process anyway
-    WaitForSingleObject(GetCurrentProcess(), kPatienceMs);
+    constexpr DWORD kTimeoutMs = 5000; // the system's own, after which it ends the process anyway
+    WaitForSingleObject(GetCurrentProcess(), kTimeoutMs);
     return 0;
 }
 

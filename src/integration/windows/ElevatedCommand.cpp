@@ -7,7 +7,7 @@ namespace corvane {
 
 namespace {
 
-constexpr DWORD kLongestWaitMs = 30'000;
+constexpr DWORD kMaxWaitMs = 30'000;
 
 /// The shell may hand the start to one of its extensions, which are COM objects.
 class ComApartment {
@@ -48,7 +48,7 @@ bool runElevated(const QString& commandLine, const ElevationFunctions& functions
         return false;
     }
     if (info.hProcess != nullptr) {
-        functions.waitForObject(info.hProcess, kLongestWaitMs);
+        functions.waitForObject(info.hProcess, kMaxWaitMs);
         functions.closeHandle(info.hProcess);
     }
     return true;

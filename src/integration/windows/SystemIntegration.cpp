@@ -28,12 +28,12 @@ QFuture<bool> inBackground(Work work) {
 } // namespace
 
 int runBriefly(const QString& program, const QStringList& arguments) {
-    constexpr int kLongestWaitMs = 3000;
+    constexpr int kMaxWaitMs = 3000;
     constexpr int kNoAnswer = -1;
     QProcess process;
     process.start(program, arguments);
     const bool ended =
-        process.waitForFinished(kLongestWaitMs) && process.exitStatus() == QProcess::NormalExit;
+        process.waitForFinished(kMaxWaitMs) && process.exitStatus() == QProcess::NormalExit;
     return ended ? process.exitCode() : kNoAnswer;
 }
 

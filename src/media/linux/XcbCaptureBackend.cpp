@@ -21,7 +21,7 @@ namespace {
 constexpr uint8_t kSentEventBit = 0x80;
 
 /// Beyond this many changed regions the list costs more than it saves.
-constexpr size_t kMaximumChanges = 64;
+constexpr size_t kMaxChanges = 64;
 
 std::unique_ptr<X11Connection> openUsableConnection() {
     auto connection = X11Connection::open();
@@ -151,7 +151,7 @@ std::unique_ptr<CapturedFrame> XcbCaptureBackend::captureFrame() {
         }
         m_cursor = std::move(cursor);
     }
-    if (m_wholeFrameDue || changes.size() > kMaximumChanges) {
+    if (m_wholeFrameDue || changes.size() > kMaxChanges) {
         changes.clear();
     }
     m_wholeFrameDue = false;

@@ -18,7 +18,7 @@ constexpr UINT kAcquireTimeoutMs = 100;
 constexpr int kMaxReinitializations = 5;
 
 /// Edge of the largest pointer that the system's accessibility settings offer, pixels.
-constexpr LONG kLargestPointer = 256;
+constexpr LONG kMaxPointer = 256;
 
 uint32_t hex(HRESULT result) {
     return static_cast<uint32_t>(result);
@@ -79,8 +79,8 @@ FrameRect pointerArea(const POINT& position, const MonitorInfo& monitor) {
     const LONG left = position.x - monitor.x;
     const LONG top = position.y - monitor.y;
     return {std::clamp<LONG>(left, 0, monitor.width), std::clamp<LONG>(top, 0, monitor.height),
-            std::clamp<LONG>(left + kLargestPointer, 0, monitor.width),
-            std::clamp<LONG>(top + kLargestPointer, 0, monitor.height)};
+            std::clamp<LONG>(left + kMaxPointer, 0, monitor.width),
+            std::clamp<LONG>(top + kMaxPointer, 0, monitor.height)};
 }
 
 } // namespace

@@ -50,8 +50,8 @@ nlohmann::json parsedBody(const QByteArray& body) {
 
 } // namespace
 
-ApiClient::ApiClient(QObject* parent, std::chrono::milliseconds silenceLimit)
-    : QObject(parent), m_silenceLimit(silenceLimit) {}
+ApiClient::ApiClient(QObject* parent, std::chrono::milliseconds inactivityTimeout)
+    : QObject(parent), m_inactivityTimeout(inactivityTimeout) {}
 
 ApiClient::~ApiClient() {
     // A request starts with the event loop's next round, which at the process's end would not come.
@@ -242,7 +242,7 @@ QNetworkRequest ApiClient::request(const QString& path, Authorization authorizat
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::ManualRedirectPolicy);
-    request.setTransferTimeout(static_cast<int>(m_silenceLimit.count()));
+    request.setTransferTimeout(static_cast<int>(m_inactivityTimeout.count()));
     if (authorization == Authorization::Bearer && !m_token.isEmpty()) {
         request.setRawHeader("Authorization", "Bearer " + m_token.toUtf8());
     }

@@ -24,9 +24,9 @@ class ApiClient : public QObject {
     Q_OBJECT
 
 public:
-    /// `silenceLimit`: how long a request may go without any progress.
+    /// `inactivityTimeout`: how long a request may go without any progress.
     explicit ApiClient(QObject* parent = nullptr,
-                       std::chrono::milliseconds silenceLimit = std::chrono::seconds(30));
+                       std::chrono::milliseconds inactivityTimeout = std::chrono::seconds(30));
 
     /// Waits a second at most for the server to take the last close request if it is under way,
     /// with the event loop running.
@@ -105,7 +105,7 @@ private:
     QPointer<QNetworkReply> m_creation;        ///< of the last session asked for
     QPointer<QNetworkReply> m_acknowledgement; ///< of the last session accepted
     QPointer<QNetworkReply> m_closure;         ///< of the last session closed
-    std::chrono::milliseconds m_silenceLimit;
+    std::chrono::milliseconds m_inactivityTimeout;
 };
 
 } // namespace corvane

@@ -24,10 +24,10 @@ bool isHttp(const QUrl& url) {
 
 } // namespace
 
-HttpFetch::HttpFetch(QNetworkAccessManager& network, const QUrl& url, qint64 maximumBytes,
-                     QObject* parent, std::chrono::milliseconds silenceLimit)
-    : QObject(parent), m_network(network), m_maximumBytes(maximumBytes),
-      m_silenceLimit(silenceLimit) {
+HttpFetch::HttpFetch(QNetworkAccessManager& network, const QUrl& url, qint64 maxBytes,
+                     QObject* parent, std::chrono::milliseconds inactivityTimeout)
+    : QObject(parent), m_network(network), m_maxBytes(maxBytes),
+      m_inactivityTimeout(inactivityTimeout) {
     if (isHttp(url)) {
         send(url);
         return;
@@ -50,7 +50,7 @@ void HttpFetch::send(const QUrl& url) {
     QNetworkRequest request(url);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::ManualRedirectPolicy);
-    request.setTransferTimeout(static_cast<int>(m_silenceLimit.count()));
+    request.setTransferTimeout(static_cast<int>(m_inactivityTimeout.count()));
     m_receivedBytes = 0;
     m_reply = m_network.get(request);
     m_reply->setReadBufferSize(kReadBufferBytes);
@@ -67,7 +67,7 @@ bool HttpFetch::isAnswer() const {
 void HttpFetch::onReadable() {
     const QByteArray part = m_reply->readAll();
     m_receivedBytes += part.size();
-    if (m_receivedBytes > m_maximumBytes) {
+    if (m_receivedBytes > m_maxBytes) {
         giveUpOnSize();
     } else if (isAnswer() && !part.isEmpty()) {
         m_body += part;
@@ -79,7 +79,7 @@ void HttpFetch::onProgress(qint64 receivedBytes, qint64 totalBytes) {
     if (!isAnswer() || !m_error.isEmpty()) {
         return;
     }
-    if (totalBytes > m_maximumBytes) {
+    if (totalBytes > m_maxBytes) {
         giveUpOnSize();
     } else {
         Q_EMIT progress(receivedBytes, totalBytes);
@@ -88,7 +88,7 @@ void HttpFetch::onProgress(qint64 receivedBytes, qint64 totalBytes) {
 
 void HttpFetch::giveUpOnSize() {
     m_tooLarge = true;
-    giveUp(tr("The server sends more than %1 bytes.").arg(m_maximumBytes));
+    giveUp(tr("The server sends more than %1 bytes.").arg(m_maxBytes));
 }
 
 void HttpFetch::onReplyFinished() {

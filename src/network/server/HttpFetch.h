@@ -20,14 +20,14 @@ class HttpFetch : public QObject {
 
 public:
     /// Sends the request; the signals come later. `network` must outlive the fetch.
-    HttpFetch(QNetworkAccessManager& network, const QUrl& url, qint64 maximumBytes, QObject* parent,
-              std::chrono::milliseconds silenceLimit = std::chrono::seconds(30));
+    HttpFetch(QNetworkAccessManager& network, const QUrl& url, qint64 maxBytes, QObject* parent,
+              std::chrono::milliseconds inactivityTimeout = std::chrono::seconds(30));
 
     /// What has arrived of the body since the last call; nothing of an error page, and nothing more
     /// after a failure.
     QByteArray take();
 
-    /// Whether the end came because there was more than `maximumBytes`.
+    /// Whether the end came because there was more than `maxBytes`.
     bool isTooLarge() const { return m_tooLarge; }
 
     /// Ends the fetch now, with `finished(error)`. `error` is not empty.
@@ -54,8 +54,8 @@ private:
     bool isAnswer() const;
 
     QNetworkAccessManager& m_network;
-    qint64 m_maximumBytes;
-    std::chrono::milliseconds m_silenceLimit;
+    qint64 m_maxBytes;
+    std::chrono::milliseconds m_inactivityTimeout;
     QNetworkReply* m_reply = nullptr;
     int m_redirects = 0;
     qint64 m_receivedBytes = 0;

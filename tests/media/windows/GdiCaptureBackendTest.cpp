@@ -14,9 +14,9 @@ using ::testing::IsEmpty;
 constexpr uint32_t kRgbMask = 0xFFFFFF;
 
 /// A window of one colour above all others.
-class ColouredWindow {
+class ColoredWindow {
 public:
-    ColouredWindow(const RECT& place, COLORREF colour) : m_brush(CreateSolidBrush(colour)) {
+    ColoredWindow(const RECT& place, COLORREF colour) : m_brush(CreateSolidBrush(colour)) {
         m_window =
             CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, "STATIC", "", WS_POPUP | WS_VISIBLE,
                             place.left, place.top, place.right - place.left,
@@ -24,12 +24,12 @@ public:
         ShowWindow(m_window, SW_SHOWNOACTIVATE);
         paint();
     }
-    ~ColouredWindow() {
+    ~ColoredWindow() {
         DestroyWindow(m_window);
         DeleteObject(m_brush);
     }
-    ColouredWindow(const ColouredWindow&) = delete;
-    ColouredWindow& operator=(const ColouredWindow&) = delete;
+    ColoredWindow(const ColoredWindow&) = delete;
+    ColoredWindow& operator=(const ColoredWindow&) = delete;
 
     void paint() const {
         const HDC context = GetDC(m_window);
@@ -55,8 +55,8 @@ uint32_t pixelAt(const CapturedFrame& frame, int32_t x, int32_t y) {
 
 TEST(GdiCaptureBackendTest, WindowsAreSeenInTheirPlaceAndColour) {
     const test::LogCapture log;
-    const ColouredWindow red({100, 100, 180, 150}, RGB(250, 20, 30));
-    const ColouredWindow blue({180, 150, 300, 200}, RGB(10, 40, 240));
+    const ColoredWindow red({100, 100, 180, 150}, RGB(250, 20, 30));
+    const ColoredWindow blue({180, 150, 300, 200}, RGB(10, 40, 240));
     GdiCaptureBackend backend({.getCursorInfo = [](CURSORINFO*) -> WINBOOL {
         return FALSE;
     }});

@@ -60,7 +60,7 @@ QByteArray seenAt(const char* address, quint16 port) {
 }
 
 TEST_F(HeartbeatServiceTest, LaterHeartbeatsCarryWhatWasFoundOut) {
-    HeartbeatService service(&m_api, nullptr, options(test::kPatience));
+    HeartbeatService service(&m_api, nullptr, options(test::kTimeout));
     service.start(20);
     EXPECT_EQ(m_log.lines(),
               std::vector<std::string>{"info|Heartbeat service started (interval: 20 ms)"});
@@ -111,8 +111,8 @@ TEST_F(HeartbeatServiceTest, TwoResponsesTellTheNatType) {
         script(first, second);
         m_log.clear();
         const bool answers = outcome != unknown;
-        HeartbeatService service(
-            &m_api, nullptr, options(answers ? test::kPatience : std::chrono::milliseconds(50)));
+        HeartbeatService service(&m_api, nullptr,
+                                 options(answers ? test::kTimeout : std::chrono::milliseconds(50)));
         EXPECT_EQ(service.natType(), QString());
         service.detectNatType();
         EXPECT_TRUE(eventually([&] { return !service.natType().isEmpty(); }));

@@ -12,11 +12,11 @@ using namespace Qt::StringLiterals;
 
 /// The body, or "error: text".
 std::string fetched(const QUrl& url,
-                    std::chrono::milliseconds silenceLimit = std::chrono::seconds(20)) {
-    constexpr qint64 kMaximumBytes = 10;
+                    std::chrono::milliseconds inactivityTimeout = std::chrono::seconds(20)) {
+    constexpr qint64 kMaxBytes = 10;
     QNetworkAccessManager network;
     QObject owner;
-    auto* const fetch = new HttpFetch(network, url, kMaximumBytes, &owner, silenceLimit);
+    auto* const fetch = new HttpFetch(network, url, kMaxBytes, &owner, inactivityTimeout);
     std::string outcome;
     QObject::connect(fetch, &HttpFetch::finished, [&](const QString& error) {
         const QByteArray body = fetch->take();

@@ -1,4 +1,4 @@
-#include "services/WholeFile.h"
+#include "services/AtomicFile.h"
 
 #include "common/ByteViews.h"
 
@@ -6,14 +6,14 @@
 
 namespace corvane {
 
-WholeFile::WholeFile(const QString& path) : m_file(path) {}
+AtomicFile::AtomicFile(const QString& path) : m_file(path) {}
 
-bool WholeFile::open() {
+bool AtomicFile::open() {
     const QFileInfo existing(m_file.fileName());
     return (!existing.exists() || existing.isFile()) && m_file.open(QIODevice::WriteOnly);
 }
 
-bool WholeFile::append(ByteSpan bytes) {
+bool AtomicFile::append(ByteSpan bytes) {
     const QByteArrayView data = viewOf(bytes);
     if (m_file.write(data.data(), data.size()) != data.size()) {
         m_failed = true;
@@ -21,7 +21,7 @@ bool WholeFile::append(ByteSpan bytes) {
     return !m_failed;
 }
 
-bool WholeFile::commit() {
+bool AtomicFile::commit() {
     m_failed = m_failed || !m_file.flush();
     if (m_failed) {
         m_file.cancelWriting();
@@ -30,8 +30,8 @@ bool WholeFile::commit() {
     return m_file.commit() && !m_failed;
 }
 
-bool writeWholeFile(const QString& path, ByteSpan bytes) {
-    WholeFile file(path);
+bool writeAtomicFile(const QString& path, ByteSpan bytes) {
+    AtomicFile file(path);
     file.allowInPlace();
     return file.open() && file.append(bytes) && file.commit();
 }

@@ -1,4 +1,4 @@
-#include "media/Av1Packet.h"
+#include "media/AV1Packet.h"
 
 #include <dav1d/dav1d.h>
 

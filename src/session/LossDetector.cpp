@@ -1,11 +1,11 @@
-#include "session/MessageGaps.h"
+#include "session/LossDetector.h"
 
 #include <limits>
 #include <utility>
 
 namespace corvane {
 
-bool MessageGaps::note(uint64_t counter, Time now) {
+bool LossDetector::note(uint64_t counter, Time now) {
     if (counter < m_next) {
         return close(counter);
     }
@@ -13,14 +13,14 @@ bool MessageGaps::note(uint64_t counter, Time now) {
         m_missing.emplace(m_next, Gap{counter, now});
     }
     m_next = counter < std::numeric_limits<uint64_t>::max() ? counter + 1 : counter;
-    if (m_missing.size() > kMostGaps) {
+    if (m_missing.size() > kMaxGaps) {
         m_missing.clear();
         m_overflowed = true;
     }
     return true;
 }
 
-bool MessageGaps::close(uint64_t counter) {
+bool LossDetector::close(uint64_t counter) {
     auto gap = m_missing.upper_bound(counter);
     if (gap == m_missing.begin()) {
         return false;
@@ -40,13 +40,13 @@ bool MessageGaps::close(uint64_t counter) {
     return true;
 }
 
-bool MessageGaps::takeLoss(Time now) {
+bool LossDetector::takeLoss(Time now) {
     const auto lost = std::erase_if(
-        m_missing, [&](const auto& gap) { return now - gap.second.since >= m_patience; });
+        m_missing, [&](const auto& gap) { return now - gap.second.since >= m_reorderWindow; });
     return std::exchange(m_overflowed, false) || lost > 0;
 }
 
-void MessageGaps::forgetBefore(uint64_t counter) {
+void LossDetector::forgetBefore(uint64_t counter) {
     m_missing.erase(m_missing.begin(), m_missing.lower_bound(counter));
 }
 

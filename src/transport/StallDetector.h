@@ -7,11 +7,11 @@
 namespace corvane {
 
 /// Tells when a send queue that holds something has moved nothing for some time.
-class Standstill {
+class StallDetector {
 public:
     using Clock = std::chrono::steady_clock;
 
-    explicit Standstill(std::chrono::milliseconds limit) : m_limit(limit) {}
+    explicit StallDetector(std::chrono::milliseconds limit) : m_limit(limit) {}
 
     /// To be asked again and again. `accepted`: bytes given to the queue so far; `queued`: bytes of
     /// them that are still in it. The time runs from the first look at a queue that holds

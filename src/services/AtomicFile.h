@@ -9,9 +9,9 @@ namespace corvane {
 
 /// Creates or replaces the file at a path in one go: what is appended shows there with `commit`
 /// only, and never without. Replaces ordinary files only, never a device or a pipe.
-class WholeFile {
+class AtomicFile {
 public:
-    explicit WholeFile(const QString& path);
+    explicit AtomicFile(const QString& path);
 
     /// In a folder that takes no further file, one that is there may still be writable: this lets
     /// it be written in place, where a failure on the way leaves it damaged. Before `open`.
@@ -31,6 +31,6 @@ private:
 };
 
 /// The same for bytes that are at hand, in place if it must be.
-bool writeWholeFile(const QString& path, ByteSpan bytes);
+bool writeAtomicFile(const QString& path, ByteSpan bytes);
 
 } // namespace corvane
