@@ -27,13 +27,16 @@ const xcb_visualtype_t* rootVisual(const xcb_screen_t& screen) {
 
 } // namespace
 
-std::unique_ptr<X11Connection> X11Connection::open() {
+std::unique_ptr<X11Connection> X11Connection::open(const char* display, int* error) {
     int screenNumber = 0;
-    xcb_connection_t* const connection = xcb_connect(nullptr, &screenNumber);
-    xcb_screen_t* const screen = xcb_connection_has_error(connection) == 0
-                                     ? screenAt(xcb_get_setup(connection), screenNumber)
-                                     : nullptr;
+    xcb_connection_t* const connection = xcb_connect(display, &screenNumber);
+    const int failure = xcb_connection_has_error(connection);
+    xcb_screen_t* const screen =
+        failure == 0 ? screenAt(xcb_get_setup(connection), screenNumber) : nullptr;
     if (screen == nullptr) {
+        if (error != nullptr) {
+            *error = failure != 0 ? failure : XCB_CONN_CLOSED_INVALID_SCREEN;
+        }
         xcb_disconnect(connection);
         return nullptr;
     }
@@ -47,6 +50,10 @@ X11Connection::~X11Connection() {
 bool X11Connection::hasExtension(xcb_extension_t& extension) const {
     const auto* const data = xcb_get_extension_data(m_connection, &extension);
     return data != nullptr && data->present != 0;
+}
+
+uint8_t X11Connection::firstEvent(xcb_extension_t& extension) const {
+    return xcb_get_extension_data(m_connection, &extension)->first_event;
 }
 
 int X11Connection::bitsPerPixel() const {

@@ -6,11 +6,12 @@
 
 namespace corvane {
 
-/// A connection to the X server that DISPLAY names, and its default screen.
+/// A connection to an X server, and its default screen.
 class X11Connection {
 public:
-    /// Null when there is no server to talk to.
-    static std::unique_ptr<X11Connection> open();
+    /// Connects to the server that DISPLAY names, or to `display`. Null when there is none to talk
+    /// to; `error` then holds the library's number.
+    static std::unique_ptr<X11Connection> open(const char* display = nullptr, int* error = nullptr);
 
     ~X11Connection();
     X11Connection(const X11Connection&) = delete;
@@ -21,9 +22,15 @@ public:
     xcb_window_t root() const { return m_screen->root; }
 
     /// False once the server has gone; it never comes back.
-    bool isAlive() const { return xcb_connection_has_error(m_connection) == 0; }
+    bool isAlive() const { return error() == 0; }
+
+    /// Why the connection is dead, as the library's number; 0 while it is alive.
+    int error() const { return xcb_connection_has_error(m_connection); }
 
     bool hasExtension(xcb_extension_t& extension) const;
+
+    /// The type of the first event that an extension of the server defines.
+    uint8_t firstEvent(xcb_extension_t& extension) const;
 
     /// Whether the screen's pixels are 32-bit little-endian words with blue in the lowest byte,
     /// green and red above it.

@@ -5,6 +5,7 @@
 
 #include <xcb/randr.h>
 
+#include <algorithm>
 #include <string>
 
 namespace corvane {
@@ -84,6 +85,15 @@ std::vector<MonitorInfo> enumerateMonitors(const X11Connection& connection) {
         }
     }
     return wholeScreen(connection);
+}
+
+std::optional<MonitorInfo> primaryMonitor(const X11Connection& connection) {
+    const auto monitors = enumerateMonitors(connection);
+    if (monitors.empty()) {
+        return std::nullopt;
+    }
+    const auto primary = std::ranges::find_if(monitors, &MonitorInfo::primary);
+    return primary != monitors.end() ? *primary : monitors.front();
 }
 
 } // namespace corvane

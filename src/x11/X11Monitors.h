@@ -2,6 +2,7 @@
 
 #include "common/MonitorInfo.h"
 
+#include <optional>
 #include <vector>
 
 namespace corvane {
@@ -11,5 +12,9 @@ class X11Connection;
 /// The monitors in the server's order, or the whole screen as the only one where the server cannot
 /// tell. Empty when the connection is dead.
 std::vector<MonitorInfo> enumerateMonitors(const X11Connection& connection);
+
+/// The primary monitor, or the first one where none is primary. Nothing when the connection is
+/// dead.
+std::optional<MonitorInfo> primaryMonitor(const X11Connection& connection);
 
 } // namespace corvane

@@ -1,7 +1,7 @@
 #include "harness/XClipboard.h"
 
 #include "harness/WaitFor.h"
-#include "harness/XReply.h"
+#include "x11/XcbEvent.h"
 
 #include <array>
 #include <cstring>
@@ -18,7 +18,7 @@ constexpr uint32_t kMaxText = 65'536; // four-byte units
 } // namespace
 
 XClipboard::XClipboard(const QString& display)
-    : m_connection(xcb_connect(display.toLatin1().constData(), &m_screenNumber)) {
+    : m_connection(X11Connection::open(display.toLatin1().constData())) {
     if (!isConnected()) {
         return;
     }
@@ -26,11 +26,10 @@ XClipboard::XClipboard(const QString& display)
     m_targets = intern("TARGETS");
     m_utf8 = intern("UTF8_STRING");
     m_received = intern("CORVANE_RECEIVED");
-    xcb_connection_t* const connection = m_connection.get();
+    xcb_connection_t* const connection = m_connection->handle();
     m_window = xcb_generate_id(connection);
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-    xcb_create_window(connection, XCB_COPY_FROM_PARENT, m_window, root, 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, m_window, m_connection->root(), 0, 0, 1, 1,
+                      0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
     xcb_flush(connection);
     m_notifier = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection),
                                                    QSocketNotifier::Read);
@@ -41,32 +40,41 @@ XClipboard::XClipboard(const QString& display)
 XClipboard::~XClipboard() = default;
 
 bool XClipboard::isConnected() const {
-    return xcb_connection_has_error(m_connection.get()) == 0;
+    return m_connection && m_connection->isAlive();
 }
 
 xcb_atom_t XClipboard::intern(const char* name) const {
     const auto length = static_cast<uint16_t>(std::strlen(name));
-    const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
-        m_connection.get(), xcb_intern_atom(m_connection.get(), 0, length, name), nullptr));
+    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        m_connection->handle(), xcb_intern_atom(m_connection->handle(), 0, length, name), nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
 void XClipboard::copy(const QString& text) {
+    if (!isConnected()) {
+        return;
+    }
     m_copied = text;
-    xcb_set_selection_owner(m_connection.get(), m_window, m_clipboard, XCB_CURRENT_TIME);
-    xcb_flush(m_connection.get());
+    xcb_set_selection_owner(m_connection->handle(), m_window, m_clipboard, XCB_CURRENT_TIME);
+    xcb_flush(m_connection->handle());
 }
 
 void XClipboard::clear() {
-    xcb_set_selection_owner(m_connection.get(), XCB_WINDOW_NONE, m_clipboard, XCB_CURRENT_TIME);
-    xcb_flush(m_connection.get());
+    if (!isConnected()) {
+        return;
+    }
+    xcb_set_selection_owner(m_connection->handle(), XCB_WINDOW_NONE, m_clipboard, XCB_CURRENT_TIME);
+    xcb_flush(m_connection->handle());
 }
 
 std::optional<QString> XClipboard::text() {
+    if (!isConnected()) {
+        return std::nullopt;
+    }
     m_answer.reset();
-    xcb_convert_selection(m_connection.get(), m_window, m_clipboard, m_utf8, m_received,
+    xcb_convert_selection(m_connection->handle(), m_window, m_clipboard, m_utf8, m_received,
                           XCB_CURRENT_TIME);
-    xcb_flush(m_connection.get());
+    xcb_flush(m_connection->handle());
     waitFor(
         [this] {
             handleEvents();
@@ -78,10 +86,8 @@ std::optional<QString> XClipboard::text() {
 }
 
 void XClipboard::handleEvents() {
-    constexpr uint8_t kSentByAClient = 0x80;
-    using Event = XReply<xcb_generic_event_t>;
-    while (const Event event{xcb_poll_for_event(m_connection.get())}) {
-        const int type = event->response_type & ~kSentByAClient;
+    while (const XcbEvent event{xcb_poll_for_event(m_connection->handle())}) {
+        const int type = eventType(*event);
         if (type == XCB_SELECTION_REQUEST) {
             answer(reinterpret_cast<const xcb_selection_request_event_t&>(*event));
         } else if (type == XCB_SELECTION_NOTIFY) {
@@ -107,12 +113,13 @@ void XClipboard::answer(const xcb_selection_request_event_t& request) {
         provide(request, property) ? property : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
     std::array<char, 32> wire{}; // the size of every event, this one's fields are fewer
     std::memcpy(wire.data(), &notice, sizeof notice);
-    xcb_send_event(m_connection.get(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT, wire.data());
-    xcb_flush(m_connection.get());
+    xcb_send_event(m_connection->handle(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
+                   wire.data());
+    xcb_flush(m_connection->handle());
 }
 
 bool XClipboard::provide(const xcb_selection_request_event_t& request, xcb_atom_t property) const {
-    xcb_connection_t* const connection = m_connection.get();
+    xcb_connection_t* const connection = m_connection->handle();
     if (request.target == m_targets) {
         const std::array targets{m_targets, m_utf8};
         xcb_change_property(connection, XCB_PROP_MODE_REPLACE, request.requestor, property,
@@ -130,9 +137,9 @@ bool XClipboard::provide(const xcb_selection_request_event_t& request, xcb_atom_
 
 std::optional<QString> XClipboard::readProperty(xcb_atom_t property) const {
     constexpr uint8_t kDelete = 1;
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection.get(),
-        xcb_get_property(m_connection.get(), kDelete, m_window, property, m_utf8, 0, kMaxText),
+    const XcbReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        m_connection->handle(),
+        xcb_get_property(m_connection->handle(), kDelete, m_window, property, m_utf8, 0, kMaxText),
         nullptr));
     if (!reply || reply->type != m_utf8) {
         return std::nullopt;

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "x11/X11Connection.h"
+
 #include <QSocketNotifier>
 #include <QString>
-
-#include <xcb/xcb.h>
 
 #include <memory>
 #include <optional>
@@ -28,10 +28,6 @@ public:
     std::optional<QString> text();
 
 private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-    };
-
     bool isConnected() const;
     xcb_atom_t intern(const char* name) const;
     void handleEvents();
@@ -40,8 +36,7 @@ private:
     bool provide(const xcb_selection_request_event_t& request, xcb_atom_t property) const;
     std::optional<QString> readProperty(xcb_atom_t property) const;
 
-    int m_screenNumber = 0;
-    std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+    const std::unique_ptr<X11Connection> m_connection; ///< null where there is no server
     std::unique_ptr<QSocketNotifier> m_notifier;
     xcb_window_t m_window = XCB_WINDOW_NONE;
     xcb_atom_t m_clipboard = XCB_ATOM_NONE;

@@ -1,6 +1,6 @@
 #include "harness/XDisplay.h"
 
-#include "harness/XReply.h"
+#include "x11/XcbReply.h"
 
 #include <xcb/xtest.h>
 
@@ -13,30 +13,19 @@ constexpr uint8_t kLeftButton = 1;
 /// A release and a press of the same key in the same millisecond would pass for auto-repeat.
 constexpr uint32_t kKeyDelayMs = 8;
 
-xcb_screen_t* screenOf(xcb_connection_t* connection, int number) {
-    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
-    for (; screens.rem > 0 && number > 0; --number) {
-        xcb_screen_next(&screens);
-    }
-    return screens.data;
-}
-
 } // namespace
 
 XDisplay::XDisplay(const QString& name)
-    : m_name(name), m_connection(xcb_connect(name.toLatin1().constData(), &m_screenNumber)) {
-    if (isConnected()) {
-        m_screen = screenOf(m_connection.get(), m_screenNumber);
-    }
-}
+    : m_name(name), m_connection(X11Connection::open(name.toLatin1().constData())) {}
 
 bool XDisplay::isConnected() const {
-    return xcb_connection_has_error(m_connection.get()) == 0;
+    return m_connection && m_connection->isAlive();
 }
 
 QSize XDisplay::size() const {
-    return m_screen != nullptr ? QSize(m_screen->width_in_pixels, m_screen->height_in_pixels)
-                               : QSize();
+    return m_connection ? QSize(m_connection->screen().width_in_pixels,
+                                m_connection->screen().height_in_pixels)
+                        : QSize();
 }
 
 QImage XDisplay::grab(const QRect& area) const {
@@ -44,9 +33,9 @@ QImage XDisplay::grab(const QRect& area) const {
     if (!isConnected() || visible.isEmpty()) {
         return {};
     }
-    const XReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
-        m_connection.get(),
-        xcb_get_image(m_connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root,
+    const XcbReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
+        m_connection->handle(),
+        xcb_get_image(m_connection->handle(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_connection->root(),
                       static_cast<int16_t>(visible.x()), static_cast<int16_t>(visible.y()),
                       static_cast<uint16_t>(visible.width()),
                       static_cast<uint16_t>(visible.height()), ~0U),
@@ -62,9 +51,9 @@ QImage XDisplay::grab(const QRect& area) const {
 
 QString XDisplay::title(xcb_window_t window) const {
     constexpr uint32_t kMaxTitle = 256; // four-byte units
-    const XReply<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(m_connection.get(),
-                               xcb_get_property(m_connection.get(), 0, window, XCB_ATOM_WM_NAME,
+    const XcbReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection->handle(),
+                               xcb_get_property(m_connection->handle(), 0, window, XCB_ATOM_WM_NAME,
                                                 XCB_GET_PROPERTY_TYPE_ANY, 0, kMaxTitle),
                                nullptr));
     return reply ? QString::fromUtf8(static_cast<const char*>(xcb_get_property_value(reply.get())),
@@ -73,7 +62,7 @@ QString XDisplay::title(xcb_window_t window) const {
 }
 
 std::optional<QRect> XDisplay::findWindow(const QString& title) const {
-    return isConnected() ? findWindow(m_screen->root, title) : std::nullopt;
+    return isConnected() ? findWindow(m_connection->root(), title) : std::nullopt;
 }
 
 std::optional<QRect> XDisplay::findWindow(xcb_window_t parent, const QString& wanted) const {
@@ -91,14 +80,15 @@ std::optional<QRect> XDisplay::findWindow(xcb_window_t parent, const QString& wa
 }
 
 std::vector<xcb_window_t> XDisplay::visibleChildren(xcb_window_t parent) const {
-    xcb_connection_t* const connection = m_connection.get();
-    const XReply<xcb_query_tree_reply_t> tree(
+    xcb_connection_t* const connection = m_connection->handle();
+    const XcbReply<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(connection, xcb_query_tree(connection, parent), nullptr));
     std::vector<xcb_window_t> visible;
     for (int i = 0; tree && i < xcb_query_tree_children_length(tree.get()); ++i) {
         const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
-        const XReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-            connection, xcb_get_window_attributes(connection, window), nullptr));
+        const XcbReply<xcb_get_window_attributes_reply_t> attributes(
+            xcb_get_window_attributes_reply(
+                connection, xcb_get_window_attributes(connection, window), nullptr));
         if (attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE) {
             visible.push_back(window);
         }
@@ -107,11 +97,12 @@ std::vector<xcb_window_t> XDisplay::visibleChildren(xcb_window_t parent) const {
 }
 
 std::optional<QRect> XDisplay::rectangle(xcb_window_t window) const {
-    xcb_connection_t* const connection = m_connection.get();
-    const XReply<xcb_get_geometry_reply_t> geometry(
+    xcb_connection_t* const connection = m_connection->handle();
+    const XcbReply<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
-    const XReply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
-        connection, xcb_translate_coordinates(connection, window, m_screen->root, 0, 0), nullptr));
+    const XcbReply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
+        connection, xcb_translate_coordinates(connection, window, m_connection->root(), 0, 0),
+        nullptr));
     return geometry && origin ? std::optional(QRect(origin->dst_x, origin->dst_y, geometry->width,
                                                     geometry->height))
                               : std::nullopt;
@@ -121,10 +112,12 @@ std::optional<QRect> XDisplay::findPopup(const QRect& area) const {
     if (!isConnected()) {
         return std::nullopt;
     }
-    const std::vector<xcb_window_t> windows = visibleChildren(m_screen->root);
+    const std::vector<xcb_window_t> windows = visibleChildren(m_connection->root());
     for (auto window = windows.rbegin(); window != windows.rend(); ++window) { // topmost first
-        const XReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-            m_connection.get(), xcb_get_window_attributes(m_connection.get(), *window), nullptr));
+        const XcbReply<xcb_get_window_attributes_reply_t> attributes(
+            xcb_get_window_attributes_reply(
+                m_connection->handle(), xcb_get_window_attributes(m_connection->handle(), *window),
+                nullptr));
         const auto found = rectangle(*window);
         if (attributes && attributes->override_redirect != 0 && found && found->intersects(area)) {
             return found;
@@ -137,16 +130,16 @@ QString XDisplay::keyboardWindow() const {
     if (!isConnected()) {
         return {};
     }
-    xcb_connection_t* const connection = m_connection.get();
-    const XReply<xcb_get_input_focus_reply_t> focus(
+    xcb_connection_t* const connection = m_connection->handle();
+    const XcbReply<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     xcb_window_t window = focus ? focus->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
     // An inner window may have it, the title is the outer one's.
-    while (window > XCB_INPUT_FOCUS_POINTER_ROOT && window != m_screen->root) {
+    while (window > XCB_INPUT_FOCUS_POINTER_ROOT && window != m_connection->root()) {
         if (const QString found = title(window); !found.isEmpty()) {
             return found;
         }
-        const XReply<xcb_query_tree_reply_t> tree(
+        const XcbReply<xcb_query_tree_reply_t> tree(
             xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
         window = tree ? tree->parent : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
     }
@@ -194,11 +187,11 @@ XDisplay::Key XDisplay::findKey(xcb_keysym_t keysym) const {
     if (!isConnected()) {
         return {};
     }
-    const xcb_setup_t* const setup = xcb_get_setup(m_connection.get());
+    const xcb_setup_t* const setup = xcb_get_setup(m_connection->handle());
     const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-    const XReply<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
-        m_connection.get(), xcb_get_keyboard_mapping(m_connection.get(), setup->min_keycode, count),
-        nullptr));
+    const XcbReply<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
+        m_connection->handle(),
+        xcb_get_keyboard_mapping(m_connection->handle(), setup->min_keycode, count), nullptr));
     if (!mapping) {
         return {};
     }
@@ -218,9 +211,9 @@ void XDisplay::fake(uint8_t type, uint8_t detail, QPoint position, uint32_t dela
     if (!isConnected()) {
         return;
     }
-    xcb_test_fake_input(m_connection.get(), type, detail, delayMs, m_screen->root,
+    xcb_test_fake_input(m_connection->handle(), type, detail, delayMs, m_connection->root(),
                         static_cast<int16_t>(position.x()), static_cast<int16_t>(position.y()), 0);
-    xcb_flush(m_connection.get());
+    xcb_flush(m_connection->handle());
 }
 
 } // namespace corvane::harness

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "x11/X11Connection.h"
+
 #include <QImage>
 #include <QPoint>
 #include <QRect>
 #include <QString>
-
-#include <xcb/xcb.h>
 
 #include <memory>
 #include <optional>
@@ -50,9 +50,6 @@ public:
     void pressKey(xcb_keysym_t keysym, const std::vector<xcb_keysym_t>& held = {});
 
 private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-    };
     struct Key {
         xcb_keycode_t code = 0;
         bool shifted = false;
@@ -66,9 +63,7 @@ private:
     std::optional<QRect> rectangle(xcb_window_t window) const;
 
     const QString m_name;
-    int m_screenNumber = 0;
-    std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
-    xcb_screen_t* m_screen = nullptr;
+    const std::unique_ptr<X11Connection> m_connection; ///< null where there is no server
 };
 
 inline constexpr xcb_keysym_t kKeyBackspace = 0xff08;

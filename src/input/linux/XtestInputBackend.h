@@ -1,14 +1,15 @@
 #pragma once
 
+#include "common/MonitorInfo.h"
 #include "input/IInputBackend.h"
-
-#include <xcb/xcb.h>
 
 #include <bitset>
 #include <memory>
-#include <optional>
 
 namespace corvane {
+
+class MonitorWatch;
+class X11Connection;
 
 /// Injects input through the XTEST extension of the X display that DISPLAY names.
 ///
@@ -25,10 +26,6 @@ public:
     bool injectEvent(const InputEvent& event) override;
 
 private:
-    struct CloseConnection {
-        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-    };
-
     bool injectButton(const InputEvent& event, bool press);
     bool injectWheel(const InputEvent& event);
     bool injectKey(const InputEvent& event, bool press);
@@ -38,18 +35,13 @@ private:
     void fakeKey(uint8_t keycode, bool press);
     bool settle(const char* kind);
 
-    void watchMonitors();
     void updatePrimaryMonitor();
-    std::optional<xcb_rectangle_t> findPrimaryMonitor() const;
-    bool isRandrEvent(uint8_t type) const;
     uint8_t readEvents();
 
-    std::unique_ptr<xcb_connection_t, CloseConnection> m_connection;
-    xcb_window_t m_root = XCB_WINDOW_NONE;
-    xcb_rectangle_t m_monitor = {};
-    bool m_hasMonitors = false;    ///< the server tells monitors apart
-    uint8_t m_firstRandrEvent = 0; ///< 0 = none
-    std::bitset<256> m_keysDown;   ///< by X keycode
+    std::unique_ptr<X11Connection> m_connection;
+    std::unique_ptr<MonitorWatch> m_watch;
+    MonitorInfo m_monitor;       ///< that positions span
+    std::bitset<256> m_keysDown; ///< by X keycode
     std::bitset<256> m_buttonsDown;
     int m_wheelRemainder = 0; ///< rotation not yet worth a click
 };

@@ -2,13 +2,11 @@
 
 #include "media/linux/FrameRectClip.h"
 #include "x11/X11Connection.h"
-#include "x11/XcbReply.h"
+#include "x11/XcbEvent.h"
 
 namespace corvane {
 
 namespace {
-
-constexpr uint8_t kSentEventBit = 0x80;
 
 /// Both extensions want to hear the client's version before anything else.
 bool negotiateVersions(xcb_connection_t* connection) {
@@ -30,9 +28,7 @@ DamageTracker::DamageTracker(const X11Connection& connection) : m_connection(con
         !negotiateVersions(connection.handle())) {
         return;
     }
-    m_notifyType = static_cast<uint8_t>(
-        xcb_get_extension_data(connection.handle(), &xcb_damage_id)->first_event +
-        XCB_DAMAGE_NOTIFY);
+    m_notifyType = connection.firstEvent(xcb_damage_id) + XCB_DAMAGE_NOTIFY;
     m_region = xcb_generate_id(connection.handle());
     m_damage = xcb_generate_id(connection.handle());
     xcb_xfixes_create_region(connection.handle(), m_region, 0, nullptr);
@@ -48,7 +44,7 @@ DamageTracker::~DamageTracker() {
 }
 
 void DamageTracker::noteEvent(const xcb_generic_event_t& event) {
-    if (m_damage != XCB_NONE && (event.response_type & ~kSentEventBit) == m_notifyType) {
+    if (m_damage != XCB_NONE && eventType(event) == m_notifyType) {
         m_changed = true;
     }
 }

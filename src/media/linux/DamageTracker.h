@@ -29,7 +29,7 @@ public:
 
 private:
     const X11Connection& m_connection;
-    uint8_t m_notifyType = 0;
+    int m_notifyType = 0;
     xcb_damage_damage_t m_damage = XCB_NONE;
     xcb_xfixes_region_t m_region = XCB_NONE;
     bool m_changed = false;

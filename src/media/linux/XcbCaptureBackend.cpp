@@ -4,12 +4,12 @@
 #include "media/linux/DamageTracker.h"
 #include "media/linux/FrameRectClip.h"
 #include "media/linux/ScreenImage.h"
+#include "x11/MonitorWatch.h"
 #include "x11/X11Connection.h"
 #include "x11/X11Monitors.h"
-#include "x11/XcbReply.h"
+#include "x11/XcbEvent.h"
 
 #include <spdlog/spdlog.h>
-#include <xcb/randr.h>
 
 #include <algorithm>
 #include <cstring>
@@ -17,8 +17,6 @@
 namespace corvane {
 
 namespace {
-
-constexpr uint8_t kSentEventBit = 0x80;
 
 /// Beyond this many changed regions the list costs more than it saves.
 constexpr size_t kMaxChanges = 64;
@@ -49,9 +47,11 @@ bool XcbCaptureBackend::initialize(int monitorIndex) {
     shutdown();
     m_monitor = {};
     m_monitor.index = static_cast<uint32_t>(std::max(monitorIndex, 0));
-    if (!connectToServer()) {
+    m_connection = openUsableConnection();
+    if (!m_connection) {
         return false;
     }
+    m_watch = std::make_unique<MonitorWatch>(*m_connection);
     const auto available = enumerateMonitors(*m_connection);
     if (monitorIndex < 0 || static_cast<size_t>(monitorIndex) >= available.size()) {
         spdlog::error("XcbCaptureBackend: monitor index {} not found (have {} monitors)",
@@ -82,31 +82,8 @@ void XcbCaptureBackend::shutdown() {
     m_geometryChanged = false;
     m_image.reset();
     m_damage.reset();
+    m_watch.reset();
     m_connection.reset();
-}
-
-bool XcbCaptureBackend::connectToServer() {
-    m_connection = openUsableConnection();
-    if (!m_connection) {
-        return false;
-    }
-    watchGeometry();
-    return true;
-}
-
-void XcbCaptureBackend::watchGeometry() {
-    const uint32_t rootEvents = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    xcb_change_window_attributes(m_connection->handle(), m_connection->root(), XCB_CW_EVENT_MASK,
-                                 &rootEvents);
-    m_randrEventBase = 0;
-    if (m_connection->hasExtension(xcb_randr_id)) {
-        m_randrEventBase =
-            xcb_get_extension_data(m_connection->handle(), &xcb_randr_id)->first_event;
-        xcb_randr_select_input(m_connection->handle(), m_connection->root(),
-                               XCB_RANDR_NOTIFY_MASK_SCREEN_CHANGE |
-                                   XCB_RANDR_NOTIFY_MASK_CRTC_CHANGE |
-                                   XCB_RANDR_NOTIFY_MASK_OUTPUT_CHANGE);
-    }
 }
 
 std::vector<MonitorInfo> XcbCaptureBackend::monitors() {
@@ -159,19 +136,9 @@ std::unique_ptr<CapturedFrame> XcbCaptureBackend::captureFrame() {
 }
 
 void XcbCaptureBackend::drainEvents() {
-    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection->handle())}) {
+    while (const XcbEvent event{xcb_poll_for_event(m_connection->handle())}) {
         m_damage->noteEvent(*event);
-        noteGeometryEvent(*event);
-    }
-}
-
-void XcbCaptureBackend::noteGeometryEvent(const xcb_generic_event_t& event) {
-    const int type = event.response_type & ~kSentEventBit;
-    const bool randr =
-        m_randrEventBase != 0 && (type == m_randrEventBase + XCB_RANDR_SCREEN_CHANGE_NOTIFY ||
-                                  type == m_randrEventBase + XCB_RANDR_NOTIFY);
-    if (randr || type == XCB_CONFIGURE_NOTIFY) {
-        m_geometryChanged = true;
+        m_geometryChanged = m_geometryChanged || m_watch->isMonitorChange(*event);
     }
 }
 

@@ -3,13 +3,12 @@
 #include "media/IScreenCaptureBackend.h"
 #include "media/linux/CursorImage.h"
 
-#include <xcb/xcb.h>
-
 #include <optional>
 
 namespace corvane {
 
 class DamageTracker;
+class MonitorWatch;
 class ScreenImage;
 class X11Connection;
 
@@ -40,10 +39,7 @@ private:
         FrameRect area;
     };
 
-    bool connectToServer();
-    void watchGeometry();
     void drainEvents();
-    void noteGeometryEvent(const xcb_generic_event_t& event);
     bool followMonitor();
     std::optional<VisibleCursor> visibleCursor() const;
     bool cursorChanged(const std::optional<VisibleCursor>& cursor) const;
@@ -51,11 +47,11 @@ private:
     std::unique_ptr<CapturedFrame> makeFrame(std::vector<FrameRect> changes) const;
 
     std::unique_ptr<X11Connection> m_connection;
+    std::unique_ptr<MonitorWatch> m_watch;
     std::unique_ptr<DamageTracker> m_damage;
     std::unique_ptr<ScreenImage> m_image;
     MonitorInfo m_monitor;
     std::optional<VisibleCursor> m_cursor; ///< as drawn into the last frame
-    uint8_t m_randrEventBase = 0;          ///< 0: no such events
     bool m_geometryChanged = false;
     bool m_wholeFrameDue = false;
     bool m_initialized = false;

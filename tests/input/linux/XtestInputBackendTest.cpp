@@ -1,6 +1,7 @@
 #include "input/linux/XtestInputBackend.h"
 #include "support/LogCapture.h"
 #include "support/linux/XClient.h"
+#include "x11/XcbEvent.h"
 #include "xvfb/XvfbServer.h"
 
 #include <QTest>
@@ -46,7 +47,7 @@ protected:
     }
 
     QPoint pointer() const {
-        const test::XReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        const XcbReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
             program->handle(), xcb_query_pointer(program->handle(), program->root()), nullptr));
         return reply ? QPoint(reply->root_x, reply->root_y) : QPoint(-1, -1);
     }
@@ -55,9 +56,8 @@ protected:
     std::string takeEvents() const {
         program->sync();
         QStringList events;
-        while (
-            const test::XReply<xcb_generic_event_t> event{xcb_poll_for_event(program->handle())}) {
-            const int type = event->response_type & 0x7F;
+        while (const XcbEvent event{xcb_poll_for_event(program->handle())}) {
+            const int type = eventType(*event);
             if (type >= XCB_KEY_PRESS && type <= XCB_BUTTON_RELEASE) {
                 const bool key = type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE;
                 const bool down = type == XCB_KEY_PRESS || type == XCB_BUTTON_PRESS;

@@ -1,38 +1,27 @@
 #pragma once
 
+#include "x11/X11Connection.h"
+#include "x11/XcbReply.h"
+
 #include <QRect>
 #include <sys/uio.h>
 #include <xcb/randr.h>
 #include <xcb/xcb.h>
 #include <xcb/xcbext.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 
 namespace corvane::test {
 
-struct XDeleter {
-    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-    void operator()(void* reply) const { std::free(reply); }
-};
-
-template <typename T>
-using XReply = std::unique_ptr<T, XDeleter>;
-
 /// Another program on the display that DISPLAY names. What it asks for is done when a call returns.
 class XClient {
 public:
-    XClient() : m_connection(xcb_connect(nullptr, nullptr)) {}
-
-    xcb_connection_t* handle() const { return m_connection.get(); }
-
-    xcb_window_t root() const {
-        return xcb_setup_roots_iterator(xcb_get_setup(handle())).data->root;
-    }
+    xcb_connection_t* handle() const { return m_connection->handle(); }
+    xcb_window_t root() const { return m_connection->root(); }
 
     void sync() const {
-        XReply<xcb_get_input_focus_reply_t>(
+        XcbReply<xcb_get_input_focus_reply_t>(
             xcb_get_input_focus_reply(handle(), xcb_get_input_focus(handle()), nullptr));
     }
 
@@ -76,12 +65,12 @@ public:
 private:
     xcb_atom_t atom(const char* name) const {
         const auto length = static_cast<uint16_t>(std::strlen(name));
-        const XReply<xcb_intern_atom_reply_t> reply(
+        const XcbReply<xcb_intern_atom_reply_t> reply(
             xcb_intern_atom_reply(handle(), xcb_intern_atom(handle(), 0, length, name), nullptr));
         return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
     }
 
-    std::unique_ptr<xcb_connection_t, XDeleter> m_connection;
+    const std::unique_ptr<X11Connection> m_connection = X11Connection::open();
 };
 
 } // namespace corvane::test
