@@ -36,10 +36,10 @@ SessionTransport::SessionTransport(SignalingClient* signaling, QString sessionId
 void SessionTransport::establish(const QString& relayHost, bool offerer) {
     constexpr uint16_t kRelayPort = 9000;
     constexpr int kNoMetric = -1;
-    // Which NAT lies between the peers is not exchanged yet: 0 has peer-to-peer tried first.
-    constexpr int kUnknownNat = 0;
     const RelayCandidate relay{QStringLiteral("local-relay"), relayHost, kRelayPort, kNoMetric};
-    m_manager.establishConnection(m_sessionId, kUnknownNat, kUnknownNat, {relay}, offerer);
+    // The peers do not tell each other their NAT types yet.
+    m_manager.establishConnection(m_sessionId, NatType::Unknown, NatType::Unknown, {relay},
+                                  offerer);
 }
 
 void SessionTransport::close() {

@@ -9,9 +9,9 @@ namespace corvane {
 
 namespace {
 
-bool allowsPeerConnection(int natType) {
-    constexpr int kLastCompatibleNatType = 3;
-    return natType >= 0 && natType <= kLastCompatibleNatType;
+/// No type rules a direct connection out for sure; a number that stands for none does.
+bool allowsPeerConnection(NatType natType) {
+    return natType >= NatType::Unknown && natType <= NatType::Symmetric;
 }
 
 } // namespace
@@ -28,8 +28,8 @@ TransportManager::~TransportManager() {
     cleanup();
 }
 
-void TransportManager::establishConnection(const QString& sessionId, int localNatType,
-                                           int remoteNatType,
+void TransportManager::establishConnection(const QString& sessionId, NatType localNatType,
+                                           NatType remoteNatType,
                                            const std::vector<RelayCandidate>& relayCandidates,
                                            bool offerer) {
     cleanup();
@@ -37,8 +37,9 @@ void TransportManager::establishConnection(const QString& sessionId, int localNa
     m_relayCandidates = relayCandidates;
     spdlog::info("TransportManager: establishing connection for session {}",
                  sessionId.toStdString());
-    spdlog::info("TransportManager: local NAT={}, remote NAT={}, relay candidates={}", localNatType,
-                 remoteNatType, relayCandidates.size());
+    spdlog::info("TransportManager: local NAT={}, remote NAT={}, relay candidates={}",
+                 static_cast<int32_t>(localNatType), static_cast<int32_t>(remoteNatType),
+                 relayCandidates.size());
 
     if (!allowsPeerConnection(localNatType) || !allowsPeerConnection(remoteNatType)) {
         spdlog::info(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/NatType.h"
 #include "transport/IPeerTransport.h"
 #include "transport/RelayCandidate.h"
 
@@ -34,9 +35,8 @@ public:
     ~TransportManager() override;
 
     /// Gives up whatever was there and starts over. The result arrives as `connectionEstablished`
-    /// or `connectionFailed`. NAT types are the numbers of the NAT detection; `offerer` is true on
-    /// the side that makes the offer.
-    void establishConnection(const QString& sessionId, int localNatType, int remoteNatType,
+    /// or `connectionFailed`. `offerer` is true on the side that makes the offer.
+    void establishConnection(const QString& sessionId, NatType localNatType, NatType remoteNatType,
                              const std::vector<RelayCandidate>& relayCandidates, bool offerer);
 
     /// The established transport, or null. Valid until `cleanup`.

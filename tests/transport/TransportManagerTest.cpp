@@ -73,7 +73,7 @@ protected:
         failed = std::make_unique<QSignalSpy>(manager.get(), &TransportManager::connectionFailed);
     }
 
-    void establish(std::optional<uint16_t> relayPort = {}, int natType = 0) {
+    void establish(std::optional<uint16_t> relayPort = {}, NatType natType = NatType::Unknown) {
         std::vector<RelayCandidate> candidates;
         if (relayPort) {
             candidates.push_back({u"node"_s, u"127.0.0.1"_s, *relayPort, -1});
@@ -94,21 +94,21 @@ protected:
     std::unique_ptr<QSignalSpy> failed;
 };
 
-TEST_F(TransportManagerTest, OnlyNatTypesZeroToThreeTryThePeerFirst) {
+TEST_F(TransportManagerTest, OnlyKnownNatTypesTryThePeerFirst) {
     const std::tuple<int, int, bool> cases[] = {{0, 0, true},  {3, 3, true},   {4, 0, false},
                                                 {0, 4, false}, {-1, 0, false}, {0, 255, false}};
     create();
     for (const auto& [local, remote, triesPeer] : cases) {
         peerCalls.clear();
-        manager->establishConnection(u"s-1"_s, local, remote, {}, true);
+        manager->establishConnection(u"s-1"_s, NatType(local), NatType(remote), {}, true);
         EXPECT_EQ(peerCalls.contains(u"offer"_s), triesPeer) << local << " and " << remote;
     }
 }
 
 TEST_F(TransportManagerTest, PeerThatConnectsWinsWhateverErrorsCameBefore) {
     create();
-    manager->establishConnection(u"s-1"_s, 0, 0, {{u"n"_s, u"127.0.0.1"_s, relay.port(), -1}},
-                                 false);
+    manager->establishConnection(u"s-1"_s, NatType::Open, NatType::Open,
+                                 {{u"n"_s, u"127.0.0.1"_s, relay.port(), -1}}, false);
     ASSERT_EQ(peerCalls, QStringList(u"answer"_s));
     Q_EMIT peer->transportError(u"ice failed"_s);
     EXPECT_TRUE(log.contains("TransportManager: P2P error: ice failed"));
@@ -164,7 +164,7 @@ TEST_F(TransportManagerTest, FailuresNameTheirReason) {
     ASSERT_TRUE(waitFor(*failed));
     EXPECT_EQ((*failed)[0][0], u"No relay candidates available"_s);
     failed->clear();
-    establish(1, 4);
+    establish(1, NatType(4));
     ASSERT_TRUE(waitFor(*failed));
     EXPECT_EQ((*failed)[0][0], u"All connection methods failed. Last error: Connection refused"_s);
 }

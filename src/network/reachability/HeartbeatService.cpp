@@ -39,7 +39,7 @@ void HeartbeatService::start(int intervalMs) {
 }
 
 void HeartbeatService::sendHeartbeat() {
-    m_api->sendHeartbeat(localIp(), m_publicIp, m_natType);
+    m_api->sendHeartbeat(localIp(), m_publicIp, m_natType ? natTypeName(*m_natType) : QString());
 }
 
 void HeartbeatService::fetchPublicIp() {
@@ -67,16 +67,16 @@ void HeartbeatService::detectNatType() {
 }
 
 void HeartbeatService::onNatMapped(const MappedAddress& first, const MappedAddress& second) {
-    if (m_natType.isEmpty()) {
+    if (!m_natType) {
         m_natType = NatProbe::classify(first, second, localIp());
-        spdlog::info("NAT type detected: {}", m_natType.toStdString());
+        spdlog::info("NAT type detected: {}", natTypeName(*m_natType).toStdString());
     }
 }
 
 void HeartbeatService::onNatProbeFinished() {
-    if (m_natType.isEmpty()) {
+    if (!m_natType) {
         spdlog::warn("STUN NAT detection timed out");
-        m_natType = QStringLiteral("Unknown");
+        m_natType = NatType::Unknown;
     }
 }
 

@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <optional>
 
 namespace corvane {
 
@@ -42,9 +43,8 @@ public:
     /// Empty until the service has told it.
     QString publicIp() const { return m_publicIp; }
 
-    /// "Open", "PortRestricted", "SymmetricNAT" or "Unknown"; empty while the first probe runs.
-    /// Once known it stays.
-    QString natType() const { return m_natType; }
+    /// No value while the first probe runs; then the probe's answer or `Unknown`, which stays.
+    std::optional<NatType> natType() const { return m_natType; }
 
 public Q_SLOTS:
     void sendHeartbeat();
@@ -62,7 +62,7 @@ private:
     QTimer m_timer;
     QNetworkAccessManager m_network;
     QString m_publicIp;
-    QString m_natType;
+    std::optional<NatType> m_natType;
     NatProbe m_natProbe;
 };
 

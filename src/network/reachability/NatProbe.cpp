@@ -70,15 +70,15 @@ void NatProbe::onTimeout() {
     Q_EMIT finished();
 }
 
-QString NatProbe::classify(const MappedAddress& first, const MappedAddress& second,
+NatType NatProbe::classify(const MappedAddress& first, const MappedAddress& second,
                            const QString& localAddress) {
     if (first.address.toString() == localAddress) {
-        return QStringLiteral("Open");
+        return NatType::Open;
     }
     if (first.address == second.address && first.port != second.port) {
-        return QStringLiteral("SymmetricNAT");
+        return NatType::Symmetric;
     }
-    return QStringLiteral("PortRestricted");
+    return NatType::PortRestricted;
 }
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/settings/DeploymentConstants.h"
+#include "common/NatType.h"
 #include "network/reachability/StunMessage.h"
 
 #include <QObject>
@@ -31,9 +32,8 @@ public:
     /// Sends both requests; a probe under way is given up for the new one.
     void start();
 
-    /// "Open", "SymmetricNAT" or "PortRestricted". `localAddress` is this host's own IPv4 address
-    /// as text, which may be empty.
-    static QString classify(const MappedAddress& first, const MappedAddress& second,
+    /// `localAddress` is this host's own IPv4 address as text, which may be empty.
+    static NatType classify(const MappedAddress& first, const MappedAddress& second,
                             const QString& localAddress);
 
 Q_SIGNALS:

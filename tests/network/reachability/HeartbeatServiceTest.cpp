@@ -113,11 +113,11 @@ TEST_F(HeartbeatServiceTest, TwoResponsesTellTheNatType) {
         const bool answers = outcome != unknown;
         HeartbeatService service(&m_api, nullptr,
                                  options(answers ? test::kTimeout : std::chrono::milliseconds(50)));
-        EXPECT_EQ(service.natType(), QString());
+        EXPECT_EQ(service.natType(), std::nullopt);
         service.detectNatType();
-        EXPECT_TRUE(eventually([&] { return !service.natType().isEmpty(); }));
+        EXPECT_TRUE(eventually([&] { return service.natType().has_value(); }));
         EXPECT_EQ(m_log.lines(), std::vector{outcome});
-        EXPECT_EQ(service.natType() == u"Unknown", !answers);
+        EXPECT_EQ(service.natType() == NatType::Unknown, !answers);
     }
 }
 
@@ -125,7 +125,7 @@ TEST_F(HeartbeatServiceTest, ANatTypeOnceKnownStays) {
     HeartbeatService service(&m_api, nullptr, options(std::chrono::milliseconds(50)));
     script({}, {});
     service.detectNatType();
-    ASSERT_TRUE(eventually([&] { return service.natType() == u"Unknown"; }));
+    ASSERT_TRUE(eventually([&] { return service.natType() == NatType::Unknown; }));
     m_log.clear();
     int requests = 0;
     m_server.stun().setScript([&](const QByteArray& request, quint16 port) {
@@ -136,7 +136,7 @@ TEST_F(HeartbeatServiceTest, ANatTypeOnceKnownStays) {
     service.detectNatType();
     ASSERT_TRUE(eventually([&] { return requests == 4; }));
     EXPECT_FALSE(QTest::qWaitFor([&] { return !m_log.lines().empty(); }, 100));
-    EXPECT_EQ(service.natType(), u"Unknown"_s);
+    EXPECT_EQ(service.natType(), NatType::Unknown);
 }
 
 TEST_F(HeartbeatServiceTest, TheProbeClosesItsSocketsWhenTheTimeIsUp) {
@@ -169,7 +169,7 @@ TEST_F(HeartbeatServiceTest, NamesAreNotLookedUp) {
     byName.natProbe.serverAddress = u"localhost"_s;
     HeartbeatService service(&m_api, nullptr, byName);
     service.detectNatType();
-    EXPECT_TRUE(eventually([&] { return service.natType() == u"Unknown"; }));
+    EXPECT_TRUE(eventually([&] { return service.natType() == NatType::Unknown; }));
     EXPECT_TRUE(m_log.once("warning|STUN NAT detection timed out"));
 }
 
