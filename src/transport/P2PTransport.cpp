@@ -14,7 +14,6 @@ namespace corvane {
 
 namespace {
 
-constexpr int kStunPort = 19302;
 constexpr uint16_t kTurnPort = 5349;
 /// What a message that waits costs besides its bytes, of which it may have none.
 constexpr size_t kMessageOverhead = 256;
@@ -210,7 +209,8 @@ bool P2PTransport::start(bool offerer) {
 rtc::Configuration P2PTransport::configuration() const {
     rtc::Configuration configuration;
     for (const char* host : {deployment::kStunServer1, deployment::kStunServer2}) {
-        configuration.iceServers.emplace_back(fmt::format("stun:{}:{}", host, kStunPort));
+        configuration.iceServers.emplace_back(
+            fmt::format("stun:{}:{}", host, deployment::kStunPort));
     }
     if (!m_turnPassword.empty()) {
         configuration.iceServers.emplace_back(deployment::kTurnHost, kTurnPort, kTurnUser,

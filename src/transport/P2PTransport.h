@@ -1,6 +1,7 @@
 #pragma once
 
 #include "transport/IPeerTransport.h"
+#include "transport/RelayFrame.h"
 #include "transport/StallDetector.h"
 
 #include <QTimer>
@@ -40,7 +41,7 @@ class P2PTransport : public IPeerTransport {
 public:
     /// A relay's largest frame, so that what fits one transport fits the other, and what sealing
     /// adds to a message (counter and tag).
-    static constexpr size_t kMaxMessageSize = 16 * 1024 * 1024 + 8 + 16;
+    static constexpr size_t kMaxMessageSize = kRelayMaxPayload + 8 + 16;
 
     /// How much may wait behind the library's own send buffer before the video channel refuses
     /// frames and the control channel messages. Video is worthless when it is late; on a slow

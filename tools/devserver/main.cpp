@@ -58,7 +58,7 @@ int main(int argc, char** argv) {
     const QCommandLineOption port(u"port"_s, u"HTTP and signaling port, 0 for any."_s, u"port"_s,
                                   u"8420"_s);
     const QCommandLineOption relayPort(u"relay-port"_s, u"Relay port, 0 for any."_s, u"port"_s,
-                                       u"9000"_s);
+                                       QString::number(DevServerConfig().relayPort));
     parser.addOptions({address, port, relayPort});
     parser.process(application);
 

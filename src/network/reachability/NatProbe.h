@@ -18,7 +18,7 @@ namespace corvane {
 struct NatProbeOptions {
     /// Numeric: names are not looked up, and with one the probe only ever ends by its time-out.
     QString serverAddress = QString::fromLatin1(deployment::kStunAddress);
-    quint16 serverPort = 19302;
+    quint16 serverPort = deployment::kStunPort;
     std::chrono::milliseconds timeout = std::chrono::seconds(3);
 };
 
