@@ -3,6 +3,7 @@
 #include "common/ByteReader.h"
 #include "common/ByteViews.h"
 #include "common/ByteWriter.h"
+#include "common/ControlTag.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -13,7 +14,7 @@ namespace corvane {
 
 namespace {
 
-constexpr uint8_t kTag = 0x04;
+constexpr auto kTag = static_cast<uint8_t>(ControlTag::Clipboard);
 constexpr size_t kHeaderSize = 1 + 4;
 constexpr size_t kMaxTextSize = 10 * 1024 * 1024;
 

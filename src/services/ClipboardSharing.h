@@ -8,7 +8,7 @@ namespace corvane {
 /// Keeps the clipboard text of the two machines of a session in step, without sending back what
 /// came from the peer. Only plain text is shared. Main thread.
 ///
-/// A message is the control channel's tag (0x04), the text's length in bytes (u32) and the text in
+/// A message is the control channel's tag, the text's length in bytes (u32) and the text in
 /// UTF-8: unlike other services this one writes and checks the tag itself.
 class ClipboardSharing : public QObject {
     Q_OBJECT
