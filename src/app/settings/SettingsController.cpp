@@ -1,6 +1,7 @@
 #include "app/settings/SettingsController.h"
 
 #include "app/settings/DeploymentConstants.h"
+#include "common/PartnerId.h"
 
 namespace corvane {
 
@@ -26,12 +27,8 @@ constexpr int kSpeedMode = 1;
 constexpr int kMaxFavorites = 20;
 constexpr int kMaxRecentPartners = 10;
 
-QString withoutSpaces(QString partnerId) {
-    return partnerId.remove(QLatin1Char(' '));
-}
-
 QString wakeOnLanKey(const QString& partnerId) {
-    return QStringLiteral("wol/") + withoutSpaces(partnerId);
+    return QStringLiteral("wol/") + barePartnerId(partnerId);
 }
 
 } // namespace
@@ -130,7 +127,7 @@ QStringList SettingsController::favorites() const {
 }
 
 void SettingsController::addFavorite(const QString& partnerId) {
-    const QString id = withoutSpaces(partnerId);
+    const QString id = barePartnerId(partnerId);
     QStringList ids = favorites();
     if (id.isEmpty() || ids.contains(id) || ids.size() >= kMaxFavorites) {
         return;
@@ -140,7 +137,7 @@ void SettingsController::addFavorite(const QString& partnerId) {
 }
 
 void SettingsController::removeFavorite(const QString& partnerId) {
-    const QString id = withoutSpaces(partnerId);
+    const QString id = barePartnerId(partnerId);
     if (id.isEmpty()) {
         return;
     }
@@ -154,7 +151,7 @@ QStringList SettingsController::recentPartners() const {
 }
 
 void SettingsController::addRecentPartner(const QString& partnerId) {
-    const QString id = withoutSpaces(partnerId);
+    const QString id = barePartnerId(partnerId);
     if (id.isEmpty()) {
         return;
     }
