@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ByteVector.h"
+#include "common/DisplayMode.h"
 
 #include <cstdint>
 #include <memory>
@@ -12,12 +13,12 @@ namespace corvane {
 struct EncoderConfig {
     int32_t width = 1920;
     int32_t height = 1080;
-    int32_t fps = 10;              ///< frames per second; the time base is 1 / fps
-    int32_t bitrateKbps = 500;     ///< kbit/s
-    int32_t keyframeInterval = 60; ///< largest distance between key frames, in frames
-    int32_t cqLevel = 45;          ///< constant-quality level, 0 (best) to 63
-    std::string speedPreset = "8"; ///< a number or a preset name
-    std::string profile;           ///< carried along, read by no encoder yet
+    int32_t fps = kSpeedPreset.framesPerSecond; ///< frames per second; the time base is 1 / fps
+    int32_t bitrateKbps = 500;                  ///< kbit/s
+    int32_t keyframeInterval = 60;              ///< largest distance between key frames, in frames
+    int32_t cqLevel = kSpeedPreset.encoderQuality; ///< constant-quality level, 0 (best) to 63
+    std::string speedPreset = kEncoderSpeed;       ///< a number or a preset name
+    std::string profile;                           ///< carried along, read by no encoder yet
 };
 
 struct EncodedPacket {

@@ -1,6 +1,7 @@
 #include "ui/SettingsDialog.h"
 
 #include "app/settings/SettingsController.h"
+#include "common/DisplayMode.h"
 #include "integration/ISystemIntegration.h"
 #include "ui/MessageBoxes.h"
 
@@ -22,8 +23,8 @@ namespace corvane {
 
 namespace {
 
-constexpr int kQualityMode = 0;
-constexpr int kSpeedMode = 1;
+constexpr int kQualityMode = static_cast<int>(DisplayMode::Quality);
+constexpr int kSpeedMode = static_cast<int>(DisplayMode::Speed);
 
 /// Shown in their own words, whatever the interface's language.
 struct Language {

@@ -1,6 +1,7 @@
 #include "app/settings/SettingsController.h"
 
 #include "app/settings/DeploymentConstants.h"
+#include "common/DisplayMode.h"
 #include "common/PartnerId.h"
 
 namespace corvane {
@@ -22,8 +23,6 @@ const auto kMinimizeToTray = QStringLiteral("advanced/minimizeToTray");
 const auto kFavorites = QStringLiteral("favorites/partnerIds");
 const auto kRecentPartners = QStringLiteral("history/recentPartnerIds");
 
-constexpr int kQualityMode = 0;
-constexpr int kSpeedMode = 1;
 constexpr int kMaxFavorites = 20;
 constexpr int kMaxRecentPartners = 10;
 
@@ -75,7 +74,7 @@ void SettingsController::setSessionPassword(const QString& password) {
 }
 
 int SettingsController::displayMode() const {
-    return m_settings.value(kDisplayMode, kSpeedMode).toInt();
+    return m_settings.value(kDisplayMode, static_cast<int>(DisplayMode::Speed)).toInt();
 }
 
 void SettingsController::setDisplayMode(int mode) {
@@ -170,15 +169,15 @@ void SettingsController::setWakeOnLanAddress(const QString& partnerId, const QSt
 }
 
 int SettingsController::captureFrameRate() const {
-    return displayMode() == kQualityMode ? 24 : 10;
+    return presetOf(DisplayMode{displayMode()}).framesPerSecond;
 }
 
 int SettingsController::encoderQuality() const {
-    return displayMode() == kQualityMode ? 23 : 45;
+    return presetOf(DisplayMode{displayMode()}).encoderQuality;
 }
 
 QString SettingsController::encoderSpeed() const {
-    return QStringLiteral("8");
+    return QString::fromLatin1(kEncoderSpeed);
 }
 
 QUrl SettingsController::serverBaseUrl() const {

@@ -38,7 +38,7 @@ public:
     QString sessionPassword() const;
     void setSessionPassword(const QString& password);
 
-    /// 0 for quality, anything else (default 1) for speed.
+    /// The number of a `DisplayMode`, default `Speed`; any number can be kept.
     int displayMode() const;
     void setDisplayMode(int mode);
 
