@@ -11,8 +11,6 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 kMaxAddressAnswerBytes = 256;
-
 // The address classes of old allow IPv4 texts with fewer than four numbers: nobody means those.
 bool isAddress(const QString& text) {
     const QHostAddress address(text);
@@ -44,7 +42,7 @@ void HeartbeatService::sendHeartbeat() {
 
 void HeartbeatService::fetchPublicIp() {
     auto* const fetch =
-        new HttpFetch(m_network, m_options.publicAddressUrl, kMaxAddressAnswerBytes, this);
+        new HttpFetch(m_network, m_options.publicAddressUrl, kMaxPublicAddressBytes, this);
     connect(fetch, &HttpFetch::finished, this, [this, fetch](const QString& error) {
         if (error.isEmpty() || fetch->isTooLarge()) {
             onPublicAddress(fetch->take());

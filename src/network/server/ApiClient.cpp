@@ -15,7 +15,6 @@ namespace corvane {
 namespace {
 
 constexpr int kStatusOk = 200;
-constexpr qint64 kMaxAnswerBytes = 4 * 1024 * 1024;
 constexpr std::chrono::seconds kFarewellLimit{1};
 
 void put(nlohmann::json& body, const char* key, const QString& value) {
@@ -251,7 +250,7 @@ QNetworkRequest ApiClient::request(const QString& path, Authorization authorizat
 
 void ApiClient::awaitAnswer(QNetworkReply* reply, AnswerHandler handler) {
     connect(reply, &QNetworkReply::readyRead, reply, [reply] {
-        if (reply->bytesAvailable() > kMaxAnswerBytes) {
+        if (reply->bytesAvailable() > kMaxApiAnswerBytes) {
             reply->abort();
         }
     });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "network/server/HttpLimits.h"
+
 #include <QByteArray>
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
@@ -17,16 +19,16 @@ namespace corvane {
 /// The central server's REST API. Every call sends one request and returns at once; the answer
 /// arrives as a signal. Requests may overlap. Nothing is retried. Main thread only.
 ///
-/// Only status 200 is success. An answer that does not come, is cut short or has more than 4 MiB
-/// counts as status 0 with no body. Redirects are not followed: the bearer token goes to
-/// the configured server and nowhere else.
+/// Only status 200 is success. An answer that does not come, is cut short or is larger than
+/// `kMaxApiAnswerBytes` counts as status 0 with no body. Redirects are not followed: the bearer
+/// token goes to the configured server and nowhere else.
 class ApiClient : public QObject {
     Q_OBJECT
 
 public:
     /// `inactivityTimeout`: how long a request may go without any progress.
     explicit ApiClient(QObject* parent = nullptr,
-                       std::chrono::milliseconds inactivityTimeout = std::chrono::seconds(30));
+                       std::chrono::milliseconds inactivityTimeout = kMaxServerSilence);
 
     /// Waits a second at most for the server to take the last close request if it is under way,
     /// with the event loop running.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "network/server/HttpLimits.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -21,7 +23,7 @@ class HttpFetch : public QObject {
 public:
     /// Sends the request; the signals come later. `network` must outlive the fetch.
     HttpFetch(QNetworkAccessManager& network, const QUrl& url, qint64 maxBytes, QObject* parent,
-              std::chrono::milliseconds inactivityTimeout = std::chrono::seconds(30));
+              std::chrono::milliseconds inactivityTimeout = kMaxServerSilence);
 
     /// What has arrived of the body since the last call; nothing of an error page, and nothing more
     /// after a failure.

@@ -16,7 +16,6 @@ namespace {
 constexpr int32_t kMaxReconnectAttempts = 10;
 constexpr int kReconnectBaseDelayMs = 1000;
 constexpr int kReconnectDelayCapMs = 30'000;
-constexpr quint64 kMaxMessageBytes = 1024 * 1024;
 
 QUrl webSocketUrl(const QUrl& serverUrl, const QString& clientId) {
     QUrl url = serverUrl;
@@ -46,8 +45,8 @@ SignalingClient::~SignalingClient() {
 
 void SignalingClient::createSocket() {
     m_socket = std::make_unique<QWebSocket>(QString(), QWebSocketProtocol::Version13);
-    m_socket->setMaxAllowedIncomingMessageSize(kMaxMessageBytes);
-    m_socket->setMaxAllowedIncomingFrameSize(kMaxMessageBytes);
+    m_socket->setMaxAllowedIncomingMessageSize(kMaxSignalingMessageBytes);
+    m_socket->setMaxAllowedIncomingFrameSize(kMaxSignalingMessageBytes);
     connect(m_socket.get(), &QWebSocket::connected, this, &SignalingClient::onConnected);
     connect(m_socket.get(), &QWebSocket::disconnected, this, &SignalingClient::onDisconnected);
     connect(m_socket.get(), &QWebSocket::textMessageReceived, this,

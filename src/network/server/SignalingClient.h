@@ -1,5 +1,7 @@
 #pragma once
 
+#include "network/server/HttpLimits.h"
+
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -15,7 +17,7 @@ namespace corvane {
 
 /// The WebSocket over which the server pushes session events and forwards WebRTC descriptions and
 /// candidates. Authenticates whenever the socket opens and reconnects by itself after a drop.
-/// Incoming messages are limited to 1 MiB. Main thread only.
+/// Incoming messages are limited to `kMaxSignalingMessageBytes`. Main thread only.
 class SignalingClient : public QObject {
     Q_OBJECT
 
@@ -23,7 +25,7 @@ public:
     /// `handshakeTimeout`: how long a connection attempt may take before it is given up and made
     /// again.
     explicit SignalingClient(QObject* parent = nullptr,
-                             std::chrono::milliseconds handshakeTimeout = std::chrono::seconds(30));
+                             std::chrono::milliseconds handshakeTimeout = kMaxServerSilence);
     ~SignalingClient() override;
 
     /// Opens the connection, replacing any earlier one, and keeps it open from now on. `serverUrl`

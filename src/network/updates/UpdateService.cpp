@@ -13,8 +13,6 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 kMaxManifestBytes = 64 * 1024;
-constexpr qint64 kMaxArchiveBytes = 256 * 1024 * 1024;
 constexpr qsizetype kMinArchiveBytes = 1024;
 
 } // namespace
@@ -41,7 +39,8 @@ UpdateService::~UpdateService() {
 
 void UpdateService::checkForUpdates() {
     spdlog::info("Checking for updates at {}", m_options.manifestUrl.toString().toStdString());
-    auto* const fetch = new HttpFetch(m_network, m_options.manifestUrl, kMaxManifestBytes, this);
+    auto* const fetch =
+        new HttpFetch(m_network, m_options.manifestUrl, kMaxUpdateManifestBytes, this);
     connect(fetch, &HttpFetch::finished, this, [this, fetch](const QString& error) {
         if (error.isEmpty()) {
             onManifest(fetch->take());
@@ -81,7 +80,7 @@ void UpdateService::downloadUpdate(const QString& url) {
     m_busy = true;
     m_unwritten.clear();
     spdlog::info("Downloading update from {}", url.toStdString());
-    m_download = new HttpFetch(m_network, QUrl(url), kMaxArchiveBytes, this);
+    m_download = new HttpFetch(m_network, QUrl(url), kMaxUpdateArchiveBytes, this);
     connect(m_download, &HttpFetch::progress, this, &UpdateService::onDownloadProgress);
     connect(m_download, &HttpFetch::arrived, this, &UpdateService::onDownloadArrived);
     connect(m_download, &HttpFetch::finished, this, &UpdateService::onDownloadFinished);

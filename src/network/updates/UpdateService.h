@@ -48,8 +48,8 @@ public Q_SLOTS:
     /// Ends in `updateAvailable` or, when there is no update or it cannot be told, in log lines.
     void checkForUpdates();
 
-    /// Fetches the archive at `url`, at most 256 MiB, and unpacks it; ends in `readyToInstall` or
-    /// `updateError`. Ignored while an earlier download has not ended.
+    /// Fetches the archive at `url`, of at most `kMaxUpdateArchiveBytes`, and unpacks it; ends in
+    /// `readyToInstall` or `updateError`. Ignored while an earlier download has not ended.
     void downloadUpdate(const QString& url);
 
 Q_SIGNALS:
