@@ -29,7 +29,7 @@ ScreenCaptureManager::ScreenCaptureManager(std::unique_ptr<IScreenCaptureBackend
 ScreenCaptureManager::ScreenCaptureManager(std::unique_ptr<IScreenCaptureBackend> backend,
                                            Timings timings, QObject* parent)
     : QObject(parent), m_backend(std::move(backend)), m_timings(timings),
-      m_recoveryDelay(timings.firstRecoveryDelay) {
+      m_recoveryBackoff(timings.firstRecoveryDelay, timings.longestRecoveryDelay) {
     qRegisterMetaType<std::shared_ptr<CapturedFrame>>();
     m_thread.setObjectName(QStringLiteral("ScreenCapture"));
 }
@@ -103,7 +103,7 @@ void ScreenCaptureManager::captureLoop() {
     spdlog::debug("ScreenCaptureManager: capture loop entered");
     // Off while `started` is being emitted, but this call lasts as long as the thread.
     Termination::setTerminationEnabled(true);
-    m_recoveryDelay = m_timings.firstRecoveryDelay;
+    m_recoveryBackoff.reset();
     while (m_running) {
         if (!captureRound()) {
             recover();
@@ -136,7 +136,7 @@ bool ScreenCaptureManager::captureAndDeliver() {
     if (!captured) {
         return false;
     }
-    m_recoveryDelay = m_timings.firstRecoveryDelay;
+    m_recoveryBackoff.reset();
     deliver(std::move(captured));
     return true;
 }
@@ -175,10 +175,8 @@ void ScreenCaptureManager::applyPendingMonitor() {
 }
 
 void ScreenCaptureManager::recover() {
-    spdlog::warn("ScreenCaptureManager: backend lost, reinitializing in {} ms",
-                 m_recoveryDelay.count());
-    const auto delay = m_recoveryDelay;
-    m_recoveryDelay = std::min(2 * delay, m_timings.longestRecoveryDelay);
+    const auto delay = m_recoveryBackoff.next();
+    spdlog::warn("ScreenCaptureManager: backend lost, reinitializing in {} ms", delay.count());
     if (waitUnlessStopped(delay)) {
         reinitialize();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Backoff.h"
 #include "media/CapturedFrame.h"
 #include "media/IScreenCaptureBackend.h"
 
@@ -88,7 +89,7 @@ private:
     FrameCallback m_callback;
     std::mutex m_callbackMutex;
     const Timings m_timings;
-    std::chrono::milliseconds m_recoveryDelay; ///< capture thread only
+    Backoff m_recoveryBackoff; ///< capture thread only
     std::mutex m_waitMutex;
     std::condition_variable m_stopRequested;
     std::condition_variable m_loopEnded;

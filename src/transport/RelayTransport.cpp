@@ -24,7 +24,7 @@ constexpr qint64 kMaxUnsent = 64 * 1024 * 1024;
 
 RelayTransport::RelayTransport(QObject* parent, std::chrono::milliseconds reconnectDelay,
                                std::chrono::milliseconds stallTimeout)
-    : ITransport(parent), m_piece(kReadPiece), m_reconnectDelay(reconnectDelay),
+    : ITransport(parent), m_piece(kReadPiece), m_reconnectBackoff(reconnectDelay),
       m_stallTimeout(stallTimeout) {
     m_socket.setReadBufferSize(kSocketReadBuffer);
     m_reconnectTimer.setSingleShot(true);
@@ -56,6 +56,7 @@ bool RelayTransport::connect(const std::string& host, uint16_t port) {
     m_host = host;
     m_port = port;
     m_reconnectAttempts = 0;
+    m_reconnectBackoff.reset();
     m_stopped = false;
     spdlog::info("RelayTransport: connecting to {}:{}", m_host, m_port);
     openSocket();
@@ -134,6 +135,7 @@ std::optional<double> RelayTransport::roundTripMilliseconds() const {
 void RelayTransport::onSocketConnected() {
     spdlog::info("RelayTransport: connected to {}:{}", m_host, m_port);
     m_reconnectAttempts = 0;
+    m_reconnectBackoff.reset();
     clearReceived();
     // Video latency matters more than packet count.
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
@@ -245,7 +247,7 @@ void RelayTransport::scheduleReconnect() {
         m_socket.state() != QAbstractSocket::UnconnectedState) {
         return;
     }
-    const auto delay = m_reconnectDelay * (1 << m_reconnectAttempts);
+    const auto delay = m_reconnectBackoff.next();
     spdlog::info("RelayTransport: reconnecting in {} ms (attempt {}/{})", delay.count(),
                  m_reconnectAttempts + 1, kMaxReconnectAttempts);
     m_reconnectTimer.start(delay);

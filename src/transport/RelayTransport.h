@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Backoff.h"
 #include "common/ByteVector.h"
 #include "transport/ITransport.h"
 #include "transport/RelayFrameParser.h"
@@ -71,7 +72,7 @@ private:
     uint16_t m_port = 0;
     int32_t m_reconnectAttempts = 0;
     bool m_stopped = false;
-    const std::chrono::milliseconds m_reconnectDelay;
+    Backoff m_reconnectBackoff;
     const std::chrono::milliseconds m_stallTimeout;
     uint64_t m_receiveEpoch = 0; ///< changes whenever bytes received so far lose their meaning
 };

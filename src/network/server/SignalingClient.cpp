@@ -4,7 +4,6 @@
 
 #include <spdlog/spdlog.h>
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -14,8 +13,6 @@ namespace corvane {
 namespace {
 
 constexpr int32_t kMaxReconnectAttempts = 10;
-constexpr int kReconnectBaseDelayMs = 1000;
-constexpr int kReconnectDelayCapMs = 30'000;
 
 QUrl webSocketUrl(const QUrl& serverUrl, const QString& clientId) {
     QUrl url = serverUrl;
@@ -60,7 +57,10 @@ void SignalingClient::connectToServer(const QUrl& serverUrl, const QString& clie
     m_serverUrl = serverUrl;
     m_clientId = clientId;
     m_token = token;
+    // `attemptReconnect` comes through here too, so that its count and its back-off start over each
+    // time: on purpose, a server that is away is tried every second for as long as it takes.
     m_reconnectAttempts = 0;
+    m_reconnectBackoff.reset();
     m_reconnectTimer.stop();
     const QUrl url = webSocketUrl(serverUrl, clientId);
     spdlog::info("Connecting to signaling server: {}", url.toString().toStdString());
@@ -108,8 +108,8 @@ void SignalingClient::onDisconnected() {
     if (reopened || m_reconnectAttempts >= kMaxReconnectAttempts) {
         return;
     }
-    const int delay = std::min(kReconnectBaseDelayMs << m_reconnectAttempts, kReconnectDelayCapMs);
-    spdlog::info("Reconnecting in {} ms (attempt {}/{})", delay, m_reconnectAttempts + 1,
+    const auto delay = m_reconnectBackoff.next();
+    spdlog::info("Reconnecting in {} ms (attempt {}/{})", delay.count(), m_reconnectAttempts + 1,
                  kMaxReconnectAttempts);
     m_reconnectTimer.start(delay);
 }
@@ -210,6 +210,7 @@ void SignalingClient::dispatch(const nlohmann::json& message) {
 void SignalingClient::acceptAuthentication() {
     spdlog::info("Signaling auth confirmed");
     m_reconnectAttempts = 0;
+    m_reconnectBackoff.reset();
     Q_EMIT connected();
 }
 

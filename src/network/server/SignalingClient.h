@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Backoff.h"
 #include "network/server/HttpLimits.h"
 
 #include <QObject>
@@ -78,6 +79,7 @@ private:
     QString m_clientId;
     QString m_token;
     int32_t m_reconnectAttempts = 0;
+    Backoff m_reconnectBackoff{std::chrono::seconds(1), std::chrono::seconds(30)};
 };
 
 } // namespace corvane
