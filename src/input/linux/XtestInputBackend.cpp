@@ -10,6 +10,7 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -21,32 +22,17 @@ constexpr int kWheelNotch = 120;
 constexpr uint8_t kWheelUpButton = 4;
 constexpr uint8_t kWheelDownButton = 5;
 
-/// The X button, or 0 for an unknown one. X numbers 4 to 7 are the wheel's.
-uint8_t xButton(MouseButton button) {
-    switch (button) {
-    case MouseButton::Left:
-        return 1;
-    case MouseButton::Middle:
-        return 2;
-    case MouseButton::Right:
-        return 3;
-    case MouseButton::Back:
-        return 8;
-    case MouseButton::Forward:
-        return 9;
-    }
-    return 0;
-}
+/// By `buttonIndex`; numbers 4 to 7 are the wheel's.
+constexpr std::array<uint8_t, kMouseButtons> kXButtons{1, 3, 2, 8, 9};
 
-/// The pixel that a fraction of an edge means; anything but a number counts as 0.
+/// The pixel that a fraction from 0 to 1 of an edge means.
 int16_t pixelAt(double fraction, int32_t origin, int32_t length) {
-    const double inside = fraction > 0.0 ? std::min(fraction, 1.0) : 0.0;
-    return static_cast<int16_t>(origin + std::lround(inside * (std::max(length, 1) - 1)));
+    return static_cast<int16_t>(origin + std::lround(fraction * (std::max(length, 1) - 1)));
 }
 
 } // namespace
 
-XtestInputBackend::XtestInputBackend() = default;
+XtestInputBackend::XtestInputBackend() : InputBackend("XtestInputBackend") {}
 
 XtestInputBackend::~XtestInputBackend() {
     shutdown();
@@ -94,41 +80,14 @@ void XtestInputBackend::shutdown() {
     spdlog::info("XtestInputBackend: shut down");
 }
 
-bool XtestInputBackend::injectEvent(const InputEvent& event) {
-    if (!m_connection) {
-        spdlog::warn("XtestInputBackend: injectEvent called before initialization");
-        return false;
-    }
-    readEvents();
-    switch (event.type) {
-    case InputEventType::MouseMove:
-        movePointer(event);
-        return settle("mouse move");
-    case InputEventType::MouseButtonPress:
-        return injectButton(event, true);
-    case InputEventType::MouseButtonRelease:
-        return injectButton(event, false);
-    case InputEventType::MouseWheel:
-        return injectWheel(event);
-    case InputEventType::KeyPress:
-        return injectKey(event, true);
-    case InputEventType::KeyRelease:
-        return injectKey(event, false);
-    case InputEventType::None:
-        break;
-    }
-    spdlog::warn("XtestInputBackend: unknown event type {}", static_cast<int>(event.type));
-    return false;
+bool XtestInputBackend::injectMove(const InputEvent& event) {
+    movePointer(event);
+    return settle("mouse move");
 }
 
 bool XtestInputBackend::injectButton(const InputEvent& event, bool press) {
-    const uint8_t button = xButton(event.button);
-    if (button == 0) {
-        spdlog::warn("XtestInputBackend: unknown mouse button {}", static_cast<int>(event.button));
-        return false;
-    }
     movePointer(event);
-    fakeButton(button, press);
+    fakeButton(kXButtons.at(buttonIndex(event.button)), press);
     return settle("mouse button");
 }
 
@@ -146,6 +105,7 @@ bool XtestInputBackend::injectWheel(const InputEvent& event) {
 }
 
 bool XtestInputBackend::injectKey(const InputEvent& event, bool press) {
+    readEvents();
     const KeyTranslation* key = keyForEvent(event);
     if (key == nullptr) {
         spdlog::warn("XtestInputBackend: unknown key, virtual key 0x{:02X}, scan code 0x{:02X}",
@@ -157,9 +117,11 @@ bool XtestInputBackend::injectKey(const InputEvent& event, bool press) {
 }
 
 void XtestInputBackend::movePointer(const InputEvent& event) {
+    readEvents();
     xcb_test_fake_input(m_connection->handle(), XCB_MOTION_NOTIFY, false, XCB_CURRENT_TIME,
-                        m_connection->root(), pixelAt(event.x, m_monitor.x, m_monitor.width),
-                        pixelAt(event.y, m_monitor.y, m_monitor.height), 0);
+                        m_connection->root(),
+                        pixelAt(clampedFraction(event.x), m_monitor.x, m_monitor.width),
+                        pixelAt(clampedFraction(event.y), m_monitor.y, m_monitor.height), 0);
 }
 
 void XtestInputBackend::fakeButton(uint8_t button, bool press) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/MonitorInfo.h"
-#include "input/IInputBackend.h"
+#include "input/InputBackend.h"
 
 #include <bitset>
 #include <memory>
@@ -16,19 +16,20 @@ class X11Connection;
 /// Positions span the primary monitor and follow it when it changes. Every injection waits for the
 /// server's answer, so its result is the server's. Keys and buttons still down at `shutdown` are
 /// released: a session that drops in mid-drag leaves nothing stuck.
-class XtestInputBackend : public IInputBackend {
+class XtestInputBackend : public InputBackend {
 public:
     XtestInputBackend();
     ~XtestInputBackend() override;
 
     bool initialize() override;
     void shutdown() override;
-    bool injectEvent(const InputEvent& event) override;
 
 private:
-    bool injectButton(const InputEvent& event, bool press);
-    bool injectWheel(const InputEvent& event);
-    bool injectKey(const InputEvent& event, bool press);
+    bool isInitialized() const override { return m_connection != nullptr; }
+    bool injectMove(const InputEvent& event) override;
+    bool injectButton(const InputEvent& event, bool press) override;
+    bool injectWheel(const InputEvent& event) override;
+    bool injectKey(const InputEvent& event, bool press) override;
 
     void movePointer(const InputEvent& event);
     void fakeButton(uint8_t button, bool press);

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "input/IInputBackend.h"
+#include "input/InputBackend.h"
 #include "input/windows/InputFunctions.h"
 
 namespace corvane {
 
 /// Injects input with `SendInput`, one record per event. Positions span the primary monitor. A key
 /// that comes with a scan code goes by that, any other by its virtual key.
-class Win32InputBackend : public IInputBackend {
+class Win32InputBackend : public InputBackend {
 public:
     explicit Win32InputBackend(InputFunctions functions = {});
     ~Win32InputBackend() override;
@@ -16,11 +16,15 @@ public:
 
     bool initialize() override;
     void shutdown() override;
-    bool injectEvent(const InputEvent& event) override;
 
 private:
-    bool injectButton(const InputEvent& event, bool press);
-    bool injectKey(const InputEvent& event, DWORD flags);
+    bool isInitialized() const override { return m_initialized; }
+    bool injectMove(const InputEvent& event) override;
+    bool injectButton(const InputEvent& event, bool press) override;
+    bool injectWheel(const InputEvent& event) override;
+    bool injectKey(const InputEvent& event, bool press) override;
+
+    bool sendMouse(const InputEvent& event, DWORD action, DWORD data, const char* kind);
     bool send(INPUT record, const char* kind);
 
     const InputFunctions m_functions;
