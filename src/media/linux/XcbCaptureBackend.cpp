@@ -52,17 +52,7 @@ bool XcbCaptureBackend::initialize(int monitorIndex) {
         return false;
     }
     m_watch = std::make_unique<MonitorWatch>(*m_connection);
-    const auto available = enumerateMonitors(*m_connection);
-    if (monitorIndex < 0 || static_cast<size_t>(monitorIndex) >= available.size()) {
-        spdlog::error("XcbCaptureBackend: monitor index {} not found (have {} monitors)",
-                      monitorIndex, available.size());
-        shutdown();
-        return false;
-    }
-    m_monitor = available[static_cast<size_t>(monitorIndex)];
-    if (m_monitor.width < 1 || m_monitor.height < 1) {
-        spdlog::error("XcbCaptureBackend: invalid monitor dimensions {}x{}", m_monitor.width,
-                      m_monitor.height);
+    if (!selectMonitor(enumerateMonitors(*m_connection), monitorIndex, "XcbCaptureBackend")) {
         shutdown();
         return false;
     }

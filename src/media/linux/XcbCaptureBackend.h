@@ -1,6 +1,6 @@
 #pragma once
 
-#include "media/IScreenCaptureBackend.h"
+#include "media/MonitorCaptureBackend.h"
 #include "media/linux/CursorImage.h"
 
 #include <optional>
@@ -15,22 +15,15 @@ class X11Connection;
 /// Captures one monitor of the X server that DISPLAY names, with the pointer drawn in. Only what
 /// the server reports as changed is read; changes of the monitor's place or size are followed.
 /// A monitor or server that has gone leaves the backend uninitialised; `initialize` connects anew.
-class XcbCaptureBackend : public IScreenCaptureBackend {
+class XcbCaptureBackend : public MonitorCaptureBackend {
 public:
     XcbCaptureBackend();
     ~XcbCaptureBackend() override;
-    XcbCaptureBackend(const XcbCaptureBackend&) = delete;
-    XcbCaptureBackend& operator=(const XcbCaptureBackend&) = delete;
 
     bool initialize(int monitorIndex) override;
     void shutdown() override;
     std::unique_ptr<CapturedFrame> captureFrame() override;
     std::vector<MonitorInfo> monitors() override;
-
-    /// Kept after the screen has been lost, so that recovery knows where to go on.
-    MonitorInfo currentMonitor() const override { return m_monitor; }
-
-    bool isInitialized() const override { return m_initialized; }
 
 private:
     /// The pointer where some of it shows in the frame; coordinates are the frame's.
@@ -50,11 +43,9 @@ private:
     std::unique_ptr<MonitorWatch> m_watch;
     std::unique_ptr<DamageTracker> m_damage;
     std::unique_ptr<ScreenImage> m_image;
-    MonitorInfo m_monitor;
     std::optional<VisibleCursor> m_cursor; ///< as drawn into the last frame
     bool m_geometryChanged = false;
     bool m_wholeFrameDue = false;
-    bool m_initialized = false;
 };
 
 } // namespace corvane

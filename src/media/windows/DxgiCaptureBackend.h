@@ -1,6 +1,6 @@
 #pragma once
 
-#include "media/IScreenCaptureBackend.h"
+#include "media/MonitorCaptureBackend.h"
 #include "media/windows/ComPtr.h"
 #include "media/windows/DxgiFunctions.h"
 #include "media/windows/GdiFunctions.h"
@@ -15,22 +15,15 @@ namespace corvane {
 /// secure desktop), it is made anew, up to five times; after that, or when that fails, the backend
 /// is uninitialised and `initialize` starts over. A monitor's index is its position among the
 /// outputs of all adapters, so that it means the same monitor whichever adapter it hangs on.
-class DxgiCaptureBackend : public IScreenCaptureBackend {
+class DxgiCaptureBackend : public MonitorCaptureBackend {
 public:
     explicit DxgiCaptureBackend(DxgiFunctions dxgi = {}, GdiFunctions gdi = {});
     ~DxgiCaptureBackend() override;
-    DxgiCaptureBackend(const DxgiCaptureBackend&) = delete;
-    DxgiCaptureBackend& operator=(const DxgiCaptureBackend&) = delete;
 
     bool initialize(int monitorIndex) override;
     void shutdown() override;
     std::unique_ptr<CapturedFrame> captureFrame() override;
     std::vector<MonitorInfo> monitors() override;
-
-    /// Kept after the screen has been lost, so that recovery knows where to go on.
-    MonitorInfo currentMonitor() const override { return m_monitor; }
-
-    bool isInitialized() const override { return m_initialized; }
 
 private:
     bool createDevice();
@@ -54,12 +47,10 @@ private:
     ComPtr<ID3D11Device> m_device;
     ComPtr<ID3D11DeviceContext> m_context;
     ComPtr<IDXGIOutputDuplication> m_duplication;
-    ComPtr<ID3D11Texture2D> m_staging; ///< copy that the CPU can read
-    MonitorInfo m_monitor;
+    ComPtr<ID3D11Texture2D> m_staging;       ///< copy that the CPU can read
     int m_reinitializations = 0;             ///< since `initialize`
     std::optional<FrameRect> m_pointerDrawn; ///< in the last frame
     bool m_wholeFrameDue = false; ///< the last frame handed out does not lead up to the next
-    bool m_initialized = false;
 };
 
 } // namespace corvane

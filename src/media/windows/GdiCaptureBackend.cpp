@@ -45,16 +45,7 @@ bool GdiCaptureBackend::initialize(int monitorIndex) {
     shutdown();
     m_monitor = {};
     m_monitor.index = static_cast<uint32_t>(std::max(monitorIndex, 0));
-    const auto available = monitors();
-    if (monitorIndex < 0 || static_cast<size_t>(monitorIndex) >= available.size()) {
-        spdlog::error("GdiCaptureBackend: monitor index {} not found (have {} monitors)",
-                      monitorIndex, available.size());
-        return false;
-    }
-    m_monitor = available[static_cast<size_t>(monitorIndex)];
-    if (m_monitor.width < 1 || m_monitor.height < 1) {
-        spdlog::error("GdiCaptureBackend: invalid monitor dimensions {}x{}", m_monitor.width,
-                      m_monitor.height);
+    if (!selectMonitor(monitors(), monitorIndex, "GdiCaptureBackend")) {
         return false;
     }
     if (const char* const failed = m_surface.create(m_monitor.width, m_monitor.height)) {
