@@ -75,13 +75,10 @@ void ApiClient::onLoginAnswer(int status, const nlohmann::json& answer) {
     const auto clientId = jsonString(answer, "client_id");
     const auto token = jsonString(answer, "token");
     if (status != kStatusOk || !clientId || !token) {
-        const QString error = detailOf(answer, tr("Auto-login failed"));
-        spdlog::warn("Auto-login failed: {}", error.toStdString());
-        Q_EMIT authError(error);
+        refuseAuthentication("Auto-login", detailOf(answer, tr("Auto-login failed")));
         return;
     }
-    m_clientId = *clientId;
-    m_token = *token;
+    takeIdentity(*clientId, *token);
     spdlog::info("Auto-login successful for client {}", clientId->toStdString());
     Q_EMIT authSuccess(*clientId, *token);
 }
@@ -102,15 +99,22 @@ void ApiClient::onRegistrationAnswer(int status, const nlohmann::json& answer) {
     const auto deviceSecret = jsonString(answer, "device_secret");
     const auto token = jsonString(answer, "token");
     if (status != kStatusOk || !clientId || !deviceSecret || !token) {
-        const QString error = detailOf(answer, tr("Auto-registration failed"));
-        spdlog::warn("Auto-register failed: {}", error.toStdString());
-        Q_EMIT authError(error);
+        refuseAuthentication("Auto-register", detailOf(answer, tr("Auto-registration failed")));
         return;
     }
-    m_clientId = *clientId;
-    m_token = *token;
+    takeIdentity(*clientId, *token);
     spdlog::info("Auto-registered as client {}", clientId->toStdString());
     Q_EMIT autoRegisterSuccess(*clientId, *deviceSecret, *token);
+}
+
+void ApiClient::takeIdentity(const QString& clientId, const QString& token) {
+    m_clientId = clientId;
+    m_token = token;
+}
+
+void ApiClient::refuseAuthentication(const char* call, const QString& error) {
+    spdlog::warn("{} failed: {}", call, error.toStdString());
+    Q_EMIT authError(error);
 }
 
 void ApiClient::createSession(const QString& targetClientId, const QString& sessionPassword,

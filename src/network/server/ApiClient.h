@@ -97,6 +97,8 @@ private:
 
     void onLoginAnswer(int status, const nlohmann::json& answer);
     void onRegistrationAnswer(int status, const nlohmann::json& answer);
+    void takeIdentity(const QString& clientId, const QString& token);
+    void refuseAuthentication(const char* call, const QString& error);
     AnswerHandler sessionUpdateHandler(const QString& sessionId, const QString& endpoint,
                                        const QString& failure);
 
