@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Změnit heslo relace</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nové heslo (min. 8 znaků, velké + malé písmeno + číslice):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Neplatné heslo</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Pokračovat?</translation>
         <translation>Zadejte prosím ID partnera.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Server není dostupný – probíhá nový pokus...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Připraveno</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Připraveno. Vaše ID: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Odpojeno</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Online (připraveno)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Obnovování připojení...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Přijmout?</translation>
         <translation>Příchozí připojení od %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Zahajování relace...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Výměna klíčů...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Navazování přenosu...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Připojeno</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Odpojování...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Relace se nezdařila</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Relace se nezdařila.</translation>
     </message>
@@ -781,14 +752,6 @@ Přijmout?</translation>
         <translation>Chyba připojení</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Aktualizace</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Instalační program se nepodařilo spustit.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Aplikace byla minimalizována do oznamovací oblasti.</translation>
     </message>
@@ -799,18 +762,6 @@ Přijmout?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Připojeno k %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Změnit heslo relace</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nové heslo (min. 8 znaků, velké + malé písmeno + číslice):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Neplatné heslo</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ i když není přihlášen žádný uživatel. Vyžaduje oprávnění správce.<
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Připraveno</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Online (připraveno)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Obnovování připojení...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Server není dostupný – probíhá nový pokus...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Odpojeno</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Zahajování relace...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Výměna klíčů...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Navazování přenosu...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Připojeno</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Odpojování...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Relace se nezdařila</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ i když není přihlášen žádný uživatel. Vyžaduje oprávnění správce.<
     <message>
         <source>Update Now</source>
         <translation>Aktualizovat</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizace</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Instalační program se nepodařilo spustit.</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Sitzungspasswort ändern</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Neues Passwort (mind. 8 Zeichen, Groß- und Kleinbuchstaben sowie Ziffern):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Ungültiges Passwort</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Fortfahren?</translation>
         <translation>Bitte geben Sie eine Partner-ID ein.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Server nicht erreichbar – neuer Versuch...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Bereit. Ihre ID: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Getrennt</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Online (bereit)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Verbindung wird wiederhergestellt...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Annehmen?</translation>
         <translation>Eingehende Verbindung von %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Sitzung wird gestartet...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Schlüssel werden ausgetauscht...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Übertragungsweg wird aufgebaut...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Verbunden</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Verbindung wird getrennt...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Sitzung fehlgeschlagen</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Die Sitzung ist fehlgeschlagen.</translation>
     </message>
@@ -781,14 +752,6 @@ Annehmen?</translation>
         <translation>Verbindungsfehler</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Update</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Das Installationsprogramm konnte nicht gestartet werden.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Die Anwendung läuft im Infobereich weiter.</translation>
     </message>
@@ -799,18 +762,6 @@ Annehmen?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Verbunden mit %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Sitzungspasswort ändern</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Neues Passwort (mind. 8 Zeichen, Groß- und Kleinbuchstaben sowie Ziffern):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Ungültiges Passwort</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ auch wenn kein Benutzer angemeldet ist. Erfordert Administratorrechte.</translat
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Online (bereit)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Verbindung wird wiederhergestellt...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Server nicht erreichbar – neuer Versuch...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Sitzung wird gestartet...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Schlüssel werden ausgetauscht...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Übertragungsweg wird aufgebaut...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Verbindung wird getrennt...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Sitzung fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ auch wenn kein Benutzer angemeldet ist. Erfordert Administratorrechte.</translat
     <message>
         <source>Update Now</source>
         <translation>Jetzt aktualisieren</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Das Installationsprogramm konnte nicht gestartet werden.</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Cambiar contraseña de sesión</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nueva contraseña (mín. 8 caracteres, mayúscula + minúscula + número):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Contraseña no válida</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Continue?</source>
         <translation>Introduzca un ID remoto.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Servidor no disponible — reintentando...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Listo</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Listo. Su ID: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Desconectado</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>En línea (listo)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Reconectando...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Motivo: %2
         <translation>Conexión entrante de %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Iniciando sesión remota...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Intercambiando claves...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Estableciendo transporte...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Conectado</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Desconectando...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Error en la sesión</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Se ha producido un error en la sesión.</translation>
     </message>
@@ -781,14 +752,6 @@ Motivo: %2
         <translation>Error de conexión</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Actualización</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>No se pudo iniciar el instalador.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>La aplicación se ha minimizado en la bandeja del sistema.</translation>
     </message>
@@ -799,18 +762,6 @@ Motivo: %2
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Conectado a %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Cambiar contraseña de sesión</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nueva contraseña (mín. 8 caracteres, mayúscula + minúscula + número):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Contraseña no válida</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ aunque ningún usuario haya iniciado sesión. Requiere permisos de administrador
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>En línea (listo)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Reconectando...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Servidor no disponible — reintentando...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Desconectado</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Iniciando sesión remota...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Intercambiando claves...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Estableciendo transporte...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Desconectando...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Error en la sesión</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ aunque ningún usuario haya iniciado sesión. Requiere permisos de administrador
     <message>
         <source>Update Now</source>
         <translation>Actualizar ahora</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>No se pudo iniciar el instalador.</translation>
     </message>
 </context>
 <context>

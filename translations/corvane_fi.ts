@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Vaihda istunnon salasana</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Uusi salasana (väh. 8 merkkiä, iso + pieni kirjain + numero):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Virheellinen salasana</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Jatketaanko?</translation>
         <translation>Anna kumppanin tunnus.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Palvelin ei vastaa – yritetään uudelleen...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Valmis</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Valmis. Oma tunnus: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Yhteys katkaistu</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Verkossa (valmis)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Yhdistetään uudelleen...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Hyväksytäänkö?</translation>
         <translation>Saapuva yhteys: %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Aloitetaan istuntoa...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Vaihdetaan avaimia...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Muodostetaan siirtoyhteyttä...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Yhdistetty</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Katkaistaan yhteyttä...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Istunto epäonnistui</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Istunto epäonnistui.</translation>
     </message>
@@ -781,14 +752,6 @@ Hyväksytäänkö?</translation>
         <translation>Yhteysvirhe</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Päivitys</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Asennusohjelmaa ei voitu käynnistää.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Sovellus pienennettiin ilmaisinalueelle.</translation>
     </message>
@@ -799,18 +762,6 @@ Hyväksytäänkö?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Yhdistetty: %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Vaihda istunnon salasana</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Uusi salasana (väh. 8 merkkiä, iso + pieni kirjain + numero):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Virheellinen salasana</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ vaikka kukaan ei olisi kirjautunut sisään. Vaatii järjestelmänvalvojan oikeu
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Valmis</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Verkossa (valmis)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Yhdistetään uudelleen...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Palvelin ei vastaa – yritetään uudelleen...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Yhteys katkaistu</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Aloitetaan istuntoa...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Vaihdetaan avaimia...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Muodostetaan siirtoyhteyttä...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Yhdistetty</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Katkaistaan yhteyttä...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Istunto epäonnistui</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ vaikka kukaan ei olisi kirjautunut sisään. Vaatii järjestelmänvalvojan oikeu
     <message>
         <source>Update Now</source>
         <translation>Päivitä nyt</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Päivitys</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Asennusohjelmaa ei voitu käynnistää.</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Modifier le mot de passe de session</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nouveau mot de passe (min. 8 caractères, majuscule + minuscule + chiffre)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Mot de passe non valide</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Continuer&#xa0;?</translation>
         <translation>Veuillez saisir l&apos;ID d&apos;un partenaire.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Serveur indisponible — nouvelle tentative...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Prêt</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Prêt. Votre ID&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Déconnecté</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>En ligne (prêt)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Reconnexion...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Accepter&#xa0;?</translation>
         <translation>Connexion entrante de %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Démarrage de la session...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Échange des clés...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Établissement du transport...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Connecté</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Déconnexion...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Échec de la session</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>La session a échoué.</translation>
     </message>
@@ -781,14 +752,6 @@ Accepter&#xa0;?</translation>
         <translation>Erreur de connexion</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Mise à jour</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Impossible de lancer le programme d&apos;installation.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>L&apos;application a été réduite dans la zone de notification.</translation>
     </message>
@@ -799,18 +762,6 @@ Accepter&#xa0;?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Connecté à %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Modifier le mot de passe de session</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nouveau mot de passe (min. 8 caractères, majuscule + minuscule + chiffre)&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Mot de passe non valide</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;ad
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>En ligne (prêt)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Reconnexion...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Serveur indisponible — nouvelle tentative...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Déconnecté</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Démarrage de la session...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Échange des clés...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Établissement du transport...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Déconnexion...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Échec de la session</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ même si aucun utilisateur n&apos;est connecté. Nécessite des droits d&apos;ad
     <message>
         <source>Update Now</source>
         <translation>Mettre à jour</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Impossible de lancer le programme d&apos;installation.</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Munkamenet jelszavának módosítása</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Új jelszó (min. 8 karakter, nagybetű + kisbetű + számjegy):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Érvénytelen jelszó</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Folytatja?</translation>
         <translation>Adjon meg egy partnerazonosítót.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>A kiszolgáló nem érhető el – újrapróbálkozás...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Készen áll</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Készen áll. Saját azonosító: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Kapcsolat bontva</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Online (készen áll)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Újracsatlakozás...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Elfogadja?</translation>
         <translation>Bejövő kapcsolat: %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Munkamenet indítása...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Kulcsok cseréje...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Átvitel létrehozása...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Csatlakozva</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Kapcsolat bontása...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>A munkamenet sikertelen</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>A munkamenet sikertelen.</translation>
     </message>
@@ -781,14 +752,6 @@ Elfogadja?</translation>
         <translation>Kapcsolódási hiba</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Frissítés</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>A telepítőt nem sikerült elindítani.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Az alkalmazás az értesítési területre került.</translation>
     </message>
@@ -799,18 +762,6 @@ Elfogadja?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Csatlakozva: %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Munkamenet jelszavának módosítása</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Új jelszó (min. 8 karakter, nagybetű + kisbetű + számjegy):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Érvénytelen jelszó</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ akkor is, ha nincs bejelentkezett felhasználó. Rendszergazdai jogosultság sz�
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Készen áll</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Online (készen áll)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Újracsatlakozás...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>A kiszolgáló nem érhető el – újrapróbálkozás...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Kapcsolat bontva</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Munkamenet indítása...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Kulcsok cseréje...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Átvitel létrehozása...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Csatlakozva</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Kapcsolat bontása...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>A munkamenet sikertelen</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ akkor is, ha nincs bejelentkezett felhasználó. Rendszergazdai jogosultság sz�
     <message>
         <source>Update Now</source>
         <translation>Frissítés most</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Frissítés</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>A telepítőt nem sikerült elindítani.</translation>
     </message>
 </context>
 <context>

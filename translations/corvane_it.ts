@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Cambia password di sessione</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nuova password (min. 8 caratteri, maiuscola + minuscola + cifra):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Password non valida</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Continuare?</translation>
         <translation>Inserisci un ID remoto.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Server non disponibile — nuovo tentativo...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Pronto</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Pronto. Il tuo ID: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Disconnesso</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Online (pronto)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Riconnessione...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Accettare?</translation>
         <translation>Connessione in entrata da %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Avvio della sessione...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Scambio delle chiavi...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Attivazione del trasporto...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Connesso</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Disconnessione...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Sessione non riuscita</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Sessione non riuscita.</translation>
     </message>
@@ -781,14 +752,6 @@ Accettare?</translation>
         <translation>Errore di connessione</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Aggiornamento</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Impossibile avviare il programma di installazione.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Applicazione ridotta a icona nell&apos;area di notifica.</translation>
     </message>
@@ -799,18 +762,6 @@ Accettare?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Connesso a %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Cambia password di sessione</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nuova password (min. 8 caratteri, maiuscola + minuscola + cifra):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Password non valida</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ anche se nessun utente ha effettuato l&apos;accesso. Richiede privilegi di ammin
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Online (pronto)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Riconnessione...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Server non disponibile — nuovo tentativo...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Disconnesso</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Avvio della sessione...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Scambio delle chiavi...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Attivazione del trasporto...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connesso</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Disconnessione...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Sessione non riuscita</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ anche se nessun utente ha effettuato l&apos;accesso. Richiede privilegi di ammin
     <message>
         <source>Update Now</source>
         <translation>Aggiorna ora</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Impossibile avviare il programma di installazione.</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Endre øktpassord</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nytt passord (minst 8 tegn, stor + liten bokstav + siffer):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Ugyldig passord</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Vil du fortsette?</translation>
         <translation>Skriv inn en partner-ID.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Serveren er utilgjengelig – prøver igjen...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Klar</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Klar. ID-en din: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Frakoblet</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>På nett (klar)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Kobler til på nytt...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Vil du godta?</translation>
         <translation>Innkommende tilkobling fra %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Starter økt...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Utveksler nøkler...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Oppretter transport...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Tilkoblet</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Kobler fra...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Økten mislyktes</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Økten mislyktes.</translation>
     </message>
@@ -781,14 +752,6 @@ Vil du godta?</translation>
         <translation>Tilkoblingsfeil</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Oppdatering</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Installasjonsprogrammet kunne ikke startes.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Programmet er minimert til systemstatusfeltet.</translation>
     </message>
@@ -799,18 +762,6 @@ Vil du godta?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Koblet til %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Endre øktpassord</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nytt passord (minst 8 tegn, stor + liten bokstav + siffer):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Ugyldig passord</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ også når ingen bruker er pålogget. Krever administratorrettigheter.</translat
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Klar</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>På nett (klar)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Kobler til på nytt...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Serveren er utilgjengelig – prøver igjen...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Frakoblet</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Starter økt...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Utveksler nøkler...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Oppretter transport...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Tilkoblet</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Kobler fra...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Økten mislyktes</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ også når ingen bruker er pålogget. Krever administratorrettigheter.</translat
     <message>
         <source>Update Now</source>
         <translation>Oppdater nå</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Oppdatering</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Installasjonsprogrammet kunne ikke startes.</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Zmień hasło sesji</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nowe hasło (min. 8 znaków, wielka + mała litera + cyfra):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Nieprawidłowe hasło</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Kontynuować?</translation>
         <translation>Podaj ID partnera.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Serwer niedostępny – ponawianie próby...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Gotowy</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Gotowy. Twoje ID: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Rozłączono</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Online (gotowy)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Ponowne łączenie...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Zaakceptować?</translation>
         <translation>Połączenie przychodzące od %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Rozpoczynanie sesji...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Wymiana kluczy...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Zestawianie transportu...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Połączono</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Rozłączanie...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Sesja nie powiodła się</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Sesja nie powiodła się.</translation>
     </message>
@@ -781,14 +752,6 @@ Zaakceptować?</translation>
         <translation>Błąd połączenia</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Aktualizacja</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Nie udało się uruchomić instalatora.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Aplikacja została zminimalizowana do zasobnika systemowego.</translation>
     </message>
@@ -799,18 +762,6 @@ Zaakceptować?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Połączono z %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Zmień hasło sesji</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nowe hasło (min. 8 znaków, wielka + mała litera + cyfra):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Nieprawidłowe hasło</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ nawet gdy żaden użytkownik nie jest zalogowany. Wymaga uprawnień administrato
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Gotowy</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Online (gotowy)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Ponowne łączenie...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Serwer niedostępny – ponawianie próby...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Rozłączono</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Rozpoczynanie sesji...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Wymiana kluczy...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Zestawianie transportu...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Rozłączanie...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Sesja nie powiodła się</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ nawet gdy żaden użytkownik nie jest zalogowany. Wymaga uprawnień administrato
     <message>
         <source>Update Now</source>
         <translation>Aktualizuj teraz</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Nie udało się uruchomić instalatora.</translation>
     </message>
 </context>
 <context>

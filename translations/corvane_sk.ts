@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Zmeniť heslo relácie</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nové heslo (min. 8 znakov, veľké + malé písmeno + číslica):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Neplatné heslo</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Pokračovať?</translation>
         <translation>Zadajte ID partnera.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Server nie je dostupný – prebieha nový pokus...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Pripravené</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Pripravené. Vaše ID: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Odpojené</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Online (pripravené)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Obnovuje sa pripojenie...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Prijať?</translation>
         <translation>Prichádzajúce pripojenie od %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Spúšťa sa relácia...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Vymieňajú sa kľúče...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Nadväzuje sa prenos...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Pripojené</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Odpája sa...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Relácia zlyhala</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Relácia zlyhala.</translation>
     </message>
@@ -781,14 +752,6 @@ Prijať?</translation>
         <translation>Chyba pripojenia</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Aktualizácia</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Inštalačný program sa nepodarilo spustiť.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Aplikácia bola minimalizovaná do oblasti oznámení.</translation>
     </message>
@@ -799,18 +762,6 @@ Prijať?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Pripojené k %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Zmeniť heslo relácie</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nové heslo (min. 8 znakov, veľké + malé písmeno + číslica):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Neplatné heslo</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ aj keď nie je prihlásený žiadny používateľ. Vyžaduje oprávnenia správc
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Pripravené</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Online (pripravené)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Obnovuje sa pripojenie...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Server nie je dostupný – prebieha nový pokus...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Odpojené</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Spúšťa sa relácia...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Vymieňajú sa kľúče...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Nadväzuje sa prenos...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Pripojené</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Odpája sa...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Relácia zlyhala</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ aj keď nie je prihlásený žiadny používateľ. Vyžaduje oprávnenia správc
     <message>
         <source>Update Now</source>
         <translation>Aktualizovať</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizácia</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Inštalačný program sa nepodarilo spustiť.</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,21 @@
     </message>
 </context>
 <context>
+    <name>corvane::ChangePasswordPrompt</name>
+    <message>
+        <source>Change Session Password</source>
+        <translation>Byt sessionslösenord</translation>
+    </message>
+    <message>
+        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
+        <translation>Nytt lösenord (minst 8 tecken, stor + liten bokstav + siffra):</translation>
+    </message>
+    <message>
+        <source>Invalid Password</source>
+        <translation>Ogiltigt lösenord</translation>
+    </message>
+</context>
+<context>
     <name>corvane::ChatDialog</name>
     <message>
         <source>Chat</source>
@@ -675,28 +690,8 @@ Vill du fortsätta?</translation>
         <translation>Ange ett partner-ID.</translation>
     </message>
     <message>
-        <source>Server unavailable — retrying...</source>
-        <translation>Servern är inte tillgänglig – försöker igen...</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Redo</translation>
-    </message>
-    <message>
         <source>Ready. Your ID: %1</source>
         <translation>Redo. Ditt ID: %1</translation>
-    </message>
-    <message>
-        <source>Disconnected</source>
-        <translation>Frånkopplad</translation>
-    </message>
-    <message>
-        <source>Online (Ready)</source>
-        <translation>Online (redo)</translation>
-    </message>
-    <message>
-        <source>Reconnecting...</source>
-        <translation>Återansluter...</translation>
     </message>
     <message>
         <source>Partner ID must be exactly 9 digits.</source>
@@ -729,30 +724,6 @@ Vill du godkänna?</translation>
         <translation>Inkommande anslutning från %1</translation>
     </message>
     <message>
-        <source>Initiating session...</source>
-        <translation>Startar session...</translation>
-    </message>
-    <message>
-        <source>Exchanging keys...</source>
-        <translation>Utbyter nycklar...</translation>
-    </message>
-    <message>
-        <source>Establishing transport...</source>
-        <translation>Upprättar transport...</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Ansluten</translation>
-    </message>
-    <message>
-        <source>Disconnecting...</source>
-        <translation>Kopplar från...</translation>
-    </message>
-    <message>
-        <source>Session failed</source>
-        <translation>Sessionen misslyckades</translation>
-    </message>
-    <message>
         <source>Session failed.</source>
         <translation>Sessionen misslyckades.</translation>
     </message>
@@ -781,14 +752,6 @@ Vill du godkänna?</translation>
         <translation>Anslutningsfel</translation>
     </message>
     <message>
-        <source>Update</source>
-        <translation>Uppdatering</translation>
-    </message>
-    <message>
-        <source>The installer could not be started.</source>
-        <translation>Installationsprogrammet kunde inte startas.</translation>
-    </message>
-    <message>
         <source>Application minimized to system tray.</source>
         <translation>Programmet har minimerats till meddelandefältet.</translation>
     </message>
@@ -799,18 +762,6 @@ Vill du godkänna?</translation>
     <message>
         <source>Corvane - Connected to %1</source>
         <translation>Corvane - Ansluten till %1</translation>
-    </message>
-    <message>
-        <source>Change Session Password</source>
-        <translation>Byt sessionslösenord</translation>
-    </message>
-    <message>
-        <source>New password (min 8 chars, uppercase + lowercase + digit):</source>
-        <translation>Nytt lösenord (minst 8 tecken, stor + liten bokstav + siffra):</translation>
-    </message>
-    <message>
-        <source>Invalid Password</source>
-        <translation>Ogiltigt lösenord</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1027,53 @@ even when no user is logged in. Requires administrator privileges.</source>
     </message>
 </context>
 <context>
+    <name>corvane::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Online (Ready)</source>
+        <translation>Online (redo)</translation>
+    </message>
+    <message>
+        <source>Reconnecting...</source>
+        <translation>Återansluter...</translation>
+    </message>
+    <message>
+        <source>Server unavailable — retrying...</source>
+        <translation>Servern är inte tillgänglig – försöker igen...</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Frånkopplad</translation>
+    </message>
+    <message>
+        <source>Initiating session...</source>
+        <translation>Startar session...</translation>
+    </message>
+    <message>
+        <source>Exchanging keys...</source>
+        <translation>Utbyter nycklar...</translation>
+    </message>
+    <message>
+        <source>Establishing transport...</source>
+        <translation>Upprättar transport...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Ansluten</translation>
+    </message>
+    <message>
+        <source>Disconnecting...</source>
+        <translation>Kopplar från...</translation>
+    </message>
+    <message>
+        <source>Session failed</source>
+        <translation>Sessionen misslyckades</translation>
+    </message>
+</context>
+<context>
     <name>corvane::SystemTrayIcon</name>
     <message>
         <source>Corvane - Remote Access</source>
@@ -1153,6 +1151,17 @@ even when no user is logged in. Requires administrator privileges.</source>
     <message>
         <source>Update Now</source>
         <translation>Uppdatera nu</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdatePrompt</name>
+    <message>
+        <source>Update</source>
+        <translation>Uppdatering</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Installationsprogrammet kunde inte startas.</translation>
     </message>
 </context>
 <context>

@@ -1,34 +1,35 @@
 #include "app/Theme.h"
 
+#include "ui/UiColors.h"
+
 #include <QColor>
 
 #include <array>
-#include <cstring>
 
 namespace corvane {
 
 namespace {
 
-struct Colour {
+struct Color {
     const char* token;
     const char* value;
 };
 
-constexpr auto kColors = std::to_array<Colour>({
-    {"$window", "#1a1a2e"},    // windows and dialogs
-    {"$raised", "#16213e"},    // tab panes, headers, message boxes, tool tips
-    {"$field", "#0d1b2a"},     // input fields, lists, tracks; text on the accent
-    {"$button", "#1e2d4a"},    // buttons; hover on tabs, rows and tool buttons
-    {"$border", "#2a3a5e"},    // borders, lines, scroll handles; hover on buttons
-    {"$pressed", "#3a4a6e"},   // pressed buttons
-    {"$muted", "#111827"},     // disabled buttons, alternate rows
-    {"$text", "#e0e0e0"},      // normal text
-    {"$secondary", "#8892b0"}, // captions, tabs, headers, flat and tool buttons
-    {"$disabled", "#4a5568"},  // disabled text
-    {"$accent", "#4da6ff"},    // focus, selection, primary buttons, checked boxes
-    {"$primaryHover", "#74bcff"},
-    {"$primaryPressed", "#2a8fff"},
-    {"$primaryDisabled", "#1e3a5e"},
+constexpr auto kColors = std::to_array<Color>({
+    {"$window", colors::kWindow},
+    {"$raised", colors::kRaised},
+    {"$field", colors::kField},
+    {"$button", colors::kButton},
+    {"$border", colors::kBorder},
+    {"$pressed", colors::kPressed},
+    {"$muted", colors::kMuted},
+    {"$text", colors::kText},
+    {"$secondary", colors::kSecondary},
+    {"$disabled", colors::kDisabled},
+    {"$accent", colors::kAccent},
+    {"$primaryHover", colors::kPrimaryHover},
+    {"$primaryPressed", colors::kPrimaryPressed},
+    {"$primaryDisabled", colors::kDeepAccent},
 });
 
 // The tokens stand for the colours above.
@@ -222,30 +223,24 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; 
 QScrollBar::add-page, QScrollBar::sub-page { background-color: transparent; }
 )";
 
-QColor colour(const char* token) {
-    for (const Colour& entry : kColors) {
-        if (std::strcmp(entry.token, token) == 0) {
-            return QColor(QLatin1String(entry.value));
-        }
-    }
-    return QColor();
-}
-
 } // namespace
 
 QPalette applicationPalette() {
-    QPalette palette(colour("$text"), colour("$button"), colour("$pressed"), colour("$field"),
-                     colour("$border"), colour("$text"), colour("$text"), colour("$field"),
-                     colour("$window"));
-    palette.setColor(QPalette::AlternateBase, colour("$muted"));
-    palette.setColor(QPalette::Highlight, colour("$accent"));
-    palette.setColor(QPalette::HighlightedText, colour("$field"));
-    palette.setColor(QPalette::Link, colour("$accent"));
-    palette.setColor(QPalette::ToolTipBase, colour("$raised"));
-    palette.setColor(QPalette::ToolTipText, colour("$text"));
-    palette.setColor(QPalette::PlaceholderText, colour("$secondary"));
+    const auto color = [](const char* value) {
+        return QColor(QLatin1String(value));
+    };
+    QPalette palette(color(colors::kText), color(colors::kButton), color(colors::kPressed),
+                     color(colors::kField), color(colors::kBorder), color(colors::kText),
+                     color(colors::kText), color(colors::kField), color(colors::kWindow));
+    palette.setColor(QPalette::AlternateBase, color(colors::kMuted));
+    palette.setColor(QPalette::Highlight, color(colors::kAccent));
+    palette.setColor(QPalette::HighlightedText, color(colors::kField));
+    palette.setColor(QPalette::Link, color(colors::kAccent));
+    palette.setColor(QPalette::ToolTipBase, color(colors::kRaised));
+    palette.setColor(QPalette::ToolTipText, color(colors::kText));
+    palette.setColor(QPalette::PlaceholderText, color(colors::kSecondary));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, colour("$disabled"));
+        palette.setColor(QPalette::Disabled, role, color(colors::kDisabled));
     }
     return palette;
 }
@@ -255,8 +250,8 @@ QString applicationStyleSheet() {
     for (const char* part : {kSurfaces, kButtons, kInputs, kViews}) {
         sheet += QLatin1String(part);
     }
-    for (const Colour& colour : kColors) {
-        sheet.replace(QLatin1String(colour.token), QLatin1String(colour.value));
+    for (const Color& color : kColors) {
+        sheet.replace(QLatin1String(color.token), QLatin1String(color.value));
     }
     return sheet;
 }

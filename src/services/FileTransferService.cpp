@@ -23,6 +23,8 @@ namespace {
 
 constexpr qint64 kBlockSize = 65'536;
 
+using ErrorKind = FileTransferError::Kind;
+
 /// A path of the peer's, in a log line. Beyond what file systems take it is no path.
 std::string loggable(const QString& path) {
     constexpr size_t kMaxPath = 4096;
@@ -83,8 +85,11 @@ FileTransferService::~FileTransferService() = default;
 
 void FileTransferService::requestListing(const QString& remotePath) {
     spdlog::info("FileTransfer: requested listing for '{}'", remotePath.toStdString());
+    m_expectedListings.append(remotePath);
     if (!send(fileTextMessage(FileMessageType::ListingRequest, remotePath))) {
-        Q_EMIT fileError(tr("The request could not be sent: %1").arg(remotePath));
+        m_expectedListings.removeOne(remotePath);
+        fail({ErrorKind::Listing, remotePath,
+              tr("The request could not be sent: %1").arg(remotePath)});
     }
 }
 
@@ -95,24 +100,26 @@ void FileTransferService::requestDownload(const QString& remotePath, const QStri
     if (!send(fileTextMessage(FileMessageType::DownloadRequest, remotePath))) {
         m_download = replaced;
         --m_expectedDownloads;
-        Q_EMIT fileError(tr("The request could not be sent: %1").arg(remotePath));
+        fail({ErrorKind::Download, remotePath,
+              tr("The request could not be sent: %1").arg(remotePath)});
     }
 }
 
 void FileTransferService::uploadFile(const QString& localPath, const QString& remotePath) {
     QFile file(localPath);
     if (m_uploading) {
-        Q_EMIT fileError(tr("Another upload is still running: %1").arg(localPath));
+        fail({ErrorKind::Upload, localPath,
+              tr("Another upload is still running: %1").arg(localPath)});
         return;
     }
     if (!openOrdinaryFile(file)) {
-        Q_EMIT fileError(tr("Cannot open local file: %1").arg(localPath));
+        fail({ErrorKind::Upload, localPath, tr("Cannot open local file: %1").arg(localPath)});
         return;
     }
     const QString error = sendFile(file, remotePath);
     if (!error.isEmpty()) {
         spdlog::warn("FileTransfer: upload of '{}' failed", localPath.toStdString());
-        Q_EMIT fileError(error.arg(localPath));
+        fail({ErrorKind::Upload, localPath, error.arg(localPath)});
         return;
     }
     Q_EMIT fileUploadComplete();
@@ -171,6 +178,7 @@ void FileTransferService::onListingResponse(ByteSpan body) {
     }
     spdlog::info("FileTransfer: received listing for '{}' ({} entries)", loggable(listing->path),
                  listing->entries.size());
+    m_expectedListings.removeOne(listing->path);
     Q_EMIT directoryListed(listing->path, listing->entries);
 }
 
@@ -208,7 +216,7 @@ void FileTransferService::onDownloadResponse(ByteSpan body) {
     const auto status = reader.integer<uint8_t>();
     if (status && *status != 0) {
         --m_expectedDownloads;
-        Q_EMIT fileError(tr("Remote file download failed"));
+        fail({ErrorKind::Download, m_download.remotePath, tr("Remote file download failed")});
         return;
     }
     const auto announced = reader.integer<uint64_t>();
@@ -225,7 +233,8 @@ void FileTransferService::onDownloadResponse(ByteSpan body) {
     --m_expectedDownloads;
     const Download download = m_download;
     if (!writeAtomicFile(download.localPath, content)) {
-        Q_EMIT fileError(tr("Cannot write to local file: %1").arg(download.localPath));
+        fail({ErrorKind::Download, download.remotePath,
+              tr("Cannot write to local file: %1").arg(download.localPath)});
         return;
     }
     spdlog::info("FileTransfer: download complete -> '{}'", download.localPath.toStdString());
@@ -283,11 +292,21 @@ void FileTransferService::onError(ByteSpan body) {
     ByteReader reader(body);
     const QString text = readFileText(reader).value_or(QString());
     spdlog::warn("FileTransfer: remote error: {}", loggable(text));
-    // The peer answers in order: with this download refused, nothing more is to come.
-    if (text.endsWith(m_download.remotePath)) {
+    const FileTransferError error =
+        partnerError(text, m_expectedListings,
+                     m_expectedDownloads > 0 ? std::optional(m_download.remotePath) : std::nullopt);
+    if (error.kind == ErrorKind::Listing) {
+        m_expectedListings.removeOne(error.path);
+    } else if (error.kind == ErrorKind::Download) {
+        // The peer answers in order: with the last download refused, nothing more is to come.
         m_expectedDownloads = 0;
     }
-    Q_EMIT fileError(text);
+    fail(error);
+}
+
+void FileTransferService::fail(const FileTransferError& error) {
+    Q_EMIT requestFailed(error);
+    Q_EMIT fileError(error.text);
 }
 
 bool FileTransferService::send(const ByteVector& message) const {

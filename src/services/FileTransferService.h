@@ -1,12 +1,14 @@
 #pragma once
 
 #include "services/FileEntry.h"
+#include "services/FileTransferError.h"
 #include "services/SendFunction.h"
 #include "services/UploadSpool.h"
 
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -59,6 +61,8 @@ Q_SIGNALS:
     /// For the user. Ends whatever the text is about.
     void fileError(QString error);
     void transferStats(qint64 bytesTransferred, int bytesPerSec, int etaSeconds);
+    /// What the `fileError` that follows at once is about.
+    void requestFailed(corvane::FileTransferError error);
 
 private:
     struct Download {
@@ -75,6 +79,7 @@ private:
     void onUploadEnd(ByteSpan body);
     void onError(ByteSpan body);
 
+    void fail(const FileTransferError& error);
     bool send(const ByteVector& message) const;
     void sendError(const QString& text) const;
     QString sendFile(QFile& file, const QString& remotePath);
@@ -84,6 +89,7 @@ private:
     const qint64 m_maxMessageSize;
     PacingFunction m_pacing;
     bool m_uploading = false;
+    QStringList m_expectedListings;          ///< asked for and not yet answered
     Download m_download;                     ///< the one last asked for
     int m_expectedDownloads = 0;             ///< asked for and not yet answered
     std::unique_ptr<UploadSpool> m_incoming; ///< the peer's upload to this machine

@@ -1,17 +1,25 @@
 #include "services/TransferRunner.h"
 
 #include "common/ShownNames.h"
-#include "services/FileMessage.h"
+#include "services/FileTransferError.h"
 #include "services/FileTransferService.h"
 
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace corvane {
 
 TransferRunner::TransferRunner(FileTransferService* service, QObject* parent)
-    : QObject(parent), m_service(service) {}
+    : QObject(parent), m_service(service) {
+    if (!service) {
+        return;
+    }
+    connect(service, &FileTransferService::fileDownloadComplete, this,
+            &TransferRunner::downloadComplete);
+    connect(service, &FileTransferService::fileUploadComplete, this,
+            &TransferRunner::uploadComplete);
+    connect(service, &FileTransferService::requestFailed, this, &TransferRunner::requestFailed);
+    connect(service, &QObject::destroyed, this, &TransferRunner::stop);
+}
 
 bool TransferRunner::hasService() const {
     return m_service != nullptr;
@@ -19,7 +27,6 @@ bool TransferRunner::hasService() const {
 
 void TransferRunner::list(const QString& remotePath) {
     if (m_service) {
-        m_listings.append(remotePath);
         m_service->requestListing(remotePath);
     }
 }
@@ -86,17 +93,9 @@ void TransferRunner::startUpload() {
     const FileTransfer transfer = m_uploads.current();
     const QPointer<TransferRunner> self(this);
     m_service->uploadFile(transfer.localPath, transfer.remotePath);
-    if (!self) {
-        return;
+    if (self) {
+        Q_EMIT uploadEnded();
     }
-    Q_EMIT uploadEnded();
-    if (m_uploads.isUnderWay()) {
-        stop();
-    }
-}
-
-void TransferRunner::folderListed(const QString& remotePath) {
-    m_listings.removeOne(remotePath);
 }
 
 void TransferRunner::downloadComplete(const QString& localPath) {
@@ -117,26 +116,19 @@ void TransferRunner::uploadComplete() {
     }
 }
 
-void TransferRunner::requestFailed(const QString& error) {
-    if (takeListing(error)) {
-        return;
-    }
-    if (error.startsWith(kUploadRefused)) {
+void TransferRunner::requestFailed(const FileTransferError& error) {
+    switch (error.kind) {
+    case FileTransferError::Kind::Listing:
+        break;
+    case FileTransferError::Kind::RefusedUpload:
         m_uploads.clear();
-    } else {
+        break;
+    case FileTransferError::Kind::Download:
+    case FileTransferError::Kind::Upload:
+    case FileTransferError::Kind::Unknown:
         stop();
+        break;
     }
-}
-
-/// Whether the error, which names its path at the end, is about a folder that was asked for.
-bool TransferRunner::takeListing(const QString& error) {
-    const auto failed = std::ranges::find_if(
-        m_listings, [&](const QString& path) { return error.endsWith(u' ' + path); });
-    if (failed == m_listings.end()) {
-        return false;
-    }
-    m_listings.erase(failed);
-    return true;
 }
 
 void TransferRunner::stop() {

@@ -6,19 +6,19 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
-#include <QStringList>
 
 namespace corvane {
 
 class FileTransferService;
+struct FileTransferError;
 
 /// Has a service list folders and copy batches of files, one file at a time: all waiting downloads
-/// first, then the uploads. Files added while a batch runs join it. Whoever receives the service's
-/// signals reports them here.
+/// first, then the uploads. Files added while a batch runs join it.
 ///
 /// An error of a transfer ends both batches: whatever answer comes in late finds nothing left to
-/// start. Only the uploads end when the partner could not keep one, which it says while whatever
-/// else may be under way. A folder that cannot be listed leaves both alone.
+/// start. So does the end of the service. Only the uploads end when the partner could not keep one,
+/// which it says while whatever else may be under way. A folder that cannot be listed leaves both
+/// alone.
 class TransferRunner : public QObject {
     Q_OBJECT
 
@@ -35,13 +35,9 @@ public:
     void download(const QList<FileTransfer>& transfers);
     void upload(const QList<FileTransfer>& transfers);
 
-    void folderListed(const QString& remotePath);
+    /// The transfer under way has ended well, as the service says; otherwise they do nothing.
     void downloadComplete(const QString& localPath);
     void uploadComplete();
-    void requestFailed(const QString& error);
-
-    /// Forgets what waits and what is under way.
-    void stop();
 
 Q_SIGNALS:
     void batchStarted();
@@ -52,7 +48,9 @@ Q_SIGNALS:
     void uploadsComplete();
 
 private:
-    bool takeListing(const QString& error);
+    void requestFailed(const FileTransferError& error);
+    /// Forgets what waits and what is under way.
+    void stop();
     void append(TransferQueue& queue, const QList<FileTransfer>& transfers);
     void startNext();
     void startNextLater();
@@ -62,7 +60,6 @@ private:
     void reportCurrent(const QString& text, const TransferQueue& queue);
 
     const QPointer<FileTransferService> m_service;
-    QStringList m_listings; ///< the folders whose listing has not come yet
     TransferQueue m_downloads;
     TransferQueue m_uploads;
 };

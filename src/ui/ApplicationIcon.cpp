@@ -1,5 +1,7 @@
 #include "ui/ApplicationIcon.h"
 
+#include "ui/UiColors.h"
+
 #include <QPainter>
 
 namespace corvane {
@@ -27,7 +29,7 @@ QPixmap drawApplicationIcon(int size) {
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(34, 102, 187));
+    painter.setBrush(QColor(QLatin1String(colors::kIcon)));
     const int radius = size * kCornerRadius / kReferenceSize;
     painter.drawRoundedRect(pixmap.rect(), radius, radius);
     painter.setPen(Qt::white);

@@ -11,10 +11,10 @@ namespace corvane {
 
 void styleCard(QFrame* card, const QString& objectName) {
     card->setObjectName(objectName);
-    card->setStyleSheet(QStringLiteral("QFrame#%1 { background-color: %2; border: 1px solid %3; "
-                                       "border-radius: 6px; }")
-                            .arg(objectName, QLatin1String(colors::kCardBackground),
-                                 QLatin1String(colors::kCardBorder)));
+    card->setStyleSheet(
+        QStringLiteral("QFrame#%1 { background-color: %2; border: 1px solid %3; "
+                       "border-radius: 6px; }")
+            .arg(objectName, QLatin1String(colors::kRaised), QLatin1String(colors::kBorder)));
 }
 
 QLabel* createCaption(const QString& text, QWidget* parent) {
@@ -23,7 +23,7 @@ QLabel* createCaption(const QString& text, QWidget* parent) {
     // The accents of capitals reach above the line.
     caption->setStyleSheet(QStringLiteral("color: %1; font-size: 10px; font-weight: bold; "
                                           "letter-spacing: 1px; padding-top: 2px;")
-                               .arg(QLatin1String(colors::kCaption)));
+                               .arg(QLatin1String(colors::kSecondary)));
     return caption;
 }
 
@@ -47,17 +47,19 @@ QPushButton* createIconButton(const QString& objectName, const QString& icon,
     button->setStyleSheet(
         QStringLiteral("QPushButton { background: transparent; border: 1px solid transparent; "
                        "border-radius: 4px; padding: 0; }"
-                       "QPushButton:hover { background-color: #2a3a5e; }"
-                       "QPushButton:focus { border-color: #4da6ff; }"
-                       "QPushButton:pressed { background-color: #3a4a6e; }"));
+                       "QPushButton:hover { background-color: %1; }"
+                       "QPushButton:focus { border-color: %2; }"
+                       "QPushButton:pressed { background-color: %3; }")
+            .arg(QLatin1String(colors::kBorder), QLatin1String(colors::kAccent),
+                 QLatin1String(colors::kPressed)));
     return button;
 }
 
 QFrame* createSeparator(QWidget* parent) {
     auto* const line = new QFrame(parent);
     line->setFixedHeight(1);
-    line->setStyleSheet(QStringLiteral("background-color: %1; border: none;")
-                            .arg(QLatin1String(colors::kCardBorder)));
+    line->setStyleSheet(
+        QStringLiteral("background-color: %1; border: none;").arg(QLatin1String(colors::kBorder)));
     return line;
 }
 

@@ -1,5 +1,7 @@
 #include "ui/ChatDialog.h"
 
+#include "ui/UiColors.h"
+
 #include <QDateTime>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -12,12 +14,16 @@ namespace corvane {
 
 namespace {
 
-constexpr const char* kTranscriptStyle = "body { font-family: sans-serif; font-size: 13px; }"
-                                         ".bubble { margin: 4px 0; }"
-                                         ".me    { color: #4da6ff; font-weight: bold; }"
-                                         ".remote{ color: #66bb6a; font-weight: bold; }"
-                                         ".time  { color: #666; font-size: 10px; }"
-                                         ".text  { color: #e0e0e0; }";
+QString transcriptStyle() {
+    return QStringLiteral("body { font-family: sans-serif; font-size: 13px; }"
+                          ".bubble { margin: 4px 0; }"
+                          ".me    { color: %1; font-weight: bold; }"
+                          ".remote{ color: %2; font-weight: bold; }"
+                          ".time  { color: %3; font-size: 10px; }"
+                          ".text  { color: %4; }")
+        .arg(QLatin1String(colors::kAccent), QLatin1String(colors::kPartner),
+             QLatin1String(colors::kFaint), QLatin1String(colors::kText));
+}
 
 } // namespace
 
@@ -32,7 +38,7 @@ ChatDialog::ChatDialog(QWidget* parent)
     m_transcript->setAccessibleName(tr("Messages"));
     m_transcript->setOpenLinks(false);
     m_transcript->setOpenExternalLinks(false);
-    m_transcript->document()->setDefaultStyleSheet(QLatin1String(kTranscriptStyle));
+    m_transcript->document()->setDefaultStyleSheet(transcriptStyle());
     m_transcript->document()->setMaximumBlockCount(kMaxMessages);
 
     m_input = new QLineEdit(this);

@@ -38,7 +38,7 @@ ConnectCard::ConnectCard(SettingsController* settings, QWidget* parent)
     m_favorites->setAccessibleName(tr("Favorites"));
     m_favorites->setFixedHeight(kFavoritesHeight);
     m_favorites->setStyleSheet(QStringLiteral("QListWidget { background-color: %1; }")
-                                   .arg(QLatin1String(colors::kListBackground)));
+                                   .arg(QLatin1String(colors::kFavorites)));
     connect(m_favorites, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
         m_partner->setCurrentText(item->text());
         m_password->setFocus();

@@ -37,7 +37,7 @@ DeviceCard::DeviceCard(QWidget* parent) : QFrame(parent) {
     m_status->setObjectName(QStringLiteral("statusLabel"));
     m_status->setIndent(0); // a padded label would stand to the right of the others
     layout->addWidget(m_status);
-    setStatus(tr("Connecting..."), QLatin1String(colors::kStatusConnecting));
+    setStatus(tr("Connecting..."), QLatin1String(colors::kAttention));
 }
 
 QLayout* DeviceCard::createIdRow() {
@@ -45,7 +45,7 @@ QLayout* DeviceCard::createIdRow() {
     m_id = createValueLabel(QStringLiteral("clientIdLabel"),
                             QStringLiteral("color: %1; font-size: 26px; font-weight: bold; "
                                            "letter-spacing: 3px;")
-                                .arg(QLatin1String(colors::kIdText)),
+                                .arg(QLatin1String(colors::kText)),
                             this);
     m_id->setText(tr("Connecting..."));
     auto* const copy =

@@ -101,12 +101,10 @@ void FileManagerDialog::connectService(const FileTransferService* service) {
             &FileManagerDialog::onRemoteDirectoryListed);
     connect(service, &FileTransferService::fileDownloadProgress, this,
             [this](const QString&, int percent) { m_status->showPercent(percent); });
-    connect(service, &FileTransferService::fileDownloadComplete, this,
-            &FileManagerDialog::onDownloadComplete);
     connect(service, &FileTransferService::fileUploadProgress, this,
             [this](const QString&, int percent) { m_status->showPercent(percent); });
     connect(service, &FileTransferService::fileUploadComplete, this,
-            &FileManagerDialog::onUploadComplete);
+            [this] { m_status->showPercent(100); });
     connect(service, &FileTransferService::fileError, this, &FileManagerDialog::onTransferError);
     connect(service, &FileTransferService::transferStats, this,
             [this](qint64, int bytesPerSecond, int secondsLeft) {
@@ -126,7 +124,6 @@ void FileManagerDialog::openRemoteFolder(const QString& path) {
 
 void FileManagerDialog::onRemoteDirectoryListed(const QString& path,
                                                 const QList<FileEntry>& entries) {
-    m_runner->folderListed(path);
     if (path != m_remote->path()) {
         return;
     }
@@ -191,7 +188,7 @@ void FileManagerDialog::confirm(const QString& question, const QStringList& over
 
 void FileManagerDialog::onTransferError(const QString& error) {
     constexpr qsizetype kMaxError = 300;
-    m_runner->requestFailed(error);
+    // The runner has heard of it before.
     if (!m_runner->isRunning()) {
         m_status->showPercent(0);
     }
@@ -203,12 +200,10 @@ void FileManagerDialog::onDownloadComplete(const QString& localPath) {
 }
 
 void FileManagerDialog::onUploadComplete() {
-    m_status->showPercent(100);
     m_runner->uploadComplete();
 }
 
 void FileManagerDialog::onServiceGone() {
-    m_runner->stop();
     m_status->showPercent(0);
     showResult(tr("The session has ended."));
 }

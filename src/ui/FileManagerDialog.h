@@ -39,6 +39,7 @@ public Q_SLOTS:
     void onDownloadClicked();
     void onUploadClicked();
     void onTransferError(const QString& error);
+    /// Advance the queues, which hear the service by themselves.
     void onDownloadComplete(const QString& localPath);
     void onUploadComplete();
 

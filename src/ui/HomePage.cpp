@@ -34,7 +34,7 @@ HomePage::HomePage(SettingsController* settings, QWidget* parent) : QWidget(pare
     auto* const version = new QLabel(QString::fromLatin1(deployment::kApplicationVersion), this);
     version->setObjectName(QStringLiteral("versionLabel"));
     version->setStyleSheet(
-        QStringLiteral("color: %1; font-size: 10px;").arg(QLatin1String(colors::kCaption)));
+        QStringLiteral("color: %1; font-size: 10px;").arg(QLatin1String(colors::kSecondary)));
 
     m_updateBanner = new UpdateBanner(this);
     layout->addLayout(createHeader());
@@ -74,7 +74,7 @@ QLayout* HomePage::createPairingRow() {
         createValueLabel(QStringLiteral("pairingCodeLabel"),
                          QStringLiteral("color: %1; font-size: 18px; font-weight: bold; "
                                         "font-family: monospace;")
-                             .arg(QLatin1String(colors::kPairingCode)),
+                             .arg(QLatin1String(colors::kAttention)),
                          this);
     auto* const copy =
         createIconButton(QStringLiteral("copyPairingCodeButton"), QStringLiteral("content_copy"),
@@ -95,7 +95,7 @@ QLabel* HomePage::createAdminLink() {
     label->setTextFormat(Qt::RichText);
     label->setWordWrap(true);
     label->setStyleSheet(
-        QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kCaption)));
+        QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kSecondary)));
     connect(label, &QLabel::linkActivated, this, &HomePage::adminPanelRequested);
     return label;
 }

@@ -10,6 +10,7 @@
 #include "network/server/SignalingClient.h"
 #include "services/ConnectionQualityMonitor.h"
 #include "session/SessionManager.h"
+#include "ui/ChangePasswordPrompt.h"
 #include "ui/ConnectCard.h"
 #include "ui/DeviceCard.h"
 #include "ui/HomePage.h"
@@ -17,17 +18,15 @@
 #include "ui/QualityIndicator.h"
 #include "ui/SessionDialogs.h"
 #include "ui/SettingsDialog.h"
+#include "ui/StatusLine.h"
 #include "ui/SystemTrayIcon.h"
-#include "ui/UiColors.h"
-#include "ui/UpdateBanner.h"
+#include "ui/UpdatePrompt.h"
 #include "ui/ViewerPage.h"
 #include "ui/WakeOnLanAction.h"
 #include "ui/WindowGeometry.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QInputDialog>
-#include <QProcess>
 #include <QStackedWidget>
 #include <QUrl>
 #include <spdlog/spdlog.h>
@@ -63,8 +62,11 @@ MainWindow::MainWindow(AuthController* auth, ApiClient* api, SignalingClient* si
     m_session->setQualityMonitor(m_quality);
     m_dialogs = new SessionDialogs(m_session, m_quality, this);
     m_wakeOnLan = new WakeOnLanAction(m_settings, m_boxes, this);
+    m_changePassword = new ChangePasswordPrompt(m_auth, m_boxes, this);
     createPages();
     createTray();
+    m_update = new UpdatePrompt(m_home->updateBanner(), m_boxes, this);
+    m_status = new StatusLine(m_device, m_tray, this);
     connectPages();
     connectViewer();
     connectServices();
@@ -112,9 +114,13 @@ void MainWindow::connectPages() {
         }
     });
     connect(m_home, &HomePage::settingsRequested, this, &MainWindow::onSettingsClicked);
-    connect(m_home->updateBanner(), &UpdateBanner::downloadRequested, this,
-            &MainWindow::updateRequested);
-    connect(m_device, &DeviceCard::changePasswordRequested, this, &MainWindow::changePassword);
+    connect(m_update, &UpdatePrompt::downloadRequested, this, &MainWindow::updateRequested);
+    connect(m_update, &UpdatePrompt::installerStarted, this, &MainWindow::quitRequested,
+            Qt::QueuedConnection);
+    connect(m_device, &DeviceCard::changePasswordRequested, m_changePassword,
+            &ChangePasswordPrompt::ask);
+    connect(m_changePassword, &ChangePasswordPrompt::passwordChanged, m_device,
+            &DeviceCard::setPassword);
     connect(m_connect, &ConnectCard::connectRequested, this, &MainWindow::onConnectClicked);
     connect(m_connect, &ConnectCard::disconnectRequested, this, &MainWindow::onDisconnectClicked);
     connect(m_connect, &ConnectCard::wakeRequested, this, [this] {
@@ -142,7 +148,7 @@ void MainWindow::connectServices() {
     connect(m_auth, &AuthController::authenticated, this, &MainWindow::onAuthenticated);
     connect(m_auth, &AuthController::loggedOut, this, &MainWindow::onLoggedOut);
     connect(m_auth, &AuthController::authenticationFailed, this,
-            [this] { setStatus(tr("Server unavailable — retrying..."), colors::kStatusWaiting); });
+            [this] { m_status->show(ServerState::Unavailable); });
     connect(m_auth, &AuthController::pairingCodeChanged, m_home, &HomePage::setPairingCode);
     connect(m_api, &ApiClient::requestError, this, &MainWindow::onRequestError);
     connect(m_signaling, &SignalingClient::connected, this, &MainWindow::onSignalingConnected);
@@ -166,7 +172,7 @@ void MainWindow::onAuthenticated(const QString& clientId) {
     m_home->setPairingCode(m_auth->pairingCode());
     m_connect->setConnectEnabled(true);
     m_connect->setDisconnectEnabled(true);
-    setStatus(tr("Ready"), colors::kStatusReady);
+    m_status->show(ServerState::LoggedIn);
     notify(tr("Ready. Your ID: %1").arg(formatPartnerId(clientId)));
 }
 
@@ -174,17 +180,17 @@ void MainWindow::onLoggedOut() {
     m_device->showLoggedOut();
     m_connect->setConnectEnabled(false);
     m_connect->setDisconnectEnabled(false);
-    setStatus(tr("Disconnected"), colors::kStatusFailed);
+    m_status->show(ServerState::LoggedOut);
     returnHome();
 }
 
 void MainWindow::onSignalingConnected() {
-    setStatus(tr("Online (Ready)"), colors::kStatusReady);
+    m_status->show(ServerState::Online);
 }
 
 void MainWindow::onSignalingDisconnected() {
     if (isRegistered()) {
-        setStatus(tr("Reconnecting..."), colors::kStatusWaiting);
+        m_status->show(ServerState::Reconnecting);
     }
 }
 
@@ -257,36 +263,17 @@ void MainWindow::onSessionAutoAccept(const QString& sessionId, const QString& ma
 }
 
 void MainWindow::onSessionStateChanged(SessionState newState) {
-    switch (newState) {
-    case SessionState::Idle:
-        if (isRegistered()) {
-            setStatus(tr("Online (Ready)"), colors::kStatusReady);
-        }
-        returnHome();
-        restoreConnectButton();
-        break;
-    case SessionState::Initiating:
-        setStatus(tr("Initiating session..."), colors::kStatusInProgress);
-        break;
-    case SessionState::Handshaking:
-        setStatus(tr("Exchanging keys..."), colors::kStatusInProgress);
-        break;
-    case SessionState::Connecting:
-        setStatus(tr("Establishing transport..."), colors::kStatusInProgress);
-        break;
-    case SessionState::Connected:
-        setStatus(tr("Connected"), colors::kStatusReady);
+    if (newState != SessionState::Idle || isRegistered()) {
+        m_status->show(newState);
+    }
+    if (newState == SessionState::Connected) {
         enterSession();
-        break;
-    case SessionState::Closing:
-        setStatus(tr("Disconnecting..."), colors::kStatusWaiting);
-        break;
-    case SessionState::Failed:
-        setStatus(tr("Session failed"), colors::kStatusFailed);
+    } else if (newState == SessionState::Idle || newState == SessionState::Failed) {
         returnHome();
         restoreConnectButton();
+    }
+    if (newState == SessionState::Failed) {
         notify(tr("Session failed."), QSystemTrayIcon::Warning);
-        break;
     }
 }
 
@@ -321,7 +308,7 @@ void MainWindow::onRequestError(const QString& endpoint, int statusCode, const Q
         return;
     }
     restoreConnectButton();
-    setStatus(tr("Online (Ready)"), colors::kStatusReady);
+    m_status->show(ServerState::Online);
     QString message = tr("Failed to connect. Please try again.");
     if (detail.contains(u"not available") || detail.contains(u"offline")) {
         message = tr("The partner is not available or offline.");
@@ -333,27 +320,19 @@ void MainWindow::onRequestError(const QString& endpoint, int statusCode, const Q
 
 void MainWindow::showUpdateBanner(const QString& version, const QString& downloadUrl,
                                   const QString&) {
-    m_home->updateBanner()->announce(version, downloadUrl);
+    m_update->announce(version, downloadUrl);
 }
 
 void MainWindow::showUpdateProgress(int percent) {
-    m_home->updateBanner()->setProgress(percent);
+    m_update->showProgress(percent);
 }
 
 void MainWindow::showUpdateError(const QString& error) {
-    m_home->updateBanner()->reset();
-    m_boxes->warn(tr("Update"), error);
+    m_update->showError(error);
 }
 
 void MainWindow::launchInstaller(const QString& installerPath) {
-    spdlog::info("Launching installer: {}", installerPath.toStdString());
-    if (!QProcess::startDetached(
-            installerPath, {QStringLiteral("/SILENT"), QStringLiteral("/SUPPRESSMSGBOXES")})) {
-        spdlog::error("The installer could not be started");
-        showUpdateError(tr("The installer could not be started."));
-        return;
-    }
-    QMetaObject::invokeMethod(this, &MainWindow::quitRequested, Qt::QueuedConnection);
+    m_update->launchInstaller(installerPath);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -376,11 +355,6 @@ void MainWindow::quitByTray() {
         m_session->endSession(QStringLiteral("application_quit"));
     }
     Q_EMIT quitRequested();
-}
-
-void MainWindow::setStatus(const QString& text, const char* color) {
-    m_device->setStatus(text, QLatin1String(color));
-    m_tray->setStatus(text);
 }
 
 void MainWindow::notify(const QString& text, QSystemTrayIcon::MessageIcon icon) {
@@ -427,27 +401,6 @@ void MainWindow::returnHome() {
         m_connect->focusPartnerField();
     }
     fitToHomePage(*this, m_home->sizeHint().height());
-}
-
-void MainWindow::changePassword() {
-    auto* const dialog = new QInputDialog(this);
-    dialog->setObjectName(QStringLiteral("changePasswordDialog"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(tr("Change Session Password"));
-    dialog->setLabelText(tr("New password (min 8 chars, uppercase + lowercase + digit):"));
-    connect(dialog, &QInputDialog::textValueSelected, this, [this](const QString& password) {
-        if (password.isEmpty()) {
-            return;
-        }
-        const QString violation = AuthController::validatePassword(password);
-        if (!violation.isEmpty()) {
-            m_boxes->warn(tr("Invalid Password"), violation);
-            return;
-        }
-        m_auth->setSessionPassword(password);
-        m_device->setPassword(password);
-    });
-    dialog->open();
 }
 
 } // namespace corvane

@@ -16,6 +16,7 @@ namespace corvane {
 
 class ApiClient;
 class AuthController;
+class ChangePasswordPrompt;
 class ConnectCard;
 class ConnectionQualityMonitor;
 class DeviceCard;
@@ -25,7 +26,9 @@ class SessionDialogs;
 class SessionManager;
 class SettingsController;
 class SignalingClient;
+class StatusLine;
 class SystemTrayIcon;
+class UpdatePrompt;
 class ViewerPage;
 class WakeOnLanAction;
 
@@ -83,7 +86,6 @@ private:
     void connectPages();
     void connectViewer();
     void connectServices();
-    void setStatus(const QString& text, const char* color);
     bool isRegistered() const;
     void restoreConnectButton();
     void notify(const QString& text,
@@ -92,7 +94,6 @@ private:
     void enterSession();
     void enterViewer();
     void returnHome();
-    void changePassword();
 
     AuthController* const m_auth;
     ApiClient* const m_api;
@@ -105,6 +106,9 @@ private:
     ConnectionQualityMonitor* m_quality = nullptr;
     SessionDialogs* m_dialogs = nullptr;
     WakeOnLanAction* m_wakeOnLan = nullptr;
+    ChangePasswordPrompt* m_changePassword = nullptr;
+    UpdatePrompt* m_update = nullptr;
+    StatusLine* m_status = nullptr;
     QStackedWidget* m_pages = nullptr;
     HomePage* m_home = nullptr;
     ViewerPage* m_viewer = nullptr;

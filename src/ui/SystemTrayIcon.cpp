@@ -35,8 +35,8 @@ void SystemTrayIcon::createMenu() {
     };
     m_menu->setObjectName(QStringLiteral("trayMenu"));
     // The status is always disabled, and yet to be read.
-    m_menu->setStyleSheet(
-        QStringLiteral("QMenu::item:disabled { color: %1; }").arg(QLatin1String(colors::kCaption)));
+    m_menu->setStyleSheet(QStringLiteral("QMenu::item:disabled { color: %1; }")
+                              .arg(QLatin1String(colors::kSecondary)));
     const QAction* const show = add("trayShowAction", tr("Show"));
     m_status = add("trayStatusAction", tr("Status: Disconnected"));
     m_status->setEnabled(false);

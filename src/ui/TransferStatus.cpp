@@ -1,6 +1,7 @@
 #include "ui/TransferStatus.h"
 
 #include "common/ValueFormats.h"
+#include "ui/UiColors.h"
 
 #include <QLabel>
 #include <QProgressBar>
@@ -60,7 +61,8 @@ TransferStatus::TransferStatus(QWidget* parent) : QWidget(parent) {
     m_progress->setValue(0);
     m_text = new QLabel(this);
     m_text->setObjectName(QStringLiteral("transferStatus"));
-    m_text->setStyleSheet(QStringLiteral("color: #666; font-size: 11px;"));
+    m_text->setStyleSheet(
+        QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kFaint)));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -15,8 +15,8 @@ UpdateBanner::UpdateBanner(QWidget* parent) : QFrame(parent) {
                        "border-radius: 6px; padding: 8px; }"
                        "QPushButton#primaryButton, QPushButton#primaryButton:disabled { "
                        "background-color: %2; color: %3; }")
-            .arg(QLatin1String(colors::kBannerBackground), QLatin1String(colors::kAccent),
-                 QLatin1String(colors::kBannerButtonText)));
+            .arg(QLatin1String(colors::kDeepAccent), QLatin1String(colors::kAccent),
+                 QLatin1String(colors::kField)));
     m_text = new QLabel(this);
     m_text->setObjectName(QStringLiteral("updateText"));
     m_text->setTextFormat(Qt::PlainText);

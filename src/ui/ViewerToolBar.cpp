@@ -25,7 +25,8 @@ constexpr int kMonitorEntries = 4;
 ViewerToolBar::ViewerToolBar(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("viewerToolBar"));
     setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#viewerToolBar { background-color: #0d1b2a; }"));
+    setStyleSheet(QStringLiteral("QWidget#viewerToolBar { background-color: %1; }")
+                      .arg(QLatin1String(colors::kField)));
 
     auto* const info = createButton(QStringLiteral("infoButton"), QStringLiteral("info"),
                                     tr("Info  (Ctrl+Shift+I)"), QStringLiteral("Ctrl+Shift+I"),
@@ -60,7 +61,7 @@ ViewerToolBar::ViewerToolBar(QWidget* parent) : QWidget(parent) {
     m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_summary->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_summary->setStyleSheet(
-        QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kCaption)));
+        QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kSecondary)));
 
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 4, 8, 4);
