@@ -1,7 +1,8 @@
 #include "session/RepeatingScreen.h"
 
-#include "common/MonotonicClock.h"
+#include "session/PictureRequests.h"
 
+#include <array>
 #include <utility>
 
 namespace corvane {
@@ -15,8 +16,9 @@ constexpr std::array kRepeatAfter{300ms, 1000ms, 3000ms};
 
 } // namespace
 
-RepeatingScreen::RepeatingScreen(std::unique_ptr<IScreenCaptureBackend> screen, LastFrame lastFrame)
-    : m_screen(std::move(screen)), m_lastFrame(std::move(lastFrame)) {}
+RepeatingScreen::RepeatingScreen(std::unique_ptr<IScreenCaptureBackend> screen,
+                                 PictureRequests& requests)
+    : m_screen(std::move(screen)), m_requests(requests) {}
 
 std::unique_ptr<CapturedFrame> RepeatingScreen::captureFrame() {
     if (auto frame = m_screen->captureFrame()) {
@@ -27,21 +29,11 @@ std::unique_ptr<CapturedFrame> RepeatingScreen::captureFrame() {
     if (!m_screen->isInitialized() || !isRepeatDue()) {
         return nullptr;
     }
-    const auto last = m_lastFrame();
-    if (!last) {
-        return nullptr;
-    }
-    auto frame = std::make_unique<CapturedFrame>();
-    frame->data = copyBytes(last->data);
-    frame->width = last->width;
-    frame->height = last->height;
-    frame->stride = last->stride;
-    frame->timestamp = monotonicMilliseconds();
-    return frame;
+    return m_requests.repeatedPicture();
 }
 
 bool RepeatingScreen::isRepeatDue() {
-    if (m_repeatRequested.exchange(false)) {
+    if (m_requests.takeRepeat()) {
         return true;
     }
     if (m_repeats == kRepeatAfter.size() || Clock::now() - m_changed < kRepeatAfter[m_repeats]) {

@@ -2,25 +2,19 @@
 
 #include "media/IScreenCaptureBackend.h"
 
-#include <array>
-#include <atomic>
 #include <chrono>
-#include <functional>
 
 namespace corvane {
+
+class PictureRequests;
 
 /// A screen that shows its last picture again while nothing changes on it: when asked to, so that a
 /// viewer who missed a packet gets a whole picture from a screen that stands still, and a few times
 /// by itself, since a viewer finds out about a lost packet only from one that follows it.
 class RepeatingScreen : public IScreenCaptureBackend {
 public:
-    /// The picture to repeat, or null; asked on the capture thread.
-    using LastFrame = std::function<std::shared_ptr<const CapturedFrame>()>;
-
-    RepeatingScreen(std::unique_ptr<IScreenCaptureBackend> screen, LastFrame lastFrame);
-
-    /// Shows the last picture again, soon. Any thread.
-    void requestRepeat() { m_repeatRequested = true; }
+    /// `requests` is borrowed and must outlive the screen.
+    RepeatingScreen(std::unique_ptr<IScreenCaptureBackend> screen, PictureRequests& requests);
 
     bool initialize(int monitorIndex) override { return m_screen->initialize(monitorIndex); }
     void shutdown() override { m_screen->shutdown(); }
@@ -35,8 +29,7 @@ private:
     bool isRepeatDue();
 
     const std::unique_ptr<IScreenCaptureBackend> m_screen;
-    const LastFrame m_lastFrame;
-    std::atomic<bool> m_repeatRequested{false};
+    PictureRequests& m_requests;
     Clock::time_point m_changed; ///< when the screen last did
     size_t m_repeats = 0;        ///< by itself, since then
 };

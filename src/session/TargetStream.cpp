@@ -30,10 +30,8 @@ bool TargetStream::start(const SessionPlatform& platform) {
         spdlog::error("Failed to initialize any screen capture backend");
         return false;
     }
-    auto screen =
-        std::make_unique<RepeatingScreen>(std::move(backend), [this] { return m_lastFrame; });
-    m_screen = screen.get();
-    m_capture = std::make_unique<ScreenCaptureManager>(std::move(screen));
+    m_capture = std::make_unique<ScreenCaptureManager>(
+        std::make_unique<RepeatingScreen>(std::move(backend), m_requests));
 
     auto inputBackend = platform.inputBackend();
     inputBackend->initialize();
@@ -41,7 +39,7 @@ bool TargetStream::start(const SessionPlatform& platform) {
 
     m_capture->setFrameCallback([this](const std::shared_ptr<CapturedFrame>& frame) {
         if (frame) {
-            m_lastFrame = frame;
+            m_requests.setLastPicture(frame);
             onFrame(*frame);
         }
     });
@@ -64,15 +62,15 @@ void TargetStream::stop() {
 }
 
 void TargetStream::requestKeyframe() {
-    if (m_capture && !m_keyframeInMaking.exchange(true)) {
+    if (m_capture && m_requests.requestKeyframe()) {
         m_capture->requestKeyframe();
-        m_screen->requestRepeat();
     }
 }
 
 void TargetStream::repairPicture() {
-    m_repairWanted = true;
-    requestKeyframe();
+    if (m_capture && m_requests.requestRepair()) {
+        m_capture->requestKeyframe();
+    }
 }
 
 void TargetStream::switchMonitor(int index) {
@@ -111,7 +109,7 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
         // Before the main thread can fail to send it and want another; and where making it fails.
         const auto made = qScopeGuard([&] {
             if (frame.keyframeRequested) {
-                m_keyframeInMaking = false;
+                m_requests.keyframeDone();
             }
         });
         sealed = m_pipeline.process(frame);
@@ -119,8 +117,7 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
     if (!sealed) {
         return;
     }
-    bool wake =
-        frame.keyframeRequested && m_repairWanted.exchange(false) && m_packets.push(*sealed);
+    bool wake = frame.keyframeRequested && m_requests.takeRepair() && m_packets.push(*sealed);
     wake |= m_packets.push(std::move(*sealed));
     if (wake) {
         Q_EMIT packetsWaiting(QPrivateSignal());

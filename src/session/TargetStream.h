@@ -5,11 +5,11 @@
 #include "media/CapturedFrame.h"
 #include "session/FramePipeline.h"
 #include "session/PacketQueue.h"
+#include "session/PictureRequests.h"
 #include "session/StreamingSettings.h"
 
 #include <QObject>
 
-#include <atomic>
 #include <memory>
 
 namespace corvane {
@@ -17,7 +17,6 @@ namespace corvane {
 class AesGcmCipher;
 class IScreenCaptureBackend;
 class InputForwarder;
-class RepeatingScreen;
 class ScreenCaptureManager;
 struct SessionPlatform;
 
@@ -45,14 +44,10 @@ public:
     /// Ends capture and joins its thread. Packets not yet handed over are dropped.
     void stop();
 
-    /// Has the next picture encoded afresh, and soon even if the screen stands still. A key frame
-    /// that is still in the making answers all requests until it is done: encoding one may take
-    /// longer than a viewer waits before it asks again.
+    /// See `PictureRequests`.
     void requestKeyframe();
 
-    /// The same because the viewer has lost something: the key frame is then sent twice. It takes
-    /// long to make and many datagrams to carry, and the loss of one of them costs another one. The
-    /// second is the same sealed message, which the viewer knows by its counter.
+    /// The second key frame is the same sealed message, which the viewer knows by its counter.
     void repairPicture();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);
@@ -72,11 +67,8 @@ private:
     const StreamingSettings m_settings;
     FramePipeline m_pipeline; ///< capture thread only, while it runs
     PacketQueue m_packets;
-    std::shared_ptr<const CapturedFrame> m_lastFrame; ///< capture thread only, while it runs
+    PictureRequests m_requests;
     std::unique_ptr<ScreenCaptureManager> m_capture;
-    RepeatingScreen* m_screen = nullptr; ///< belongs to the capture manager
-    std::atomic<bool> m_keyframeInMaking{false};
-    std::atomic<bool> m_repairWanted{false};
     std::unique_ptr<InputForwarder> m_input;
 };
 
