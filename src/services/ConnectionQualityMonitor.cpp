@@ -67,7 +67,7 @@ QString ConnectionQualityMonitor::summaryText(const ConnectionStats& stats) {
 
 void ConnectionQualityMonitor::countFrame() {
     const std::lock_guard lock(m_mutex);
-    ++m_counters.tickFrames;
+    ++m_counters.tick.frames;
 }
 
 void ConnectionQualityMonitor::countDroppedFrame() {
@@ -77,13 +77,13 @@ void ConnectionQualityMonitor::countDroppedFrame() {
 
 void ConnectionQualityMonitor::addBytesSent(qint64 bytes) {
     const std::lock_guard lock(m_mutex);
-    m_counters.tickBytesSent += bytes;
+    m_counters.tick.bytes += bytes;
     m_counters.bytesSent += bytes;
 }
 
 void ConnectionQualityMonitor::addBytesReceived(qint64 bytes) {
     const std::lock_guard lock(m_mutex);
-    m_counters.tickBytesReceived += bytes;
+    m_counters.tick.bytes += bytes;
     m_counters.bytesReceived += bytes;
 }
 
@@ -99,12 +99,10 @@ void ConnectionQualityMonitor::onUpdateTick() {
     bool levelChanged = false;
     {
         const std::lock_guard lock(m_mutex);
-        const int64_t tickBytes = m_counters.tickBytesSent + m_counters.tickBytesReceived;
-        tick.fps = static_cast<double>(std::exchange(m_counters.tickFrames, 0));
+        const auto passed = std::exchange(m_counters.tick, {});
+        tick.fps = static_cast<double>(passed.frames);
         tick.latencyMs = m_counters.latencyMs;
-        tick.bandwidthKbps = static_cast<double>(tickBytes) * 8 / 1000;
-        m_counters.tickBytesSent = 0;
-        m_counters.tickBytesReceived = 0;
+        tick.bandwidthKbps = static_cast<double>(passed.bytes) * 8 / 1000;
         tick.bytesSent = m_counters.bytesSent;
         tick.bytesReceived = m_counters.bytesReceived;
         tick.framesDropped = m_counters.framesDropped;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "services/ConnectionStats.h"
+#include "services/TrafficTally.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -47,9 +48,7 @@ public Q_SLOTS:
 
 private:
     struct Counters {
-        int64_t tickFrames = 0;
-        int64_t tickBytesSent = 0;
-        int64_t tickBytesReceived = 0;
+        TrafficTally tick; ///< both ways
         int64_t bytesSent = 0;
         int64_t bytesReceived = 0;
         int64_t framesDropped = 0;

@@ -13,12 +13,12 @@ void StreamMeter::count(size_t bytes) {
         m_startedAtMs = now;
         return;
     }
-    ++m_frames;
-    m_bytes += bytes;
+    ++m_tally.frames;
+    m_tally.bytes += static_cast<int64_t>(bytes);
     if (now - m_startedAtMs >= kIntervalMs) {
-        spdlog::debug("Video received: {} frames, {} bytes in {} ms", m_frames, m_bytes,
+        spdlog::debug("Video received: {} frames, {} bytes in {} ms", m_tally.frames, m_tally.bytes,
                       now - m_startedAtMs);
-        *this = {};
+        m_tally = {};
         m_startedAtMs = now;
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "services/TrafficTally.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -12,8 +14,7 @@ public:
 
 private:
     int64_t m_startedAtMs = 0;
-    int m_frames = 0;
-    size_t m_bytes = 0;
+    TrafficTally m_tally;
 };
 
 } // namespace corvane
