@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace corvane {
 
@@ -64,9 +65,12 @@ ByteVector decryptFailure(std::string_view step) {
 // The algorithm is fetched once here: the implicit fetch behind EVP_aes_256_gcm() would be repeated
 // for every message. Should the fetch fail, every message fails at its first initialisation.
 AesGcmCipher::AesGcmCipher(const ByteVector& key, const ByteVector& baseIv)
-    : m_key(ByteSpan(key)), m_baseIv(ByteSpan(baseIv)) {
-    requireSize("key", key.size(), kKeySize);
-    requireSize("base IV", baseIv.size(), kNonceSize);
+    : AesGcmCipher(SecretBytes(ByteSpan(key)), SecretBytes(ByteSpan(baseIv))) {}
+
+AesGcmCipher::AesGcmCipher(SecretBytes key, SecretBytes baseIv)
+    : m_key(std::move(key)), m_baseIv(std::move(baseIv)) {
+    requireSize("key", m_key.size(), kKeySize);
+    requireSize("base IV", m_baseIv.size(), kNonceSize);
     m_algorithm.reset(EVP_CIPHER_fetch(nullptr, "AES-256-GCM", nullptr));
     spdlog::debug("AesGcmCipher: initialized with 256-bit key and 96-bit base IV");
 }

@@ -23,6 +23,7 @@ public:
 
     /// Throws `std::invalid_argument` unless `key` has 32 bytes and `baseIv` 12.
     AesGcmCipher(const ByteVector& key, const ByteVector& baseIv);
+    AesGcmCipher(SecretBytes key, SecretBytes baseIv);
 
     /// The sealed message; empty on failure. Every call consumes one counter, failed ones too.
     ByteVector encrypt(const uint8_t* plaintext, size_t size);

@@ -1,5 +1,6 @@
 #include "crypto/EcdhKeyExchange.h"
 
+#include "crypto/AesGcmCipher.h"
 #include "crypto/KeyDerivation.h"
 #include "crypto/OpensslErrors.h"
 
@@ -160,6 +161,11 @@ ByteVector EcdhKeyExchange::baseIv() const {
         spdlog::warn("EcdhKeyExchange::baseIv: IV not yet derived");
     }
     return m_baseIv.copy();
+}
+
+std::unique_ptr<AesGcmCipher> EcdhKeyExchange::createCipher() const {
+    return std::make_unique<AesGcmCipher>(SecretBytes(m_aesKey.span()),
+                                          SecretBytes(m_baseIv.span()));
 }
 
 } // namespace corvane

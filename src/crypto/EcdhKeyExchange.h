@@ -4,9 +4,12 @@
 #include "crypto/OpensslHandles.h"
 #include "crypto/SecretBytes.h"
 
+#include <memory>
 #include <string>
 
 namespace corvane {
+
+class AesGcmCipher;
 
 /// One side's ephemeral P-256 key pair and the session key agreed with it. One object per session
 /// attempt, used from one thread.
@@ -28,6 +31,10 @@ public:
 
     /// The nonce base, 12 bytes; empty before the first success of `deriveSharedKey`.
     ByteVector baseIv() const;
+
+    /// A cipher with the key material, of which no copy is left unwiped. Throws
+    /// `std::invalid_argument` before the first success of `deriveSharedKey`.
+    std::unique_ptr<AesGcmCipher> createCipher() const;
 
 private:
     bool deriveKeyMaterial(const SecretBytes& sharedSecret);

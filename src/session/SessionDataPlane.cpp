@@ -2,6 +2,7 @@
 
 #include "common/ByteViews.h"
 #include "common/LoggableText.h"
+#include "crypto/AesGcmCipher.h"
 #include "session/SessionCommand.h"
 
 #include <spdlog/spdlog.h>
@@ -44,9 +45,9 @@ const SessionDataPlane::ControlRoute* SessionDataPlane::findRoute(uint8_t tag) {
     return route != kRoutes.end() ? route : nullptr;
 }
 
-SessionDataPlane::SessionDataPlane(SessionRole role, const ByteVector& key,
-                                   const ByteVector& baseIv, QObject* parent)
-    : QObject(parent), m_role(role), m_link(key, baseIv), m_services(m_link) {}
+SessionDataPlane::SessionDataPlane(SessionRole role, std::unique_ptr<AesGcmCipher> cipher,
+                                   QObject* parent)
+    : QObject(parent), m_role(role), m_link(std::move(cipher)), m_services(m_link) {}
 
 SessionDataPlane::~SessionDataPlane() = default;
 
@@ -117,7 +118,7 @@ void SessionDataPlane::sendInputEvent(const InputEvent& event) {
         spdlog::warn("Failed to serialize input event: {}", error.what());
         return;
     }
-    if (!sendControl(ControlTag::InputEvent, record)) {
+    if (sendControl(ControlTag::InputEvent, record) == SendResult::SealingFailed) {
         spdlog::error("Failed to encrypt input event");
     }
 }
@@ -218,11 +219,8 @@ void SessionDataPlane::onCommand(ByteSpan message) {
 
 void SessionDataPlane::createViewer() {
     m_viewer = std::make_unique<ViewerStream>();
-    connect(m_viewer.get(), &ViewerStream::keyframeNeeded, this, [this] {
-        if (m_link.isOpen()) {
-            sendControl(ControlTag::KeyframeRequest, {});
-        }
-    });
+    connect(m_viewer.get(), &ViewerStream::keyframeNeeded, this,
+            [this] { sendControl(ControlTag::KeyframeRequest, {}); });
 }
 
 void SessionDataPlane::updateFlow() {
@@ -231,27 +229,25 @@ void SessionDataPlane::updateFlow() {
     }
 }
 
-/// False when sealing failed. What the transport does not take is lost.
-bool SessionDataPlane::sendControl(ControlTag tag, ByteSpan payload) {
-    const ByteVector sealed = m_link.seal(controlMessage(tag, payload));
-    if (sealed.empty()) {
-        return false;
-    }
-    m_link.send(ChannelType::Control, sealed);
-    return true;
+SendResult SessionDataPlane::sendControl(ControlTag tag, ByteSpan payload) {
+    return m_link.send(ChannelType::Control, controlMessage(tag, payload));
 }
 
 void SessionDataPlane::sendVideo(const ByteVector& sealed) {
-    if (!m_link.isOpen()) {
-        return;
-    }
-    if (m_link.send(ChannelType::Video, sealed)) {
+    switch (m_link.sendSealed(ChannelType::Video, sealed)) {
+    case SendResult::Sent:
         m_link.countFrame();
-        return;
+        break;
+    case SendResult::Refused:
+        m_link.countDroppedFrame();
+        // The viewer misses this frame and cannot use what builds on it.
+        m_target->requestKeyframe();
+        break;
+    case SendResult::NotConnected:
+    case SendResult::NoTransport:
+    case SendResult::SealingFailed:
+        break;
     }
-    m_link.countDroppedFrame();
-    // The viewer misses this frame and cannot use what builds on it.
-    m_target->requestKeyframe();
 }
 
 } // namespace corvane

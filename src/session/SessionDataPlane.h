@@ -23,8 +23,8 @@ class SessionDataPlane : public QObject {
     Q_OBJECT
 
 public:
-    /// Throws std::invalid_argument when the key material has the wrong size.
-    SessionDataPlane(SessionRole role, const ByteVector& key, const ByteVector& baseIv,
+    /// `cipher` holds the session's key and is not null.
+    SessionDataPlane(SessionRole role, std::unique_ptr<AesGcmCipher> cipher,
                      QObject* parent = nullptr);
     ~SessionDataPlane() override;
 
@@ -76,7 +76,7 @@ private:
 
     void createViewer();
     void updateFlow();
-    bool sendControl(ControlTag tag, ByteSpan payload);
+    SendResult sendControl(ControlTag tag, ByteSpan payload);
     void sendVideo(const ByteVector& sealed);
 
     const SessionRole m_role;

@@ -1,6 +1,7 @@
 #include "session/SessionLink.h"
 
 #include "common/ByteViews.h"
+#include "crypto/AesGcmCipher.h"
 #include "services/ConnectionQualityMonitor.h"
 #include "transport/RelayFrame.h"
 
@@ -20,8 +21,8 @@ constexpr qint64 kFileQueueLimit = 4 * 1024 * 1024;
 
 const size_t SessionLink::kMaxControlMessage = kRelayMaxPayload - AesGcmCipher::kOverhead;
 
-SessionLink::SessionLink(const ByteVector& key, const ByteVector& baseIv, QObject* parent)
-    : QObject(parent), m_cipher(key, baseIv) {
+SessionLink::SessionLink(std::unique_ptr<AesGcmCipher> cipher, QObject* parent)
+    : QObject(parent), m_cipher(std::move(cipher)) {
     m_latencyTimer.setInterval(kLatencyInterval);
     connect(&m_latencyTimer, &QTimer::timeout, this, &SessionLink::measureLatency);
 }
@@ -42,30 +43,44 @@ void SessionLink::setQualityMonitor(ConnectionQualityMonitor* monitor) {
     m_monitor = monitor;
 }
 
-ByteVector SessionLink::seal(const ByteVector& message) {
-    return m_cipher.encrypt(message);
-}
-
 ByteVector SessionLink::open(const QByteArray& sealed) {
     if (m_monitor) {
         m_monitor->addBytesReceived(sealed.size());
     }
     const ByteSpan bytes = bytesOf(sealed);
-    return m_cipher.decrypt(bytes.data(), bytes.size());
+    return m_cipher->decrypt(bytes.data(), bytes.size());
 }
 
 uint64_t SessionLink::counterOf(const QByteArray& sealed) {
     return AesGcmCipher::counterOf(bytesOf(sealed).data());
 }
 
-bool SessionLink::send(ChannelType channel, const ByteVector& sealed) {
-    if (!isOpen() || !m_transport->send(channel, sealed.data(), sealed.size())) {
-        return false;
+SendResult SessionLink::send(ChannelType channel, const ByteVector& message) {
+    if (const auto reason = obstacle()) {
+        return *reason;
+    }
+    const ByteVector sealed = m_cipher->encrypt(message);
+    return sealed.empty() ? SendResult::SealingFailed : sendSealed(channel, sealed);
+}
+
+SendResult SessionLink::sendSealed(ChannelType channel, const ByteVector& sealed) {
+    if (const auto reason = obstacle()) {
+        return *reason;
+    }
+    if (!m_transport->send(channel, sealed.data(), sealed.size())) {
+        return SendResult::Refused;
     }
     if (m_monitor) {
         m_monitor->addBytesSent(static_cast<qint64>(sealed.size()));
     }
-    return true;
+    return SendResult::Sent;
+}
+
+std::optional<SendResult> SessionLink::obstacle() const {
+    if (m_state != SessionState::Connected) {
+        return SendResult::NotConnected;
+    }
+    return m_transport ? std::nullopt : std::optional(SendResult::NoTransport);
 }
 
 bool SessionLink::waitForRoom() {

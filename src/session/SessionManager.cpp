@@ -1,6 +1,7 @@
 #include "session/SessionManager.h"
 
 #include "common/JsonFields.h"
+#include "crypto/AesGcmCipher.h"
 #include "crypto/EcdhKeyExchange.h"
 #include "network/server/ApiClient.h"
 #include "network/server/SignalingClient.h"
@@ -336,13 +337,14 @@ bool SessionManager::createKeyExchange() {
 
 bool SessionManager::createDataPlane() {
     try {
-        m_dataPlane = std::make_unique<SessionDataPlane>(m_role, m_keyExchange->aesKey(),
-                                                         m_keyExchange->baseIv());
+        m_dataPlane = std::make_unique<SessionDataPlane>(m_role, m_keyExchange->createCipher());
     } catch (const std::exception& error) {
         spdlog::error("Failed to create AES-GCM cipher: {}", error.what());
         fail(tr("Cipher error: %1").arg(QString::fromUtf8(error.what())));
         return false;
     }
+    // From here on only the cipher holds the key.
+    m_keyExchange.reset();
     auto* const plane = m_dataPlane.get();
     plane->setState(m_state);
     plane->setQualityMonitor(m_qualityMonitor);

@@ -1,6 +1,7 @@
 #include "session/SessionServices.h"
 
 #include "common/ByteViews.h"
+#include "crypto/AesGcmCipher.h"
 #include "services/ChatService.h"
 #include "services/ClipboardSharing.h"
 #include "services/FileTransferService.h"
@@ -70,47 +71,40 @@ void SessionServices::onChat(ByteSpan message) {
 }
 
 void SessionServices::sendClipboard(const QByteArray& data) {
-    if (!m_link.isOpen()) {
-        return;
-    }
-    const ByteVector sealed = m_link.seal(copyBytes(bytesOf(data)));
-    if (sealed.empty()) {
+    // The data brings its tag along.
+    if (m_link.send(ChannelType::Control, copyBytes(bytesOf(data))) == SendResult::SealingFailed) {
         spdlog::error("Failed to encrypt clipboard data");
-        return;
     }
-    m_link.send(ChannelType::Control, sealed);
 }
 
 bool SessionServices::sendFileTransfer(const ByteVector& message) {
-    if (!m_link.isOpen()) {
-        return false;
-    }
-    const ByteVector sealed = m_link.seal(controlMessage(ControlTag::FileTransfer, message));
-    return !sealed.empty() && m_link.send(ChannelType::Control, sealed);
+    return m_link.send(ChannelType::Control, controlMessage(ControlTag::FileTransfer, message)) ==
+           SendResult::Sent;
 }
 
 bool SessionServices::sendChat(const ByteVector& message) {
-    if (m_link.state() != SessionState::Connected) {
+    const ByteVector tagged = controlMessage(ControlTag::Chat, message);
+    switch (m_link.send(ChannelType::Control, tagged)) {
+    case SendResult::Sent:
+        spdlog::debug("Chat message sent ({} bytes encrypted)",
+                      tagged.size() + AesGcmCipher::kOverhead);
+        return true;
+    case SendResult::NotConnected:
         // A session without a cipher has no services either.
         spdlog::warn("Chat send blocked: state={}, cipher={}, transport={}",
                      sessionStateName(m_link.state()), true, m_link.hasTransport());
-        return false;
-    }
-    const ByteVector sealed = m_link.seal(controlMessage(ControlTag::Chat, message));
-    if (sealed.empty()) {
-        spdlog::warn("Chat: encryption failed");
-        return false;
-    }
-    if (!m_link.hasTransport()) {
+        break;
+    case SendResult::NoTransport:
         spdlog::warn("Chat: no active transport");
-        return false;
-    }
-    if (!m_link.send(ChannelType::Control, sealed)) {
+        break;
+    case SendResult::SealingFailed:
+        spdlog::warn("Chat: encryption failed");
+        break;
+    case SendResult::Refused:
         spdlog::warn("Chat: message refused by the transport");
-        return false;
+        break;
     }
-    spdlog::debug("Chat message sent ({} bytes encrypted)", sealed.size());
-    return true;
+    return false;
 }
 
 } // namespace corvane

@@ -64,8 +64,8 @@ TEST(LossRecoveryTest, APictureThatLostPacketsIsMadeWholeThoughTheScreenStandsSt
         LossyTransport toViewer, toTarget;
         const auto machine = std::make_shared<Machine>();
         machine->framesToShow = kFrames;
-        SessionDataPlane target(SessionRole::Target, ByteVector(32, 1), ByteVector(12, 2));
-        SessionDataPlane viewer(SessionRole::Master, ByteVector(32, 1), ByteVector(12, 2));
+        SessionDataPlane target(SessionRole::Target, testCipher());
+        SessionDataPlane viewer(SessionRole::Master, testCipher());
         toViewer.peer = &viewer;
         toTarget.peer = &target;
         toViewer.firstLost = first;

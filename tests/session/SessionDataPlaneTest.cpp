@@ -1,6 +1,7 @@
 #include "session/SessionDataPlane.h"
 #include "TestPlatform.h"
 #include "common/ByteViews.h"
+#include "crypto/AesGcmCipher.h"
 #include "services/ChatService.h"
 #include "services/FileTransferService.h"
 #include "support/Bytes.h"
@@ -39,7 +40,8 @@ public:
 class DataPlaneTest : public ::testing::TestWithParam<SessionRole> {
 protected:
     void startAs(SessionRole role, const StreamingSettings& settings = {}) {
-        m_plane = std::make_unique<SessionDataPlane>(role, kKey, kIv);
+        m_plane =
+            std::make_unique<SessionDataPlane>(role, std::make_unique<AesGcmCipher>(kKey, kIv));
         QObject::connect(m_plane.get(), &SessionDataPlane::disconnectRequested,
                          [this] { ++m_disconnects; });
         QObject::connect(m_plane.get(), &SessionDataPlane::inputEventReceived,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/MonotonicClock.h"
+#include "crypto/AesGcmCipher.h"
 #include "session/SessionPlatform.h"
 #include "support/DesktopScene.h"
 
@@ -11,6 +12,11 @@
 #include <vector>
 
 namespace corvane::test {
+
+/// A cipher that both ends of a test make alike.
+inline std::unique_ptr<AesGcmCipher> testCipher() {
+    return std::make_unique<AesGcmCipher>(ByteVector(32, 1), ByteVector(12, 2));
+}
 
 /// What a synthetic machine shows and what is done to it. Shared between the test and the session's
 /// objects, which may outlive one another.

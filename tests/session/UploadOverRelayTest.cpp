@@ -91,7 +91,7 @@ struct Peer {
     FileTransferService& files() { return *plane.fileTransferService(); }
 
     RelayTransport transport;
-    SessionDataPlane plane{SessionRole::Master, ByteVector(32, 1), ByteVector(12, 2)};
+    SessionDataPlane plane{SessionRole::Master, testCipher()};
 };
 
 /// The user's side on this thread, which an upload blocks; the relay and the peer on theirs.
