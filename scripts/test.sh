@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds and passes all tests. Usage: scripts/test.sh [dev|asan|tsan] [further arguments for ctest]
 #
-# With the Windows libraries in place (see the README) that includes the Windows program: its own
-# tests under Wine, and sessions between it and the native one. The sanitizers stay native.
+# With the Windows libraries in place (see docs/building.md) that includes the Windows program: its
+# own tests under Wine, and sessions between it and the native one. The sanitizers stay native.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
