@@ -8,9 +8,10 @@ function(corvane_add_windows_resources target)
     set(resource_script "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
     configure_file("${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.rc.in" "${resource_script}" @ONLY)
     set(icon "${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.ico")
-    set(manifest "${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.manifest")
+    set(manifest "${CMAKE_CURRENT_BINARY_DIR}/CorvaneClient.manifest")
+    configure_file("${CORVANE_WINDOWS_RESOURCES}/CorvaneClient.manifest.in" "${manifest}" @ONLY)
     set_source_files_properties("${resource_script}" PROPERTIES
-        INCLUDE_DIRECTORIES "${CORVANE_WINDOWS_RESOURCES}"
+        INCLUDE_DIRECTORIES "${CORVANE_WINDOWS_RESOURCES};${CMAKE_CURRENT_BINARY_DIR}"
         OBJECT_DEPENDS "${icon};${manifest}"
     )
     target_sources(${target} PRIVATE "${resource_script}")

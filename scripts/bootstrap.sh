@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demonstration need and that are
-# missing, and nothing else. The cross-compiler and Wine come in only beside the Windows libraries.
+# missing, and nothing else. The cross-compiler and Wine come in only beside the Windows libraries,
+# clang-tidy and shellcheck only with the argument "checks".
 set -euo pipefail
 
 packages=(
@@ -21,6 +22,9 @@ packages=(
 if [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
     # building the Windows program and running it
     packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+fi
+if [ "${1:-}" = checks ]; then
+    packages+=(clang-tidy shellcheck)
 fi
 
 missing=()

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Builds and passes all tests. Usage: scripts/test.sh [dev|asan|tsan] [further arguments for ctest]
+# After a preset, "threads" builds and runs only the tests of what runs on more than one thread.
 #
 # With the Windows libraries in place (see docs/building.md) that includes the Windows program: its
 # own tests under Wine, and sessions between it and the native one. The sanitizers stay native.
@@ -9,14 +10,21 @@ cd "$(dirname "$0")/.."
 preset=${1:-dev}
 [ $# -eq 0 ] || shift
 
+targets=(all)
+if [ "${1:-}" = threads ]; then
+    shift
+    set -- --label-regex '^threads$' "$@"
+    targets=(threaded-tests)
+fi
+
 windows=no
-if [ "$preset" = dev ] && [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
+if [ "$preset" = dev ] && [ "${targets[0]}" = all ] && [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
     windows=yes
 fi
 
 scripts/bootstrap.sh
 cmake --preset "$preset"
-cmake --build --preset "$preset"
+cmake --build --preset "$preset" --target "${targets[@]}"
 if [ $windows = yes ]; then
     cmake --preset windows-test
     cmake --build --preset windows-test

@@ -33,12 +33,12 @@ settings='Windows Registry Editor Version 5.00
 # Wine's own services may outlive their server: each waits for the end of a pipe that another holds.
 kill_leftovers() {
     local environment process
-    for environment in $(grep -lzxF "WINEPREFIX=$1" /proc/[0-9]*/environ 2>/dev/null); do
+    while IFS= read -r environment; do
         process=${environment%/environ}
         case $(readlink "$process/exe") in
         */wine*) kill -KILL "${process#/proc/}" 2>/dev/null || true ;;
         esac
-    done
+    done < <(grep -lzxF "WINEPREFIX=$1" /proc/[0-9]*/environ 2>/dev/null)
 }
 
 stop_server() {

@@ -5,6 +5,7 @@
 #include "crypto/AesGcmCipher.h"
 #include "session/SessionDataPlane.h"
 
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -45,7 +46,7 @@ public:
 class RecordingSession {
 public:
     explicit RecordingSession(SessionRole role = SessionRole::Master)
-        : plane(role, sessionKey(), sessionBaseIv()) {
+        : plane(role, std::make_unique<AesGcmCipher>(sessionKey(), sessionBaseIv())) {
         plane.setTransport(&transport);
         plane.setState(SessionState::Connected);
     }
