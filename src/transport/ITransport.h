@@ -17,10 +17,15 @@ enum class ChannelType : uint8_t {
     Video = 1,   ///< encoded frames
 };
 
-/// Carries sealed messages between the two peers of a session, whole and per channel.
+/// Carries sealed messages between the two peers of a session. Message boundaries are preserved,
+/// and each channel is independent of the other.
 ///
-/// Lives on the main thread; every call and every signal happens there. The owner may destroy a
-/// transport at any time except from inside one of its signals.
+/// Lives on the main thread: all calls and signals happen there. The owner may destroy a transport
+/// at any time except from inside one of its signals.
+///
+/// `connect`, `disconnect` and `disconnected` hide QObject's functions of the same names on
+/// purpose: they are what every transport calls these operations. Write `QObject::connect` for the
+/// others.
 class ITransport : public QObject {
     Q_OBJECT
 
@@ -28,28 +33,28 @@ public:
     using QObject::QObject;
     ~ITransport() override = default;
 
-    /// Starts connecting; true when the attempt is under way. The outcome arrives as `connected` or
+    /// Starts connecting. True if the attempt is under way; its outcome arrives as `connected` or
     /// `transportError`.
     virtual bool connect(const std::string& host, uint16_t port) = 0;
 
-    /// Ends the connection for good. Emits nothing that the owner must wait for.
+    /// Closes the connection for good. The owner need not wait for any signal.
     virtual void disconnect() = 0;
 
     virtual bool isConnected() const = 0;
 
-    /// Takes one message of `size` bytes over; the bytes are copied before the call returns. False
-    /// when it was not accepted, in which case it is lost: nothing is queued.
+    /// Queues one message of `size` bytes, copying it before the call returns. False if the message
+    /// was refused; it is then lost.
     virtual bool send(ChannelType channel, const uint8_t* data, size_t size) = 0;
 
-    /// Bytes taken over that have not left this process yet.
+    /// Bytes accepted by `send` that have not left this process yet.
     virtual qint64 bytesQueued() const = 0;
 
-    /// Blocks, without an event loop, until at most so many bytes are queued. Messages received
-    /// meanwhile are delivered as ever, so that two peers which both wait do not wait for each
-    /// other. False when the connection is gone or nothing moved for 30 seconds.
+    /// Blocks, without running an event loop, until at most `atMost` bytes are queued. Messages
+    /// received in the meantime are still delivered, so two peers that both wait cannot deadlock.
+    /// False if the connection was lost or the queue stalled for 30 seconds.
     virtual bool waitUntilQueued(qint64 atMost) = 0;
 
-    /// The latest measure of the way there and back; nothing where there is none.
+    /// The latest round-trip time; no value if the transport cannot measure it.
     virtual std::optional<double> roundTripMilliseconds() const = 0;
 
 Q_SIGNALS:

@@ -15,7 +15,7 @@ namespace corvane {
 namespace {
 
 constexpr uint16_t kTurnPort = 5349;
-/// What a message that waits costs besides its bytes, of which it may have none.
+/// Charged for each queued message besides its bytes, so that empty messages cannot pile up.
 constexpr size_t kMessageOverhead = 256;
 constexpr auto kTurnUser = "corvane";
 
@@ -37,10 +37,10 @@ QByteArray toByteArray(const rtc::binary& bytes) {
                       static_cast<qsizetype>(bytes.size()));
 }
 
-/// Has every message received as a whole. The library starts to hand one over in parts when it is
-/// larger than half of the buffer or comes in more chunks than may be queued; and when the rest of
-/// an unreliable one is then lost, it takes the parts for the start of the next message, on
-/// whichever channel that is. Holds for the connections made afterwards.
+/// Makes the library deliver only whole messages. It delivers a message in parts if the message is
+/// larger than half of the receive buffer or arrives in more chunks than may be queued. If the rest
+/// of an unreliable message is then lost, the library takes the parts for the beginning of the next
+/// message, on whichever channel that arrives. Applies to connections created afterwards.
 void receiveWholeMessages() {
     constexpr size_t kSmallestChunk = 512;
     rtc::SctpSettings settings;
@@ -88,7 +88,7 @@ void P2PTransport::disconnect() {
         m_controlOpen = false;
         m_videoOpen = false;
     }
-    // Outside the lock: closing waits for callbacks that are under way.
+    // Not under the lock: closing waits for running callbacks, which may need it.
     for (const Channel& channel : {control, video}) {
         if (channel) {
             channel->close();
@@ -266,7 +266,7 @@ void P2PTransport::acceptDataChannels(const Listener& listener) {
         const std::string label = channel->label();
         spdlog::info("P2PTransport: incoming data channel: {}", label);
         if (const auto type = typeOf(label)) {
-            // Now, on this thread: its first messages are right behind it.
+            // At once and on this thread, because the first messages follow immediately.
             listener.watch(*type, *channel);
             listener.events->post(
                 [self = listener.transport, type = *type, channel] { self->adopt(type, channel); });

@@ -13,7 +13,7 @@ PeerEventQueue::PeerEventQueue(QObject* owner, size_t maxPendingBytes)
 void PeerEventQueue::post(Event event, size_t bytes) {
     std::unique_lock lock(m_mutex);
     m_roomAvailable.wait(lock, [this, bytes] {
-        // One that is larger than the maximum passes when it is alone.
+        // An event larger than the maximum is accepted if the queue is empty.
         return m_owner == nullptr || bytes == 0 || m_pendingBytes == 0 ||
                m_pendingBytes + bytes <= m_maxPendingBytes;
     });
@@ -41,7 +41,7 @@ void PeerEventQueue::wait(Clock::time_point deadline) {
 void PeerEventQueue::deliver() {
     std::unique_lock lock(m_mutex);
     m_scheduled = false;
-    // What arrives from now on waits for the next turn: a busy peer must not stall the event loop.
+    // Later arrivals wait for the next turn, so that a busy peer cannot stall the event loop.
     for (size_t left = m_pending.size(); left > 0 && !m_pending.empty(); --left) {
         const Entry entry = std::move(m_pending.front());
         m_pending.pop_front();

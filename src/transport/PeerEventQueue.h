@@ -12,33 +12,33 @@ class QObject;
 
 namespace corvane {
 
-/// Brings what happens on the threads of a library to the thread of one object: in order, in
-/// bounded memory, and never after the object has closed the queue.
+/// Passes events from a library's threads to the thread of one object, in order, in bounded memory,
+/// and never after the object has closed the queue.
 ///
-/// Shared by the object and the library's callbacks, so that a late callback finds a closed queue
-/// instead of a dead object.
+/// The object and the library's callbacks share ownership, so a late callback finds a closed queue
+/// rather than a destroyed object.
 class PeerEventQueue : public std::enable_shared_from_this<PeerEventQueue> {
 public:
     using Event = std::function<void()>;
     using Clock = std::chrono::steady_clock;
 
-    /// `owner`: on whose thread events run. `maxPendingBytes`: how much may wait for it.
+    /// Events run on the thread of `owner`. At most `maxPendingBytes` may be pending.
     PeerEventQueue(QObject* owner, size_t maxPendingBytes);
 
-    /// Any thread. Has `event`, which holds `bytes`, run on the owner's thread. Blocks while as
-    /// much as may wait is waiting; the library then stops reading, and the sender feels it.
+    /// Any thread. Runs `event`, which holds `bytes` bytes, on the owner's thread. Blocks while the
+    /// queue is full: the library then stops reading, which slows the sender down.
     void post(Event event, size_t bytes = 0);
 
-    /// Any thread. Lets a `wait` return.
+    /// Any thread. Makes a running `wait` return.
     void wake();
 
-    /// Owner's thread: until there is an event, `wake` was called, or the deadline has passed.
+    /// Owner's thread. Blocks until an event is pending, `wake` is called or the deadline passes.
     void wait(Clock::time_point deadline);
 
-    /// Owner's thread: runs what is pending by now. The event loop does it unasked.
+    /// Owner's thread. Runs the events pending now. The event loop also does so by itself.
     void deliver();
 
-    /// Owner's thread: drops what is pending and refuses the rest. Runs nothing afterwards.
+    /// Owner's thread. Drops pending events and refuses further ones; none runs afterwards.
     void close();
 
 private:

@@ -11,31 +11,31 @@
 
 namespace corvane {
 
-/// Cuts a relay's byte stream into frames, whatever pieces it arrives in.
+/// Splits a relay's byte stream into frames, however it is fragmented.
 ///
-/// Every byte is copied once, straight into the payload that it belongs to, so the cost is linear
-/// in the bytes received and the memory held is at most one payload. No I/O, no signals.
+/// Every byte is copied once, straight into its payload, so the cost is linear in the bytes
+/// received and at most one payload is held in memory. No I/O, no signals.
 class RelayFrameParser {
 public:
     enum class Result {
         NeedMoreData,    ///< the input is used up
         FrameReady,      ///< `channel` and `takePayload` hold the next frame
-        InvalidChannel,  ///< `channelByte` names the offender; the rest of the input is dropped
-        PayloadTooLarge, ///< `payloadSize` names the offender; the rest of the input is dropped
+        InvalidChannel,  ///< see `channelByte`; the rest of the input is dropped
+        PayloadTooLarge, ///< see `payloadSize`; the rest of the input is dropped
     };
 
-    /// Takes bytes off the front of `input` until one frame is complete or the input is used up.
-    /// After a refused header the parser is ready for the start of a new frame.
+    /// Consumes bytes from the front of `input` until a frame is complete or the input is used up.
+    /// After refusing a header the parser expects the start of a new frame.
     Result consume(ByteSpan& input);
 
-    /// Of the header read last.
+    /// From the header read last.
     uint8_t channelByte() const { return m_header[0]; }
     uint32_t payloadSize() const;
 
     ChannelType channel() const { return static_cast<ChannelType>(channelByte()); }
     QByteArray takePayload() { return std::move(m_payload); }
 
-    /// Forgets a frame begun.
+    /// Discards an incomplete frame.
     void reset();
 
 private:

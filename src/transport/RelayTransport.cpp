@@ -12,12 +12,12 @@ namespace corvane {
 
 namespace {
 
-// What the socket holds back for us: a handler that stalls stalls the sender, not our memory.
+// Bounds what the socket buffers: a slow handler slows the sender down instead of filling memory.
 constexpr qint64 kSocketReadBuffer = 1024 * 1024;
 constexpr qint64 kReadPiece = 64 * 1024;
 constexpr qsizetype kOwnBlockSize = 16 * 1024;
 
-// Far more than a link that moves at all ever holds: beyond it the relay has stopped reading.
+// Far more than is ever queued on a working connection: beyond it the relay has stopped reading.
 constexpr qint64 kMaxUnsent = 64 * 1024 * 1024;
 
 } // namespace
@@ -71,7 +71,7 @@ void RelayTransport::disconnect() {
         return;
     }
     spdlog::info("RelayTransport: disconnecting from {}:{}", m_host, m_port);
-    // What was sent just before, a key's release say, should still arrive.
+    // What was sent last, such as the release of a key, should still arrive.
     m_socket.flush();
     m_socket.disconnectFromHost();
     if (m_socket.state() != QAbstractSocket::UnconnectedState) {
@@ -98,8 +98,8 @@ bool RelayTransport::send(ChannelType channel, const uint8_t* data, size_t size)
         return false;
     }
     const QByteArray frame = relayFrame(channel, data, size);
-    // The socket queues a byte array as a block with a system call of its own; small frames are
-    // cheaper copied together.
+    // The socket writes each queued byte array with a system call of its own, so copying small
+    // frames into one buffer is cheaper.
     const qint64 written = frame.size() < kOwnBlockSize
                                ? m_socket.write(frame.constData(), frame.size())
                                : m_socket.write(frame);
@@ -120,7 +120,7 @@ bool RelayTransport::waitUntilQueued(qint64 atMost) {
         if (!m_socket.waitForBytesWritten(static_cast<int>(m_stallTimeout.count()))) {
             break;
         }
-        // The socket reports nothing from inside a report of its own, where this call may stand.
+        // If this is called from one of the socket's signals, the socket emits no further ones.
         if (m_socket.bytesAvailable() > 0) {
             onSocketReadyRead();
         }
@@ -151,7 +151,7 @@ void RelayTransport::onSocketDisconnected() {
 }
 
 void RelayTransport::onSocketReadyRead() {
-    // Called from inside a handler, this goes on where the caller's reading stopped.
+    // A nested call, from inside a handler, continues where the outer one stopped reading.
     while (deliverFrames() && readPiece()) {
     }
 }
@@ -163,7 +163,7 @@ void RelayTransport::onSocketError(QAbstractSocket::SocketError error) {
     if (error != QAbstractSocket::RemoteHostClosedError) {
         Q_EMIT transportError(text);
     }
-    // A link that was up still reports `disconnected`; an attempt that failed reports only this.
+    // An established connection also reports `disconnected`; a failed attempt reports only this.
     scheduleReconnect();
 }
 
@@ -200,7 +200,7 @@ bool RelayTransport::readPiece() {
     return count > 0;
 }
 
-/// False when reading must stop: the stream was refused or a handler ended the connection.
+/// False if reading must stop because the stream was refused or a handler closed the connection.
 bool RelayTransport::deliverFrames() {
     const uint64_t epoch = m_receiveEpoch;
     while (!m_unparsed.empty()) {
@@ -228,7 +228,7 @@ bool RelayTransport::deliverFrames() {
     return true;
 }
 
-/// The link stays up on purpose: the stream starts afresh with the next bytes received.
+/// Keeps the connection open on purpose: parsing starts afresh with the next bytes received.
 void RelayTransport::refuseStream(const QString& reason) {
     m_socket.skip(m_socket.bytesAvailable());
     clearReceived();
@@ -241,7 +241,7 @@ void RelayTransport::clearReceived() {
     ++m_receiveEpoch;
 }
 
-/// Does nothing while the socket is still up or on its way.
+/// Does nothing while the socket is connected or connecting.
 void RelayTransport::scheduleReconnect() {
     if (m_stopped || m_reconnectAttempts >= kMaxReconnectAttempts || m_reconnectTimer.isActive() ||
         m_socket.state() != QAbstractSocket::UnconnectedState) {

@@ -16,9 +16,9 @@ namespace corvane {
 /// Carries the session through a relay node that pairs the two peers by session ID and forwards
 /// their frames.
 ///
-/// Set the session ID, `connect`, wait for `connected`, `send`, `disconnect`. A link that fails or
-/// drops is tried again by itself, up to three times after each success; every new link joins the
-/// session again and emits `connected` again.
+/// Set the session ID, `connect`, wait for `connected`, `send`, `disconnect`. A connection that
+/// fails or drops is retried automatically, up to three times after each success. Every new
+/// connection joins the session again and emits `connected` again.
 class RelayTransport : public ITransport {
     Q_OBJECT
 
@@ -27,8 +27,8 @@ public:
     static constexpr std::chrono::milliseconds kReconnectDelay{1000};
     static constexpr std::chrono::milliseconds kStallTimeout{30'000};
 
-    /// `reconnectDelay`: wait before the first further attempt; it doubles with each one.
-    /// `stallTimeout`: how long a wait goes on while nothing is sent.
+    /// `reconnectDelay`: delay before the first retry; doubled for each further one.
+    /// `stallTimeout`: how long `waitUntilQueued` waits while nothing is sent.
     explicit RelayTransport(QObject* parent = nullptr,
                             std::chrono::milliseconds reconnectDelay = kReconnectDelay,
                             std::chrono::milliseconds stallTimeout = kStallTimeout);
@@ -43,7 +43,7 @@ public:
     qint64 bytesQueued() const override;
     bool waitUntilQueued(qint64 atMost) override;
 
-    /// To the relay node and back, as the operating system measures it.
+    /// Between this machine and the relay node, as measured by the operating system.
     std::optional<double> roundTripMilliseconds() const override;
 
 private Q_SLOTS:

@@ -9,7 +9,7 @@ namespace corvane {
 
 namespace {
 
-/// No type rules a direct connection out for sure; a number that stands for none does.
+/// No known type rules a direct connection out; only a number outside the enumeration does.
 bool allowsPeerConnection(NatType natType) {
     return natType >= NatType::Unknown && natType <= NatType::Symmetric;
 }
@@ -20,7 +20,7 @@ TransportManager::TransportManager(QObject* parent, PeerTransportFactory peerFac
                                    std::chrono::milliseconds peerTimeout)
     : QObject(parent), m_peerFactory(std::move(peerFactory)), m_peerTimeout(peerTimeout) {
     m_peerTimer.setSingleShot(true);
-    m_peerTimer.setTimerType(Qt::PreciseTimer); // both peers give up at the same time
+    m_peerTimer.setTimerType(Qt::PreciseTimer); // so that both peers time out together
     connect(&m_peerTimer, &QTimer::timeout, this, &TransportManager::onP2PTimeout);
 }
 
@@ -90,7 +90,7 @@ void TransportManager::onP2PConnected() {
 }
 
 void TransportManager::onP2PError(const QString& error) {
-    // Not cut short: the attempt may still succeed, and the timeout is the one way to the relay.
+    // Keep waiting: the attempt may still succeed, and only the timeout leads to the relay.
     spdlog::warn("TransportManager: P2P error: {}", error.toStdString());
 }
 
@@ -152,18 +152,18 @@ void TransportManager::tryRelay() {
     }
 }
 
-/// Ends the transport's link or attempt now, since its object lives on for a moment.
+/// Disconnects the transport at once, because its object is deleted later.
 void TransportManager::detach(ITransport* transport) {
     if (transport == nullptr) {
         return;
     }
-    // Whoever listens is done with it: its end is no news.
+    // Nobody needs to hear of this any more.
     QObject::disconnect(transport, nullptr, nullptr, nullptr);
     transport->disconnect();
 }
 
 void TransportManager::DeferredDelete::operator()(ITransport* transport) const {
-    // Where the event loop has ended for good, the application object deletes it instead.
+    // Without a running event loop the application object deletes it at the end.
     transport->setParent(QCoreApplication::instance());
     transport->deleteLater();
 }

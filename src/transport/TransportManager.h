@@ -19,8 +19,8 @@ class RelayTransport;
 /// Makes a new peer transport, or answers null where there is none.
 using PeerTransportFactory = std::function<std::unique_ptr<IPeerTransport>()>;
 
-/// Decides how the two peers of one session reach each other: directly when both NATs allow it and
-/// it works in time, else through a relay node.
+/// Chooses how the two peers of one session connect: directly if both NATs allow it and it succeeds
+/// within the timeout, otherwise through a relay node.
 ///
 /// Main thread only. Owns the transports; `cleanup` and the destructor may be called from inside a
 /// chain that one of their signals started.
@@ -34,15 +34,15 @@ public:
                      std::chrono::milliseconds peerTimeout = kPeerTimeout);
     ~TransportManager() override;
 
-    /// Gives up whatever was there and starts over. The result arrives as `connectionEstablished`
-    /// or `connectionFailed`. `offerer` is true on the side that makes the offer.
+    /// Abandons any earlier attempt or connection and starts over. The result arrives as
+    /// `connectionEstablished` or `connectionFailed`. `offerer` is true on the offering side.
     void establishConnection(const QString& sessionId, NatType localNatType, NatType remoteNatType,
                              const std::vector<RelayCandidate>& relayCandidates, bool offerer);
 
     /// The established transport, or null. Valid until `cleanup`.
     ITransport* activeTransport() const { return m_activeTransport; }
 
-    /// Both go to the peer transport, or nowhere when there is none.
+    /// Forwarded to the peer transport; ignored if there is none.
     void setRemoteDescription(const QString& sdp, const QString& type);
     void addRemoteCandidate(const QString& candidate, const QString& mid);
 
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void onRelayError(const QString& error);
 
 private:
-    /// A transport may be given up inside one of its own signals, so it dies later.
+    /// A transport may be abandoned inside one of its own signals, so it is deleted later.
     struct DeferredDelete {
         void operator()(ITransport* transport) const;
     };

@@ -11,7 +11,8 @@ namespace corvane {
 
 namespace {
 
-// The address classes of old allow IPv4 texts with fewer than four numbers: nobody means those.
+// Qt also accepts the historic IPv4 notations with fewer than four numbers, which are mistakes
+// here.
 bool isAddress(const QString& text) {
     const QHostAddress address(text);
     return address.protocol() == QAbstractSocket::IPv4Protocol

@@ -19,14 +19,14 @@ namespace corvane {
 class ApiClient;
 
 struct HeartbeatOptions {
-    /// Answers with the caller's address as plain text.
+    /// A service that answers with the caller's address as plain text.
     QUrl publicAddressUrl = QUrl(QString::fromLatin1(deployment::kPublicAddressUrl));
     NatProbeOptions natProbe = {};
     /// All addresses of this host, in the system's order.
     std::function<QList<QHostAddress>()> hostAddresses = QNetworkInterface::allAddresses;
 };
 
-/// Tells the server periodically that this device is online and how it can be reached. Main thread
+/// Periodically tells the server that this device is online and how it can be reached. Main thread
 /// only.
 class HeartbeatService : public QObject {
     Q_OBJECT
@@ -36,11 +36,11 @@ public:
     explicit HeartbeatService(ApiClient* api, QObject* parent = nullptr,
                               HeartbeatOptions options = HeartbeatOptions());
 
-    /// Sends a heartbeat now and every `intervalMs` milliseconds from now on, and looks up anew
-    /// what the heartbeats carry. There is no stop.
+    /// Sends a heartbeat now and then every `intervalMs` milliseconds, and refreshes the addresses
+    /// that heartbeats carry. Cannot be stopped.
     void start(int intervalMs);
 
-    /// Empty until the service has told it.
+    /// Empty until the public-address service has answered.
     QString publicIp() const { return m_publicIp; }
 
     /// No value while the first probe runs; then the probe's answer or `Unknown`, which stays.

@@ -16,20 +16,20 @@
 namespace corvane {
 
 struct NatProbeOptions {
-    /// Numeric: names are not looked up, and with one the probe only ever ends by its time-out.
+    /// Must be numeric: names are not resolved, and the probe would only time out.
     QString serverAddress = QString::fromLatin1(deployment::kStunAddress);
     quint16 serverPort = deployment::kStunPort;
     std::chrono::milliseconds timeout = std::chrono::seconds(3);
 };
 
-/// Asks a STUN server from two sockets how this host is seen from outside. Main thread only.
+/// Asks a STUN server from two sockets how this host appears from outside. Main thread only.
 class NatProbe : public QObject {
     Q_OBJECT
 
 public:
     explicit NatProbe(NatProbeOptions options, QObject* parent = nullptr);
 
-    /// Sends both requests; a probe under way is given up for the new one.
+    /// Sends both requests. Replaces a probe that is still running.
     void start();
 
     /// `localAddress` is this host's own IPv4 address as text, which may be empty.
@@ -40,7 +40,7 @@ Q_SIGNALS:
     /// The first two responses have arrived; later ones are ignored.
     void mapped(const corvane::MappedAddress& first, const corvane::MappedAddress& second);
 
-    /// The time is up, whatever has arrived, and both sockets are closed.
+    /// The timeout has passed, whatever arrived, and both sockets are closed.
     void finished();
 
 private:

@@ -13,7 +13,7 @@ namespace corvane {
 
 using StunTransactionId = std::array<uint8_t, 12>;
 
-/// Where a STUN server saw a request come from, always IPv4.
+/// The address from which a STUN server received a request; always IPv4.
 struct MappedAddress {
     QHostAddress address;
     uint16_t port = 0;
@@ -24,8 +24,8 @@ struct MappedAddress {
 /// A Binding Request without attributes.
 QByteArray stunBindingRequest(const StunTransactionId& transactionId);
 
-/// The first IPv4 mapping in a Binding Success Response. No value for any other datagram, however
-/// malformed. Cookie and transaction ID are not looked at.
+/// The first IPv4 mapping in a Binding Success Response. No value for any other datagram, including
+/// malformed ones. Cookie and transaction ID are ignored.
 std::optional<MappedAddress> parseStunBindingResponse(ByteSpan datagram);
 
 } // namespace corvane

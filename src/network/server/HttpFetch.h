@@ -14,9 +14,9 @@ class QNetworkReply;
 
 namespace corvane {
 
-/// One GET over HTTP or HTTPS that stays within bounds: of size, of silence (the server's longest
-/// pause), and of redirects, of which it follows five, to HTTP and HTTPS only and never back from
-/// HTTPS to HTTP. Deletes itself when it has reported its end. Main thread only.
+/// One GET over HTTP or HTTPS with a maximum size and an inactivity timeout. Follows up to five
+/// redirects, only to HTTP and HTTPS, and never from HTTPS to HTTP. Deletes itself after
+/// `finished`. Main thread only.
 class HttpFetch : public QObject {
     Q_OBJECT
 
@@ -25,24 +25,24 @@ public:
     HttpFetch(QNetworkAccessManager& network, const QUrl& url, qint64 maxBytes, QObject* parent,
               std::chrono::milliseconds inactivityTimeout = kMaxServerSilence);
 
-    /// What has arrived of the body since the last call; nothing of an error page, and nothing more
-    /// after a failure.
+    /// The part of the body received since the last call. Empty for error pages and after a
+    /// failure.
     QByteArray take();
 
-    /// Whether the end came because there was more than `maxBytes`.
+    /// Whether the fetch failed because the body exceeds `maxBytes`.
     bool isTooLarge() const { return m_tooLarge; }
 
-    /// Ends the fetch now, with `finished(error)`. `error` is not empty.
+    /// Aborts the fetch, which then emits `finished(error)`. `error` must not be empty.
     void giveUp(const QString& error);
 
 Q_SIGNALS:
-    /// `totalBytes` is -1 while the server has not told it.
+    /// `totalBytes` is -1 while unknown.
     void progress(qint64 receivedBytes, qint64 totalBytes);
 
-    /// There is something to take.
+    /// `take` has something to return.
     void arrived();
 
-    /// The end. `error` is empty when the whole body has arrived.
+    /// Emitted once. `error` is empty if the whole body has arrived.
     void finished(QString error);
 
 private:

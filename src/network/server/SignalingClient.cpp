@@ -33,7 +33,7 @@ SignalingClient::SignalingClient(QObject* parent, std::chrono::milliseconds hand
     connect(&m_handshakeTimer, &QTimer::timeout, this, &SignalingClient::onHandshakeTimeout);
 }
 
-// The socket reports its own closing, which must not reach an object half destroyed.
+// Closing the socket emits a signal, which must not reach a half-destroyed object.
 SignalingClient::~SignalingClient() {
     if (m_socket) {
         m_socket->disconnect(this);
@@ -57,8 +57,8 @@ void SignalingClient::connectToServer(const QUrl& serverUrl, const QString& clie
     m_serverUrl = serverUrl;
     m_clientId = clientId;
     m_token = token;
-    // `attemptReconnect` comes through here too, so that its count and its back-off start over each
-    // time: on purpose, a server that is away is tried every second for as long as it takes.
+    // `attemptReconnect` also ends up here, so the back-off starts over with every attempt. That is
+    // on purpose: an unreachable server is tried every second for as long as it takes.
     m_reconnectAttempts = 0;
     m_reconnectBackoff.reset();
     m_reconnectTimer.stop();

@@ -23,8 +23,8 @@ class SignalingClient : public QObject {
     Q_OBJECT
 
 public:
-    /// `handshakeTimeout`: how long a connection attempt may take before it is given up and made
-    /// again.
+    /// `handshakeTimeout`: how long a connection attempt may take before it is abandoned and
+    /// retried.
     explicit SignalingClient(QObject* parent = nullptr,
                              std::chrono::milliseconds handshakeTimeout = kMaxServerSilence);
     ~SignalingClient() override;
@@ -33,7 +33,7 @@ public:
     /// is the server's HTTP base URL; `token` the bearer token of `clientId`.
     void connectToServer(const QUrl& serverUrl, const QString& clientId, const QString& token);
 
-    /// Closes the connection and stays closed until the next `connectToServer`.
+    /// Closes the connection and does not reconnect before the next `connectToServer`.
     void disconnectFromServer();
 
     /// Sends one message; dropped with a warning while not connected.
@@ -47,7 +47,7 @@ Q_SIGNALS:
     void connected();
     void disconnected();
 
-    /// Every message that is JSON, before the signal of its type.
+    /// Emitted for every JSON message, before the signal for its type.
     void messageReceived(nlohmann::json message);
     void sessionHandshakeRequest(QString sessionId, QString masterClientId, QString purpose);
     void sessionAutoAccept(QString sessionId, QString masterClientId, QString masterEcdhPublicKey);
@@ -71,7 +71,7 @@ private:
     void rejectAuthentication();
     void onHandshakeTimeout();
 
-    /// From the first connection on: Qt loads the system's certificates for it, which takes time.
+    /// Created for the first connection, because loading the system's certificates takes time.
     std::unique_ptr<QWebSocket> m_socket;
     QTimer m_reconnectTimer;
     QTimer m_handshakeTimer;
