@@ -10,7 +10,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using test::eventually;
 
-class SessionWindowTest : public test::WindowFixture {
+class WindowFollowsSessionTest : public test::WindowFixture {
 protected:
     void SetUp() override { start(); }
 
@@ -32,7 +32,7 @@ protected:
     }
 };
 
-TEST_F(SessionWindowTest, FollowsAViewersSession) {
+TEST_F(WindowFollowsSessionTest, FollowsAViewersSession) {
     QStringList history;
     QObject::connect(&m_session, &SessionManager::stateChanged, [&] { history << status(); });
     QStringList titles;
@@ -68,7 +68,7 @@ TEST_F(SessionWindowTest, FollowsAViewersSession) {
     EXPECT_TRUE(boxes().isEmpty());
 }
 
-TEST_F(SessionWindowTest, ReleasesWhatIsHeldWhenANewcomerEndsTheSession) {
+TEST_F(WindowFollowsSessionTest, ReleasesWhatIsHeldWhenANewcomerEndsTheSession) {
     const auto partner = viewNewDevice();
     ASSERT_NE(partner, nullptr);
     QTest::keyPress(widget<RemoteDesktopWidget>("remoteDesktop"), Qt::Key_Control);
@@ -78,7 +78,7 @@ TEST_F(SessionWindowTest, ReleasesWhatIsHeldWhenANewcomerEndsTheSession) {
     EXPECT_EQ(partner->machine->injected.back().type, InputEventType::KeyRelease);
 }
 
-TEST_F(SessionWindowTest, EndsTheSessionInsteadOfClosing) {
+TEST_F(WindowFollowsSessionTest, EndsTheSessionInsteadOfClosing) {
     // A server that no longer knows the session is nobody's concern.
     m_server.misbehaviour().setReply(u"/close"_s, {.status = 500});
     const auto partner = viewNewDevice();
@@ -94,7 +94,7 @@ TEST_F(SessionWindowTest, EndsTheSessionInsteadOfClosing) {
     EXPECT_FALSE(m_window.isVisible());
 }
 
-TEST_F(SessionWindowTest, AsksBeforeASessionWithoutPassword) {
+TEST_F(WindowFollowsSessionTest, AsksBeforeASessionWithoutPassword) {
     const QString odd = u"help <b>now</b> %1"_s;
     for (const auto answer : {QMessageBox::NoButton, QMessageBox::No, QMessageBox::Yes}) {
         const bool byKey = answer == QMessageBox::NoButton;
@@ -124,7 +124,7 @@ TEST_F(SessionWindowTest, AsksBeforeASessionWithoutPassword) {
     EXPECT_TRUE(closeReasons().isEmpty());
 }
 
-TEST_F(SessionWindowTest, KeepsAFloodOfRequestsToOneQuestionOnTheScreen) {
+TEST_F(WindowFollowsSessionTest, KeepsAFloodOfRequestsToOneQuestionOnTheScreen) {
     for (int i = 0; i < 200; ++i) {
         request(QString::number(i), QString(100, u'\n'));
     }

@@ -14,7 +14,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using test::eventually;
 
-class WindowInSessionTest : public test::WindowFixture {
+class DialogsInSessionTest : public test::WindowFixture {
 protected:
     void SetUp() override { start(); }
 
@@ -32,7 +32,7 @@ protected:
     }
 };
 
-TEST_F(WindowInSessionTest, ChatsAsViewerWithoutTakingTheScreen) {
+TEST_F(DialogsInSessionTest, ChatsAsViewerWithoutTakingTheScreen) {
     const auto partner = viewNewDevice();
     ASSERT_NE(partner, nullptr);
     QStringList received;
@@ -58,7 +58,7 @@ TEST_F(WindowInSessionTest, ChatsAsViewerWithoutTakingTheScreen) {
     EXPECT_TRUE(eventually([&] { return widget<QDialog>("chatDialog") == nullptr; }));
 }
 
-TEST_F(WindowInSessionTest, SharesTheScreenAndPutsTheChatBeforeIt) {
+TEST_F(DialogsInSessionTest, SharesTheScreenAndPutsTheChatBeforeIt) {
     const auto viewer = createDevice();
     ASSERT_TRUE(
         eventually([this] { return m_server.signalingMessages(m_api.clientId()).size() >= 2; }));
@@ -81,7 +81,7 @@ TEST_F(WindowInSessionTest, SharesTheScreenAndPutsTheChatBeforeIt) {
     EXPECT_TRUE(m_log.contains(" (password verified)"));
 }
 
-TEST_F(WindowInSessionTest, ShowsQualityFilesAndInformation) {
+TEST_F(DialogsInSessionTest, ShowsQualityFilesAndInformation) {
     const auto* const swatch = widget<QWidget>("qualityIndicator");
     EXPECT_EQ(swatch->toolTip(), u"Connection: Good"_s);
     const auto partner = viewNewDevice();

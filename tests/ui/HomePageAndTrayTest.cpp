@@ -1,7 +1,6 @@
 #include "WindowFixture.h"
 #include "common/PartnerId.h"
 #include "ui/SystemTrayIcon.h"
-#include "ui/WakeOnLan.h"
 
 #include <QInputDialog>
 #include <QListWidget>
@@ -15,7 +14,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using test::eventually;
 
-class HomeWindowTest : public test::WindowFixture {
+class HomePageAndTrayTest : public test::WindowFixture {
 protected:
     void SetUp() override { start(); }
 
@@ -32,7 +31,7 @@ protected:
     }
 };
 
-TEST_F(HomeWindowTest, KeepsFavoritesAtHand) {
+TEST_F(HomePageAndTrayTest, KeepsFavoritesAtHand) {
     const auto* const list = widget<QListWidget>("favoritesList");
     for (const QString& text : {u"12345678"_s, u"123 456 789"_s, u"987654321"_s}) {
         typePartner(text);
@@ -49,7 +48,7 @@ TEST_F(HomeWindowTest, KeepsFavoritesAtHand) {
     EXPECT_EQ(list->count(), 1);
 }
 
-TEST_F(HomeWindowTest, HasRoomForAllThatItShows) {
+TEST_F(HomePageAndTrayTest, HasRoomForAllThatItShows) {
     EXPECT_LE(m_window.centralWidget()->minimumSizeHint().width(), 420);
     typePartner(u"123456789"_s);
     click("favoriteButton");
@@ -61,7 +60,7 @@ TEST_F(HomeWindowTest, HasRoomForAllThatItShows) {
     EXPECT_TRUE(eventually([&] { return m_window.height() >= needed(); }));
 }
 
-TEST_F(HomeWindowTest, WakesAPartnerWhoseAddressItAsksForOnce) {
+TEST_F(HomePageAndTrayTest, WakesAPartnerWhoseAddressItAsksForOnce) {
     typePartner(u"123 456 789"_s);
     const QString sent = u"WoL|Wake-on-LAN packet sent to 01-02-03-0a-0B-0c"_s;
     const std::pair<QString, QString> cases[] = {{u"01:02:03"_s, u"WoL|Invalid MAC address."_s},
@@ -83,7 +82,7 @@ TEST_F(HomeWindowTest, WakesAPartnerWhoseAddressItAsksForOnce) {
     }
 }
 
-TEST_F(HomeWindowTest, HidesInTheTrayOnlyWhereThereIsOne) {
+TEST_F(HomePageAndTrayTest, HidesInTheTrayOnlyWhereThereIsOne) {
     int quits = 0;
     QObject::connect(&m_window, &MainWindow::quitRequested, [&] { ++quits; });
     auto* const tray = m_window.findChild<SystemTrayIcon*>();
@@ -107,7 +106,7 @@ TEST_F(HomeWindowTest, HidesInTheTrayOnlyWhereThereIsOne) {
     EXPECT_EQ(quits, 2);
 }
 
-TEST_F(HomeWindowTest, MirrorsTheSessionInTheTrayMenu) {
+TEST_F(HomePageAndTrayTest, MirrorsTheSessionInTheTrayMenu) {
     EXPECT_NE(trayAction(u"Online (Ready)"_s), nullptr);
     EXPECT_FALSE(trayAction(u"Disconnect"_s)->isEnabled());
     const auto partner = viewNewDevice();
@@ -130,7 +129,7 @@ TEST_F(HomeWindowTest, MirrorsTheSessionInTheTrayMenu) {
     }));
 }
 
-TEST_F(HomeWindowTest, OffersAnUpdateAndStartsItsInstaller) {
+TEST_F(HomePageAndTrayTest, OffersAnUpdateAndStartsItsInstaller) {
     auto* const banner = widget<QWidget>("updateBanner");
     m_window.showUpdateBanner(u"<b>9</b>"_s, u"http://127.0.0.1/setup"_s, {});
     EXPECT_TRUE(banner->isVisible());
@@ -148,18 +147,6 @@ TEST_F(HomeWindowTest, OffersAnUpdateAndStartsItsInstaller) {
     EXPECT_TRUE(button->isEnabled());
     m_window.launchInstaller(u"/nonexistent/CorvaneSetup.exe"_s);
     EXPECT_EQ(takeBoxes(), QStringList(u"Update|The installer could not be started."_s));
-}
-
-TEST(WakeOnLanTest, RepeatsTheAddressSixteenTimes) {
-    const QByteArray address = QByteArray::fromHex("01020aff0b10");
-    for (const QString& text : {u"01:02:0a:ff:0b:10"_s, u"01-02-0A-FF-0B-10"_s, u"01020aFF0b10"_s,
-                                u"01 02 0a ff 0b 10"_s}) {
-        EXPECT_EQ(wakeOnLanPacket(text), QByteArray(6, '\xff') + address.repeated(16));
-    }
-    for (const QString& text : {u""_s, u"01:02:03"_s, u"01020aff0b1"_s, u"01020aff0b1g"_s,
-                                u"01020aff0b10\n"_s, u"01020aff0b1000"_s}) {
-        EXPECT_EQ(wakeOnLanPacket(text), std::nullopt) << text.toStdString();
-    }
 }
 
 } // namespace

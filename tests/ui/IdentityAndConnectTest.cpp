@@ -11,9 +11,9 @@ namespace {
 using namespace Qt::StringLiterals;
 using test::eventually;
 
-class MainWindowTest : public test::WindowFixture {};
+class IdentityAndConnectTest : public test::WindowFixture {};
 
-TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
+TEST_F(IdentityAndConnectTest, ShowsTheIdentityOnceOnline) {
     EXPECT_EQ(label("clientIdLabel"), u"Connecting..."_s);
     EXPECT_EQ(label("passwordLabel"), u"------"_s);
     EXPECT_EQ(status(), u"Connecting...|#ffa726"_s);
@@ -47,7 +47,7 @@ TEST_F(MainWindowTest, ShowsTheIdentityOnceOnline) {
     EXPECT_FALSE(connectButton->isEnabled());
 }
 
-TEST_F(MainWindowTest, RefusesIncompletePartners) {
+TEST_F(IdentityAndConnectTest, RefusesIncompletePartners) {
     start();
     const QString refusals[][3] = {
         {u"  "_s, u"x"_s, u"Please enter a partner Client ID."_s},
@@ -62,7 +62,7 @@ TEST_F(MainWindowTest, RefusesIncompletePartners) {
     EXPECT_TRUE(m_settings.recentPartners().isEmpty());
 }
 
-TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
+TEST_F(IdentityAndConnectTest, ExplainsWhyAPartnerCannotBeReached) {
     start();
     const QString offline = m_server.registerDevice().clientId;
     const auto online = createDevice();
@@ -92,7 +92,7 @@ TEST_F(MainWindowTest, ExplainsWhyAPartnerCannotBeReached) {
     EXPECT_TRUE(m_log.contains("API error on /sessions/create: 403 (Invalid session password)"));
 }
 
-TEST_F(MainWindowTest, ShowsAnAcceptablePasswordLiterally) {
+TEST_F(IdentityAndConnectTest, ShowsAnAcceptablePasswordLiterally) {
     start();
     const QString accepted = u"<b>Aa1</b>"_s + QString(200, u'W');
     for (const QString& typed : {u"Ab1"_s, accepted}) {
