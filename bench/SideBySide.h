@@ -9,7 +9,7 @@
 
 namespace corvane {
 
-/// Runs `ours` and `limit` alternately, once each per iteration and each first half of the time, so
+/// Runs `ours` and `limit` alternately, once each per iteration, taking turns to go first, so
 /// that a machine that slows down for a while slows both. Both do the same work, `units` of it per
 /// turn. Reports the median of each, in milliseconds per unit, and how close ours comes to the
 /// limit. The benchmark must be registered with `UseManualTime` and a number of iterations.

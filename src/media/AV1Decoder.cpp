@@ -37,8 +37,7 @@ struct Picture {
     ~Picture() { dav1d_picture_unref(&picture); }
 };
 
-/// The luma plane without padding: the picture's own memory if its rows have none, otherwise a
-/// copy.
+/// The luma plane without padding: the picture's own memory if its rows have none, else a copy.
 PlaneBytes lumaOf(std::shared_ptr<const Picture> owner) {
     const Dav1dPicture& picture = owner->picture;
     const auto* source = static_cast<const uint8_t*>(picture.data[0]);

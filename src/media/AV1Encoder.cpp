@@ -97,8 +97,7 @@ struct AV1Encoder::Codec {
         if (!imageAllocated) {
             return false;
         }
-        // Frames of odd size never write the last chroma column and row: make them grey, not
-        // garbage.
+        // Frames of odd size never write the last chroma column and row: grey, not garbage.
         for (const int plane : {AOM_PLANE_U, AOM_PLANE_V}) {
             std::memset(image.planes[plane], kNeutralChroma,
                         static_cast<size_t>(image.stride[plane]) * ((height + 1) / 2));

@@ -52,12 +52,10 @@ public:
     /// limit is terminated.
     void stop();
 
-    /// Makes the capture thread switch to another monitor before its next frame. The last call
-    /// wins.
+    /// Makes the capture thread switch monitors before its next frame. The last call wins.
     void switchMonitor(int index);
 
-    /// Marks the next frame that arrives, however late, as one for which the encoder must start
-    /// afresh.
+    /// Marks the next frame that arrives, however late, as one to start the encoder afresh with.
     void requestKeyframe();
 
     /// Frames delivered since the last `start`; 0 while stopped. Any thread.

@@ -298,8 +298,7 @@ void FileTransferService::onError(ByteSpan body) {
     if (error.kind == ErrorKind::Listing) {
         m_expectedListings.removeOne(error.path);
     } else if (error.kind == ErrorKind::Download) {
-        // The peer answers in order: once it has refused the last download, no more answers are
-        // due.
+        // The peer answers in order: once it refuses the last download, no more answers are due.
         m_expectedDownloads = 0;
     }
     fail(error);

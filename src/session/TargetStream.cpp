@@ -106,8 +106,7 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
     }
     std::optional<ByteVector> sealed;
     {
-        // Before the main thread can fail to send it and request another; also when making it
-        // fails.
+        // Before the main thread can fail to send it and request another; also if making it fails.
         const auto made = qScopeGuard([&] {
             if (frame.keyframeRequested) {
                 m_requests.keyframeDone();

@@ -46,8 +46,7 @@ public:
     /// See `PictureRequests`.
     void requestKeyframe();
 
-    /// The repeated key frame is the same sealed message, which the viewer recognises by its
-    /// counter.
+    /// The second key frame is the same sealed message; the viewer knows it by its counter.
     void repairPicture();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);

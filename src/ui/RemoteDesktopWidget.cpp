@@ -47,8 +47,7 @@ RemoteDesktopWidget::RemoteDesktopWidget(QWidget* parent) : QOpenGLWidget(parent
 }
 
 RemoteDesktopWidget::~RemoteDesktopWidget() {
-    // The base class destroys the context after the renderer is gone: there is nothing to release
-    // then.
+    // The base class destroys the context later, when there is no renderer left to release.
     if (context() != nullptr) {
         disconnect(context(), nullptr, this, nullptr);
     }

@@ -241,8 +241,7 @@ void SettingsDialog::storeAndIntegrate() {
 void SettingsDialog::onIntegrationApplied(bool permitted) {
     const bool serviceTakesOver = permitted && m_service->isChecked();
     if (serviceTakesOver) {
-        // Unlike `quit`, this does not ask the windows: the main one would refuse and hide in the
-        // tray.
+        // Unlike `quit`, this asks no window: the main one would refuse and hide in the tray.
         QMetaObject::invokeMethod(
             qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
     } else {

@@ -45,8 +45,7 @@ public:
     /// sets `error()`.
     bool start();
 
-    /// Types the shared machine's ID and a password into the viewer's main window and presses
-    /// Return.
+    /// Types the shared machine's ID and a password into the viewer's window and presses Return.
     bool enterPartner(const QString& password);
 
     /// Waits until both sides are connected and the first picture has arrived.

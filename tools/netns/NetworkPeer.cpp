@@ -155,7 +155,7 @@ private:
     int m_chatNext = 0;
     int m_chatEnd = 0;
     QTimer m_stillness;
-    int m_lastStep = 0; ///< of the scenes to show
+    int m_lastStep = 0; ///< the last scene to show
     int m_pictures = 0;
     std::optional<int> m_expected; ///< the scene that the picture should become
     ByteVector m_luma;             ///< of that scene
