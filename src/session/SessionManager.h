@@ -100,7 +100,7 @@ private Q_SLOTS:
     void onTransportData(corvane::ChannelType channel, const QByteArray& data);
 
 private:
-    /// Kept when the partner answers before the server's response to the session request is here.
+    /// Kept when the partner answers before the server's response to the request arrives.
     struct HandshakeAck {
         QString sessionId;
         QString state;

@@ -22,7 +22,7 @@ public:
     ScreenImage& operator=(const ScreenImage&) = delete;
 
     /// Reads rows `firstRow` up to but not including `endRow` of the rectangle whose top-left
-    /// corner is at (`x`, `y`) on the screen. False when the server has refused or gone.
+    /// corner is at (`x`, `y`) on the screen. False when the server refused or is gone.
     bool refresh(int x, int y, int firstRow, int endRow);
 
     /// `height` rows of `stride()` bytes, 32-bit BGRX.
