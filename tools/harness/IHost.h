@@ -16,8 +16,8 @@ enum class Platform { Linux, Windows };
 
 QString toString(Platform platform);
 
-/// The platform-specific part of one user and of the programs that this user runs. Whatever else
-/// the platform needs for them ends with the last of them.
+/// The platform-specific part of one user and of the programs that this user runs. Anything
+/// else that the platform needs for them ends with the last of them.
 class IHost {
 public:
     virtual ~IHost() = default;

@@ -67,8 +67,8 @@ public:
     /// Starts or stops the movement on the shared desktop.
     void setDesktopRunning(bool running);
 
-    /// How closely the viewer's picture comes to match the shared screen, in dB. Meaningful only
-    /// while the desktop stands still.
+    /// How closely the viewer's picture eventually matches the shared screen, in dB. Meaningful
+    /// only while the desktop stands still.
     double pictureFidelity();
 
     /// The remote picture as shown on the viewer's display.
