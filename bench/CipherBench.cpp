@@ -1,5 +1,6 @@
-// What the message cipher costs beside the bare algorithm. The bare loops reuse one context and one
-// buffer and set a new nonce per message: the least that any sealing of separate messages must do.
+// What the message cipher costs compared with the bare algorithm. The bare loops reuse one context
+// and one buffer and set a new nonce per message: the least that sealing separate messages
+// requires.
 #include "SideBySide.h"
 #include "crypto/AesGcmCipher.h"
 
@@ -63,7 +64,7 @@ private:
     std::array<uint8_t, kTagSize> m_tag{};
 };
 
-/// Bytes a turn: many small messages, so that reading the clock does not count.
+/// Bytes per turn: many small messages, so that reading the clock is negligible.
 constexpr int64_t kTurnBytes = 1 << 20;
 
 int64_t messagesPerTurn(const benchmark::State& state) {

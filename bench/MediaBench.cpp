@@ -17,7 +17,7 @@
 namespace corvane {
 namespace {
 
-/// Frames per pass: one key frame and deltas with movement, scrolling and little else.
+/// Frames per pass: one key frame, then deltas with movement, with scrolling and with few changes.
 constexpr int kFrames = 8;
 
 struct Clip {
@@ -79,7 +79,7 @@ void convert(benchmark::State& state) {
     sideBySide(state, 1, ours, limit);
 }
 
-/// Planar pictures, as the library takes them, ready before the clock runs.
+/// Planar pictures, as the library takes them, prepared before timing starts.
 std::vector<aom_image_t*> planarImages(const Clip& clip) {
     std::vector<aom_image_t*> images;
     const auto width = static_cast<size_t>(clip.width);

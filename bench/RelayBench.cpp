@@ -11,13 +11,14 @@
 
 #include <algorithm>
 
-// What the relay framing costs: two transports through the loopback relay node, against two bare
-// sockets through a plain byte forwarder; and what cutting a read into frames costs per byte.
+// What the relay framing costs: two transports through the loopback relay node, compared with two
+// bare sockets through a plain byte forwarder; and the cost per byte of splitting a read into
+// frames.
 
 namespace corvane {
 namespace {
 
-/// Bytes under way per round: enough to keep the three ends busy, little enough to stay in memory.
+/// Bytes in flight per round: enough to keep all three ends busy, few enough to stay in memory.
 constexpr int64_t kRoundBytes = 4 * 1024 * 1024;
 
 int64_t messagesPerRound(int64_t size) {
@@ -31,7 +32,7 @@ void processEventsUntil(Condition done) {
     }
 }
 
-/// Two transports that joined a session at a relay node.
+/// Two transports that have joined a session at a relay node.
 class RelayPair {
 public:
     RelayPair() {
@@ -69,7 +70,7 @@ private:
     RelayTransport m_receiver;
 };
 
-/// Two bare sockets and a forwarder of bytes between them.
+/// Two bare sockets and a byte forwarder between them.
 class SocketPair {
 public:
     SocketPair() {

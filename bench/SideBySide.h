@@ -9,10 +9,10 @@
 
 namespace corvane {
 
-/// Runs `ours` and `limit` in turns, once each per iteration and each first half of the time, so
-/// that a machine that slows down for a while slows both. Both do the same work, `units` of it a
-/// turn. Reports the median of each, in milliseconds a unit, and how near ours comes to the limit.
-/// The benchmark is to be registered with `UseManualTime` and a number of iterations.
+/// Runs `ours` and `limit` alternately, once each per iteration, taking turns to go first, so
+/// that a machine that slows down for a while slows both. Both do the same work, `units` of it per
+/// turn. Reports the median of each, in milliseconds per unit, and how close ours comes to the
+/// limit. The benchmark must be registered with `UseManualTime` and a number of iterations.
 template <typename Ours, typename Limit>
 void sideBySide(benchmark::State& state, int64_t units, const Ours& ours, const Limit& limit) {
     std::vector<double> oursTimes;

@@ -1,5 +1,5 @@
-// Runs the benchmarks of one program and prints a table row for each: our time beside the limit's,
-// and the limit's time divided by ours (1 is as fast as can be); or the time of one item.
+// Runs one program's benchmarks and prints a table row for each: our time, the limit's time, and
+// the latter divided by the former (1 is as fast as possible); or the time of one item.
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>
 #include <spdlog/spdlog.h>

@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// Turns events into input of this machine. Main thread only.
+/// Injects events into this machine as input. Main thread only.
 class IInputBackend {
 public:
     virtual ~IInputBackend() = default;

@@ -5,22 +5,22 @@
 namespace corvane {
 
 /// What the platforms' backends have in common: tells the kinds of events apart and refuses, with a
-/// warning, what comes too early or is unknown.
+/// warning, events that arrive before initialisation or are unknown.
 class InputBackend : public IInputBackend {
 public:
     bool injectEvent(const InputEvent& event) final;
 
 protected:
-    /// `name` begins the log lines and must outlive the backend.
+    /// `name` starts the log lines and must outlive the backend.
     explicit InputBackend(const char* name) : m_name(name) {}
 
-    /// Between 0 and 1, the edges included; anything but a number counts as 0.
+    /// Clamped to 0..1; NaN counts as 0.
     static double clampedFraction(double fraction);
 
 private:
     virtual bool isInitialized() const = 0;
 
-    /// Called while initialised only; the results are those of `injectEvent`.
+    /// Called only while initialised; the results are those of `injectEvent`.
     virtual bool injectMove(const InputEvent& event) = 0;
     virtual bool injectButton(const InputEvent& event, bool press) = 0; ///< a known button
     virtual bool injectWheel(const InputEvent& event) = 0;
@@ -31,7 +31,7 @@ private:
     const char* const m_name;
 };
 
-/// The place of a known button in a table that begins with the left one.
+/// The index of a known button in a table that starts with the left one.
 constexpr size_t buttonIndex(MouseButton button) {
     return static_cast<size_t>(button) - static_cast<size_t>(MouseButton::Left);
 }

@@ -29,8 +29,8 @@ enum class MouseButton : uint8_t {
 
 /// One mouse or keyboard action on its way from the viewer to the shared machine.
 ///
-/// The mouse fields mean something for the four mouse types only, the key fields for the two key
-/// types only. Values come from the wire unchecked: `type` and `button` may lie outside their
+/// The mouse fields are meaningful only for the four mouse types, the key fields only for the two
+/// key types. Values come from the wire unchecked: `type` and `button` may lie outside their
 /// enumerations and the coordinates outside 0..1.
 struct InputEvent {
     InputEventType type = InputEventType::None;
@@ -47,8 +47,8 @@ struct InputEvent {
     /// Throws std::runtime_error for any other type.
     ByteVector serialize() const;
 
-    /// Reads one record; bytes behind it are ignored. Throws std::runtime_error when the bytes do
-    /// not hold one.
+    /// Reads one record; bytes after it are ignored. Throws std::runtime_error when the bytes do
+    /// not contain one.
     static InputEvent deserialize(const uint8_t* data, size_t size);
 };
 

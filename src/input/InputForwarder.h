@@ -10,20 +10,21 @@
 
 namespace corvane {
 
-/// Hands received events to the input backend and thins out pointer moves: of a burst the first
-/// goes at once, after that the latest one per window, and the last is never lost. Other events go
-/// at once, ahead of a move that waits; they carry their own position.
+/// Passes received events to the input backend and thins out pointer moves: the first of a burst is
+/// injected at once and starts a window, at whose end the latest one that has arrived since is
+/// injected, so the last is never lost. Other events are injected at once, ahead of a waiting move;
+/// they carry their own position.
 ///
 /// Main thread only.
 class InputForwarder : public QObject {
     Q_OBJECT
 
 public:
-    /// Takes the backend over; it must have been initialised. It may be null, then events are
-    /// dropped with a warning.
+    /// Takes ownership of the backend, which must have been initialised. It may be null; events are
+    /// then dropped with a warning.
     explicit InputForwarder(std::unique_ptr<IInputBackend> backend, QObject* parent = nullptr);
 
-    /// Injects a move that still waits, then destroys the backend.
+    /// Injects a move that is still waiting, then destroys the backend.
     ~InputForwarder() override;
 
 public Q_SLOTS:
@@ -35,7 +36,7 @@ private:
     QTimer m_coalescingTimer;
     InputEvent m_pendingMove;
     bool m_hasPendingMove = false;
-    int32_t m_maxMouseRate = 60; ///< moves per second
+    int32_t m_maxMouseRate = 60; ///< windows per second
 };
 
 } // namespace corvane

@@ -4,7 +4,7 @@
 
 namespace corvane {
 
-/// A key as the wire names it.
+/// A key as it is named on the wire.
 struct NativeKey {
     uint32_t virtualKey = 0; ///< Windows virtual key, 0 = unknown
     uint32_t scanCode =

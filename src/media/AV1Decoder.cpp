@@ -14,10 +14,10 @@ namespace {
 
 constexpr int kTryAgain = DAV1D_ERR(EAGAIN);
 
-/// No screen is larger; a packet that claims more must not make us allocate it.
+/// No screen is larger; a packet that claims more must not cause such an allocation.
 constexpr unsigned kMaxPixels = 16384U * 16384U;
 
-/// A packet on its way into the library. Whatever the library did not take is released.
+/// A packet on its way into the library. Whatever the library does not accept is released.
 struct PacketData {
     Dav1dData data{};
 
@@ -27,7 +27,7 @@ struct PacketData {
     ~PacketData() { dav1d_data_unref(&data); }
 };
 
-/// A reference to one of the library's pictures, which others may hold as well.
+/// A reference to one of the library's pictures, which may be shared.
 struct Picture {
     Dav1dPicture picture{};
 
@@ -37,7 +37,7 @@ struct Picture {
     ~Picture() { dav1d_picture_unref(&picture); }
 };
 
-/// The luma plane without padding: the picture's own memory if its rows have none, or a copy.
+/// The luma plane without padding: the picture's own memory if its rows have none, else a copy.
 PlaneBytes lumaOf(std::shared_ptr<const Picture> owner) {
     const Dav1dPicture& picture = owner->picture;
     const auto* source = static_cast<const uint8_t*>(picture.data[0]);
@@ -113,7 +113,7 @@ bool AV1Decoder::initialize(int width, int height) {
     settings.n_threads = 0;
     settings.max_frame_delay = 1;
     settings.frame_size_limit = kMaxPixels;
-    // The library would write to stderr; the result codes in our own lines say what failed.
+    // The library would log to stderr; our own log lines report the result codes.
     settings.logger.callback = nullptr;
     const int result = dav1d_open(&m_context, &settings);
     if (result < 0) {
@@ -178,7 +178,7 @@ bool AV1Decoder::send(const uint8_t* data, size_t size) {
     }
     std::memcpy(buffer, data, size);
     const int result = dav1d_send_data(m_context, &packet.data);
-    // A full decoder is no failure: it still holds a picture, and the packet is dropped.
+    // A full decoder is not a failure: it still holds a picture, and the packet is dropped.
     if (result < 0 && result != kTryAgain) {
         spdlog::error("AV1Decoder: dav1d_send_data failed (error {})", result);
         return false;

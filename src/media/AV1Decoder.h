@@ -6,9 +6,9 @@ struct Dav1dContext;
 
 namespace corvane {
 
-/// dav1d set for the lowest latency: each packet's picture comes out of the same call. A frame
-/// keeps the library's picture for its luma plane where the rows have no padding, and may outlive
-/// the decoder.
+/// dav1d configured for the lowest latency: the call that takes a packet returns its picture. A
+/// frame keeps the library's picture for its luma plane if the rows have no padding, and may
+/// outlive the decoder.
 class AV1Decoder : public IVideoDecoder {
 public:
     AV1Decoder();

@@ -38,7 +38,7 @@ int cqLevelOf(const EncoderConfig& config) {
     return std::clamp(config.cqLevel, 0, kMaxCqLevel);
 }
 
-/// What both the first configuration and every change of the rate set.
+/// Settings shared by the first configuration and every change of the rate.
 void applyRateControl(const EncoderConfig& config, aom_codec_enc_cfg_t& settings) {
     settings.g_threads = 0;
     settings.g_w = static_cast<unsigned>(config.width);
@@ -97,7 +97,7 @@ struct AV1Encoder::Codec {
         if (!imageAllocated) {
             return false;
         }
-        // Frames of odd size leave the last chroma column and row alone: grey, not garbage.
+        // Frames of odd size never write the last chroma column and row: grey, not garbage.
         for (const int plane : {AOM_PLANE_U, AOM_PLANE_V}) {
             std::memset(image.planes[plane], kNeutralChroma,
                         static_cast<size_t>(image.stride[plane]) * ((height + 1) / 2));

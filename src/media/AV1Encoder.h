@@ -15,13 +15,13 @@ public:
     bool initialize(const EncoderConfig& config) override;
     void shutdown() override;
 
-    /// A frame of another size than configured is refused; nothing is ever rescaled.
+    /// A frame whose size differs from the configured one is refused; nothing is ever rescaled.
     std::unique_ptr<EncodedPacket> encode(const uint8_t* nv12, int width, int height,
                                           uint64_t timestamp, bool forceKeyframe) override;
 
     bool isInitialized() const override { return m_initialized; }
 
-    /// Sets the target rate, kbit/s. The library's defaults for time base, key-frame distance and
+    /// Sets the target rate in kbit/s. The library's defaults for time base, key-frame distance and
     /// error resilience apply from here on.
     void updateBitrate(int kbps) override;
 
@@ -29,7 +29,7 @@ public:
         return {m_config.width, m_config.height};
     }
 
-    /// The library's speed, 0 (slow) to 10, for a preset: a number on the scale 0 to 13, or a name.
+    /// The library's speed, 0 (slow) to 10, for a preset: a number from 0 to 13, or a name.
     static int speedOf(const std::string& preset);
 
 private:

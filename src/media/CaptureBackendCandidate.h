@@ -12,14 +12,14 @@ namespace corvane {
 /// One entry of the platform's ordered list of ways to capture.
 struct CaptureBackendCandidate {
     std::function<std::unique_ptr<IScreenCaptureBackend>()> create;
-    std::string readyText;       ///< info line once it initialised; "{}" takes the monitor index
-    std::string unavailableText; ///< warning line when it did not; empty: none
+    std::string readyText;       ///< info line once it is initialised; "{}" takes the monitor index
+    std::string unavailableText; ///< warning line if it fails to initialise; empty: none
 };
 
-/// The platform's candidates, best first. The first that initialises wins.
+/// The platform's candidates, best first. The first one that initialises is used.
 std::vector<CaptureBackendCandidate> captureBackendCandidates();
 
-/// The monitors that the first candidate which finds any can capture.
+/// The monitors that can be captured by the first candidate that finds any.
 std::vector<MonitorInfo> capturableMonitors(const std::vector<CaptureBackendCandidate>& candidates);
 
 } // namespace corvane

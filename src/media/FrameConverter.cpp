@@ -12,12 +12,12 @@ namespace {
 
 constexpr size_t kBytesPerPixel = 4;
 
-/// Pixels per pass over a row pair: the colour planes of one pass stay in the first-level cache.
+/// Pixels per pass over a row pair: the colour planes of one pass fit in the first-level cache.
 constexpr size_t kBlock = 256;
 
 using Samples = std::array<int16_t, kBlock>;
 
-/// One block of pixels, colour by colour. Sixteen bits a sample let the compiler multiply eight at
+/// One block of pixels, split by colour. Sixteen bits per sample let the compiler multiply eight at
 /// once on every x64 processor.
 struct Colours {
     Samples red;
@@ -50,8 +50,8 @@ void convertLuma(const Colours& __restrict colours, size_t count, uint8_t* __res
     }
 }
 
-/// Rounded averages of blocks of two by two samples. Adding neighbours as halves of one word spares
-/// the shuffling that picking every other sample takes.
+/// Rounded averages of blocks of two by two samples. Adding neighbours as halves of one word avoids
+/// the shuffling needed to pick every other sample.
 void averageBlocks(const Samples& __restrict upper, const Samples& __restrict lower, size_t pairs,
                    Samples& __restrict averages) {
     for (size_t i = 0; i < pairs; ++i) {

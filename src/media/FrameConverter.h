@@ -7,14 +7,14 @@
 
 namespace corvane {
 
-/// Turns screen images into the encoder's input format. Holds no state: one instance serves any
+/// Converts screen images to the encoder's input format. Holds no state: one instance serves any
 /// number of frames of any size, from any thread.
 class FrameConverter {
 public:
     /// Converts `height` rows of `width` BGRA pixels, `sourceStride` bytes apart, to full-range
     /// BT.601 NV12 without row padding. `destination` takes `width * height * 3 / 2` bytes; a
-    /// `destinationSize` of 0 means the caller vouches for that. An odd last column or row is left
-    /// as it was, and the chroma plane begins behind the last even row. Failures are logged and
+    /// `destinationSize` of 0 means the caller guarantees that. An odd last column or row is left
+    /// as it was, and the chroma plane begins after the last even row. Failures are logged and
     /// leave the destination untouched.
     void convert(const uint8_t* source, int32_t width, int32_t height, int32_t sourceStride,
                  uint8_t* destination, size_t destinationSize) const;

@@ -8,14 +8,15 @@
 
 namespace corvane {
 
-/// One way of reading the screen. Initialised by its creator on the main thread, then used by the
-/// capture thread alone until that thread has ended. Failures are logged and reported by result.
+/// One way of capturing the screen. Initialised by its creator on the main thread, then used only
+/// by the capture thread until that thread has ended. Failures are logged and reported by the
+/// result.
 class IScreenCaptureBackend {
 public:
     virtual ~IScreenCaptureBackend() = default;
 
     /// Starts capturing the monitor at `monitorIndex` of `monitors()`, releasing what an earlier
-    /// call holds.
+    /// call acquired.
     virtual bool initialize(int monitorIndex) = 0;
 
     virtual void shutdown() = 0;

@@ -8,13 +8,13 @@
 
 namespace corvane {
 
-/// Turns packets into pictures, at most one each. Not thread-safe: one thread at a time. Every
-/// failure is a log line and a null result; the decoder stays usable.
+/// Decodes packets to pictures, at most one each. Not thread-safe: one thread at a time. Every
+/// failure gives a log line and a null result; the decoder stays usable.
 class IVideoDecoder {
 public:
     virtual ~IVideoDecoder() = default;
 
-    /// `width` and `height` are what the caller expects (0: unknown); they are logged only.
+    /// `width` and `height` are what the caller expects (0: unknown); they are only logged.
     virtual bool initialize(int width, int height) = 0;
 
     virtual void shutdown() = 0;

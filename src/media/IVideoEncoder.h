@@ -13,12 +13,12 @@ namespace corvane {
 struct EncoderConfig {
     int32_t width = 1920;
     int32_t height = 1080;
-    int32_t fps = kSpeedPreset.framesPerSecond; ///< frames per second; the time base is 1 / fps
-    int32_t bitrateKbps = 500;                  ///< kbit/s
-    int32_t keyframeInterval = 60;              ///< largest distance between key frames, in frames
+    int32_t fps = kSpeedPreset.framesPerSecond;    ///< frames per second; the time base is 1 / fps
+    int32_t bitrateKbps = 500;                     ///< kbit/s
+    int32_t keyframeInterval = 60;                 ///< max distance between key frames, in frames
     int32_t cqLevel = kSpeedPreset.encoderQuality; ///< constant-quality level, 0 (best) to 63
     std::string speedPreset = kEncoderSpeed;       ///< a number or a preset name
-    std::string profile;                           ///< carried along, read by no encoder yet
+    std::string profile;                           ///< not read by any encoder yet
 };
 
 struct EncodedPacket {
@@ -34,12 +34,12 @@ class IVideoEncoder {
 public:
     virtual ~IVideoEncoder() = default;
 
-    /// Opens the encoder afresh; false leaves it closed.
+    /// Reopens the encoder; false leaves it closed.
     virtual bool initialize(const EncoderConfig& config) = 0;
 
     virtual void shutdown() = 0;
 
-    /// `nv12` holds a full-range luma plane of `width * height` bytes and behind it `height / 2`
+    /// `nv12` holds a full-range luma plane of `width * height` bytes, followed by `height / 2`
     /// rows of `width` interleaved Cb, Cr bytes. Null when no packet came out.
     virtual std::unique_ptr<EncodedPacket> encode(const uint8_t* nv12, int width, int height,
                                                   uint64_t timestamp, bool forceKeyframe) = 0;
@@ -47,7 +47,7 @@ public:
     virtual bool isInitialized() const = 0;
     virtual void updateBitrate(int kbps) = 0;
 
-    /// Width and height of the last `initialize`, pixels.
+    /// Width and height, in pixels, passed to the last `initialize`.
     virtual std::pair<int32_t, int32_t> configuredSize() const = 0;
 };
 

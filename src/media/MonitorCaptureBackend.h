@@ -4,15 +4,15 @@
 
 namespace corvane {
 
-/// What the backends that capture one monitor have in common: which one that is, and whether they
-/// have it.
+/// What the backends that capture one monitor have in common: which monitor that is, and whether
+/// they are capturing it.
 class MonitorCaptureBackend : public IScreenCaptureBackend {
 public:
     MonitorCaptureBackend() = default;
     MonitorCaptureBackend(const MonitorCaptureBackend&) = delete;
     MonitorCaptureBackend& operator=(const MonitorCaptureBackend&) = delete;
 
-    /// Kept after the screen has been lost, so that recovery knows where to go on.
+    /// Kept after the screen has been lost, so that recovery knows where to resume.
     MonitorInfo currentMonitor() const final { return m_monitor; }
 
     bool isInitialized() const final { return m_initialized; }

@@ -9,14 +9,13 @@
 
 namespace corvane {
 
-/// A plane's bytes, which nobody changes any more: either a vector's own, or a stretch of memory
-/// that others read too and that lives as long as anyone holds it. Copies share the bytes. May be
-/// read and destroyed on any thread.
+/// A plane's immutable bytes: either a vector's own, or a stretch of shared memory that lives as
+/// long as anyone holds it. Copies share the bytes. May be read and destroyed on any thread.
 class PlaneBytes {
 public:
     PlaneBytes() = default;
 
-    /// Takes the vector over.
+    /// Takes ownership of the vector.
     PlaneBytes(ByteVector bytes) : m_size(bytes.size()) { // NOLINT(google-explicit-constructor)
         auto owner = std::make_shared<const ByteVector>(std::move(bytes));
         const uint8_t* const data = owner->data();

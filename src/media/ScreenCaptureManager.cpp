@@ -101,7 +101,8 @@ void ScreenCaptureManager::requestKeyframe() {
 
 void ScreenCaptureManager::captureLoop() {
     spdlog::debug("ScreenCaptureManager: capture loop entered");
-    // Off while `started` is being emitted, but this call lasts as long as the thread.
+    // Termination is off while `started` is being emitted, and this slot lasts as long as the
+    // thread.
     Termination::setTerminationEnabled(true);
     m_recoveryBackoff.reset();
     while (m_running) {
@@ -195,13 +196,13 @@ void ScreenCaptureManager::reinitialize() {
     }
 }
 
-/// False when it was cut short by `stop`.
+/// False when cut short by `stop`.
 bool ScreenCaptureManager::waitUnlessStopped(std::chrono::nanoseconds duration) {
     std::unique_lock lock(m_waitMutex);
     return !m_stopRequested.wait_for(lock, duration, [this] { return !m_running; });
 }
 
-/// The result of `step`; false, logged and reported, when it throws.
+/// The result of `step`; false, with a log line and a report, when it throws.
 bool ScreenCaptureManager::guarded(const std::function<bool()>& step) {
     try {
         return step();

@@ -17,7 +17,7 @@
 
 namespace corvane {
 
-/// Runs a capture backend on a thread of its own: paces it, delivers its frames and brings it back
+/// Runs a capture backend on a thread of its own: paces it, delivers its frames and recovers it
 /// when it loses the screen. All operations belong to the owner's thread; they reach the capture
 /// thread through atomics and locks.
 class ScreenCaptureManager : public QObject {
@@ -26,14 +26,14 @@ class ScreenCaptureManager : public QObject {
 public:
     using FrameCallback = std::function<void(const std::shared_ptr<CapturedFrame>&)>;
 
-    /// How long things may take. The defaults are the product's; tests shorten them.
+    /// How long things may take. The defaults are used in production; tests shorten them.
     struct Timings {
         std::chrono::milliseconds firstRecoveryDelay{100};
         std::chrono::milliseconds longestRecoveryDelay{5000};
         std::chrono::milliseconds joinLimit{5000};
     };
 
-    /// Takes the backend over. It may be empty, then `start` reports an error.
+    /// Takes ownership of the backend. It may be null; `start` then reports an error.
     explicit ScreenCaptureManager(std::unique_ptr<IScreenCaptureBackend> backend,
                                   QObject* parent = nullptr);
     ScreenCaptureManager(std::unique_ptr<IScreenCaptureBackend> backend, Timings timings,
@@ -41,31 +41,31 @@ public:
     ~ScreenCaptureManager() override;
 
     /// Replaces the function that receives every frame on the capture thread. Waits for a call in
-    /// progress; after it the old function is not called again.
+    /// progress; afterwards the old function is not called again.
     void setFrameCallback(FrameCallback callback);
 
     /// Starts the capture thread at `fps` frames per second, limited to 1..120. The backend must
     /// be initialised.
     void start(int fps);
 
-    /// Ends the capture thread and returns when it has ended. A thread that hangs beyond the join
+    /// Stops the capture thread and returns when it has ended. A thread that hangs beyond the join
     /// limit is terminated.
     void stop();
 
-    /// Has the capture thread move to another monitor before its next frame. The last call wins.
+    /// Makes the capture thread switch monitors before its next frame. The last call wins.
     void switchMonitor(int index);
 
-    /// Marks the next frame that arrives, however late, as one the encoder must start afresh with.
+    /// Marks the next frame that arrives, however late, as one to start the encoder afresh with.
     void requestKeyframe();
 
-    /// Frames delivered since the last `start`; 0 when stopped. Any thread.
+    /// Frames delivered since the last `start`; 0 while stopped. Any thread.
     uint64_t framesDelivered() const { return m_framesDelivered; }
 
 Q_SIGNALS:
     /// Emitted on the capture thread.
     void frameCaptured(std::shared_ptr<corvane::CapturedFrame> frame);
 
-    /// Emitted on the thread that met the error.
+    /// Emitted on the thread where the error occurred.
     void captureError(QString message);
 
 private:

@@ -26,7 +26,7 @@ bool AtomicFile::commit() {
     if (m_failed) {
         m_file.cancelWriting();
     }
-    // Written in place, a file commits whatever has failed.
+    // A file written in place commits even after a failed write.
     return m_file.commit() && !m_failed;
 }
 

@@ -7,19 +7,19 @@
 
 namespace corvane {
 
-/// Creates or replaces the file at a path in one go: what is appended shows there with `commit`
-/// only, and never without. Replaces ordinary files only, never a device or a pipe.
+/// Creates or replaces the file at a path atomically: what is appended appears there on `commit`,
+/// and not at all without it. Replaces ordinary files only, never a device or a pipe.
 class AtomicFile {
 public:
     explicit AtomicFile(const QString& path);
 
-    /// In a folder that takes no further file, one that is there may still be writable: this lets
-    /// it be written in place, where a failure on the way leaves it damaged. Before `open`.
+    /// Lets an existing file be written in place where its folder accepts no new file; a failure
+    /// part-way then leaves it damaged. Call before `open`.
     void allowInPlace() { m_file.setDirectWriteFallback(true); }
 
     bool open();
 
-    /// False when not everything was taken; `commit` then fails as well.
+    /// False when not all bytes were written; `commit` then fails as well.
     bool append(ByteSpan bytes);
 
     /// False when anything failed since `open`.
@@ -30,7 +30,7 @@ private:
     bool m_failed = false;
 };
 
-/// The same for bytes that are at hand, in place if it must be.
+/// Writes a whole file in the same way, in place if necessary.
 bool writeAtomicFile(const QString& path, ByteSpan bytes);
 
 } // namespace corvane

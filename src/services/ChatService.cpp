@@ -15,7 +15,7 @@ namespace {
 constexpr size_t kHeaderSize = 8 + 2;
 constexpr qsizetype kMaxTextSize = 0xFFFF;
 
-/// A time the peer made up may lie beyond what a date can show: the end of the year 9999 will do.
+/// The peer's time may lie beyond what a date can show; it is capped at the end of the year 9999.
 QDateTime dateTimeOf(quint64 milliseconds) {
     constexpr quint64 kLatest = 253'402'300'799'999;
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(std::min(milliseconds, kLatest)));

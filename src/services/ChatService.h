@@ -8,19 +8,19 @@
 
 namespace corvane {
 
-/// Turns what the user types into chat messages for the peer, and the peer's back into text with
-/// the time it was sent. Main thread; keeps nothing between messages.
+/// Encodes what the user types as chat messages for the peer, and decodes the peer's messages into
+/// text and the time it was sent. Main thread; keeps no state between messages.
 ///
-/// A message is the sender's wall clock (u64, milliseconds since the epoch), the text's length in
-/// bytes (u16) and the text in UTF-8.
+/// A message consists of the sender's wall clock (u64, milliseconds since the epoch), the text's
+/// length in bytes (u16) and the text in UTF-8.
 class ChatService : public QObject {
     Q_OBJECT
 
 public:
-    /// Without `send` messages go nowhere.
+    /// Without `send`, messages are dropped.
     explicit ChatService(SendFunction send, QObject* parent = nullptr);
 
-    /// A text beyond 65535 bytes of UTF-8 is cut there.
+    /// Text beyond 65535 bytes of UTF-8 is cut off.
     void sendMessage(const QString& text);
 
     /// One received message, without the control channel's tag; logged and dropped when malformed.

@@ -18,7 +18,7 @@ constexpr auto kTag = static_cast<uint8_t>(ControlTag::Clipboard);
 constexpr size_t kHeaderSize = 1 + 4;
 constexpr size_t kMaxTextSize = 10 * 1024 * 1024;
 
-/// Null, and never one without a window system behind it, where there is no such application.
+/// Null without a GUI application: its clipboard would have no window system behind it.
 QClipboard* applicationClipboard() {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
                ? QGuiApplication::clipboard()

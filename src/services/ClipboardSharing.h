@@ -8,8 +8,8 @@ namespace corvane {
 /// Keeps the clipboard text of the two machines of a session in step, without sending back what
 /// came from the peer. Only plain text is shared. Main thread.
 ///
-/// A message is the control channel's tag, the text's length in bytes (u32) and the text in
-/// UTF-8: unlike other services this one writes and checks the tag itself.
+/// A message consists of the control channel's tag, the text's length in bytes (u32) and the text
+/// in UTF-8: unlike other services, this one writes and checks the tag itself.
 class ClipboardSharing : public QObject {
     Q_OBJECT
 
@@ -17,10 +17,11 @@ public:
     using QObject::QObject;
     ~ClipboardSharing() override;
 
-    /// Sends local changes from now on.
+    /// Starts sending local changes.
     void start();
 
-    /// Ends that. Received text would still be applied: whoever delivers it decides.
+    /// Stops sending local changes. Received text is still applied; the caller decides whether to
+    /// deliver it.
     void stop();
 
 public Q_SLOTS:

@@ -12,17 +12,17 @@
 
 namespace corvane {
 
-/// Turns what a running session counts into statistics and a quality level once a second.
+/// Turns a running session's counters into statistics and a quality level once a second.
 ///
 /// The counting functions and the getters may be called from any thread; everything else belongs to
-/// the thread of the object, where the signals are emitted.
+/// the object's thread, where the signals are emitted.
 class ConnectionQualityMonitor : public QObject {
     Q_OBJECT
 
 public:
     explicit ConnectionQualityMonitor(QObject* parent = nullptr);
 
-    /// Begins again from nothing.
+    /// Starts measuring from zero.
     void start();
     void stop();
 
@@ -30,7 +30,7 @@ public:
     QualityLevel qualityLevel() const;
     QString summaryText() const { return summaryText(stats()); }
 
-    /// One line for the user.
+    /// One line of figures for the user.
     static QString summaryText(const ConnectionStats& stats);
 
     void countFrame();
@@ -48,7 +48,7 @@ public Q_SLOTS:
 
 private:
     struct Counters {
-        TrafficTally tick; ///< both ways
+        TrafficTally tick; ///< both directions
         int64_t bytesSent = 0;
         int64_t bytesReceived = 0;
         int64_t framesDropped = 0;
@@ -59,7 +59,7 @@ private:
 
     QTimer m_timer;
     QElapsedTimer m_uptime;
-    mutable std::mutex m_mutex; ///< guards what follows
+    mutable std::mutex m_mutex; ///< guards the members below
     Counters m_counters;
     ConnectionStats m_stats;
     QualityLevel m_level = QualityLevel::Good;

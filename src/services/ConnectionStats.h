@@ -13,7 +13,7 @@ enum class QualityLevel : int32_t { Good = 0, Fair = 1, Poor = 2 };
 struct ConnectionStats {
     double fps = 0;           ///< frames in the last second
     double latencyMs = 0;     ///< the latest round trip measured
-    double bandwidthKbps = 0; ///< kilobits in the last second, both ways together
+    double bandwidthKbps = 0; ///< kilobits in the last second, both directions together
     int64_t bytesSent = 0;
     int64_t bytesReceived = 0;
     int64_t framesDropped = 0;

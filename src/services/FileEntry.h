@@ -7,7 +7,7 @@ namespace corvane {
 
 /// One line of a directory listing.
 struct FileEntry {
-    QString name; ///< the peer's word, unchecked: not safe as part of a local path as it is
+    QString name; ///< as sent by the peer, unchecked: not safe as part of a local path
     bool isDirectory = false;
     quint64 size = 0; ///< bytes; 0 for a directory, the capacity for a volume
 

@@ -23,7 +23,7 @@ enum class FileMessageType : uint8_t {
     Error = 0x08,            ///< text
 };
 
-/// Starts the error a peer sends when it could not keep an upload; the destination follows.
+/// Begins the error that a peer sends when it could not save an upload; the destination follows.
 inline const QString kUploadRefused = QStringLiteral("Cannot write file: ");
 
 struct DirectoryListing {
@@ -49,11 +49,11 @@ ByteVector uploadChunk(qint64 offset, ByteSpan content);
 /// Bytes of a download response besides the content, type included.
 constexpr qint64 kDownloadResponseOverhead = 1 + 1 + 8;
 
-/// The path or text at the reader's position; nothing when its length exceeds the data.
+/// The path or text at the reader's position; no value when its length exceeds the data.
 std::optional<QString> readFileText(ByteReader& reader);
 
-/// Keeps the entries that are whole when the data ends before the announced count is reached.
-/// Nothing without path and count.
+/// When the data ends before the announced count is reached, keeps the entries that are complete.
+/// No value when the path or the count is missing.
 std::optional<DirectoryListing> parseListingResponse(ByteSpan body);
 
 std::optional<UploadAnnouncement> parseUploadStart(ByteSpan body);

@@ -7,14 +7,14 @@
 
 namespace corvane {
 
-/// A request that came to nothing: one of this side's, or an upload that the partner did not keep.
+/// A failed request: one of this side's, or an upload that the partner could not save.
 struct FileTransferError {
     enum class Kind {
         Listing,       ///< of the remote folder `path`
         Download,      ///< of the remote file `path`
-        Upload,        ///< of the local file `path`, which was not sent to its end
+        Upload,        ///< of the local file `path`, which was not sent completely
         RefusedUpload, ///< sent, but not written as the remote file `path`
-        Unknown,       ///< the partner names nothing it was asked for
+        Unknown,       ///< the partner's error matches none of the open requests
     };
 
     Kind kind = Kind::Unknown;
@@ -22,8 +22,8 @@ struct FileTransferError {
     QString text; ///< for the user
 };
 
-/// What an error of the partner's is about. It comes as a text for people that ends with a path, so
-/// it takes what was asked for and is not answered yet to tell: the folders in `listings` and the
+/// Tells which request an error of the partner's belongs to. The error is readable text that ends
+/// with a path, so it is matched against the unanswered requests: the folders in `listings` and the
 /// file `download`.
 FileTransferError partnerError(const QString& text, const QStringList& listings,
                                const std::optional<QString>& download);

@@ -25,13 +25,13 @@ constexpr qint64 kBlockSize = 65'536;
 
 using ErrorKind = FileTransferError::Kind;
 
-/// A path of the peer's, in a log line. Beyond what file systems take it is no path.
+/// A path from the peer for a log line, cut at the longest path that file systems accept.
 std::string loggable(const QString& path) {
     constexpr size_t kMaxPath = 4096;
     return loggableText(path.toStdString(), kMaxPath);
 }
 
-/// Devices and pipes are left alone: reading one may never end.
+/// Devices and pipes are refused: reading one may never end.
 bool openOrdinaryFile(QFile& file) {
     return QFileInfo(file.fileName()).isFile() && file.open(QIODevice::ReadOnly);
 }
@@ -62,7 +62,7 @@ void logMalformed(FileMessageType type) {
     spdlog::warn("FileTransfer: malformed message 0x{:02x}", static_cast<uint8_t>(type));
 }
 
-/// The one path or text of a message; nothing, logged, when it is cut short.
+/// The only path or text of a message; no value, with a log line, when it is truncated.
 std::optional<QString> bodyText(FileMessageType type, ByteSpan body) {
     ByteReader reader(body);
     const auto text = readFileText(reader);
@@ -155,7 +155,7 @@ void FileTransferService::onListingRequest(ByteSpan body) {
         return;
     }
     spdlog::info("FileTransfer: listing directory '{}'", loggable(*path));
-    // A bare Windows drive would be this program's folder there instead of the drive's root.
+    // A bare Windows drive would mean this program's current folder there, not the drive's root.
     const QDir directory(path->endsWith(u':') ? *path + u'/' : *path);
     if (!path->isEmpty() && !directory.exists()) {
         sendError(QStringLiteral("Directory does not exist: ") + *path);
@@ -194,7 +194,7 @@ void FileTransferService::onDownloadRequest(ByteSpan body) {
         return;
     }
     const qint64 room = m_maxMessageSize - kDownloadResponseOverhead;
-    // Its size may be wrong by the time it is read, so one byte more than fits is asked for.
+    // The size may have changed by the time the file is read, so ask for one byte more than fits.
     const QByteArray content = file.size() > room ? QByteArray() : file.read(room + 1);
     if (file.size() > room || content.size() > room) {
         sendError(QStringLiteral("File is too large to download: ") + *path);
@@ -298,7 +298,7 @@ void FileTransferService::onError(ByteSpan body) {
     if (error.kind == ErrorKind::Listing) {
         m_expectedListings.removeOne(error.path);
     } else if (error.kind == ErrorKind::Download) {
-        // The peer answers in order: with the last download refused, nothing more is to come.
+        // The peer answers in order: once it refuses the last download, no more answers are due.
         m_expectedDownloads = 0;
     }
     fail(error);
@@ -317,7 +317,7 @@ void FileTransferService::sendError(const QString& text) const {
     send(fileTextMessage(FileMessageType::Error, text));
 }
 
-/// Empty, or an error for the user with %1 for the local path.
+/// An empty text, or an error for the user with %1 in place of the local path.
 QString FileTransferService::sendFile(QFile& file, const QString& remotePath) {
     const QScopedValueRollback running(m_uploading, true);
     const qint64 size = file.size();

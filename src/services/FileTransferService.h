@@ -17,36 +17,36 @@ class QFile;
 
 namespace corvane {
 
-/// Browses the peer's file system and moves files either way; also answers the peer that does the
-/// same. One download and one upload at a time in each direction. Main thread.
+/// Browses the peer's file system and transfers files in both directions; also serves the peer's
+/// own requests. Each side has at most one download and one upload under way. Main thread.
 ///
-/// Paths go to the peer as they are. A received file is written, or replaced, in one go, once its
-/// transfer has ended; what the sender announced but did not send is missing from it.
+/// Paths are sent to the peer unchanged. A received file is created or replaced atomically once its
+/// transfer has ended; it is shorter than announced if the sender sent less.
 class FileTransferService : public QObject {
     Q_OBJECT
 
 public:
-    /// Blocks until the way out is clear enough for another block; false when it never will be.
+    /// Blocks until the send queue has room for another block; false when it never will.
     using PacingFunction = std::function<bool()>;
 
-    /// `send` may be empty: messages then go nowhere. `maxMessageSize`: bytes that `send` takes
-    /// at most.
+    /// `send` may be empty; messages are then dropped. `maxMessageSize` is the max size, in bytes,
+    /// of a message that `send` accepts.
     FileTransferService(SendFunction send, qint64 maxMessageSize, QObject* parent = nullptr);
     ~FileTransferService() override;
 
-    /// Asked before every block of an upload, so that a large file is not read into the send queue
-    /// at once. Received messages may be handled inside.
+    /// Called before every block of an upload, so that a large file is not read into the send queue
+    /// all at once. Received messages may be handled during the call.
     void setPacing(PacingFunction pacing) { m_pacing = std::move(pacing); }
 
     /// The answer arrives as `directoryListed`. An empty path asks for the volumes.
     void requestListing(const QString& remotePath);
 
     /// The file arrives in one message and is written to `localPath`. A new request replaces the
-    /// one before it, whose answer, if it still comes, goes where the new one's then does.
+    /// previous one; if that is still answered, its file goes to the new `localPath` as well.
     void requestDownload(const QString& remotePath, const QString& localPath);
 
-    /// Sends the whole file before it returns; the event loop does not run meanwhile. The bytes are
-    /// those the file has when it is opened: what is appended later is not sent.
+    /// Sends the whole file before it returns; the event loop does not run meanwhile. The size is
+    /// taken when the file is opened: anything appended later is not sent.
     void uploadFile(const QString& localPath, const QString& remotePath);
 
     /// One received message, without the control channel's tag; logged and dropped when malformed.
@@ -58,10 +58,10 @@ Q_SIGNALS:
     void fileDownloadComplete(QString localPath);
     void fileUploadProgress(QString remotePath, int percent);
     void fileUploadComplete();
-    /// For the user. Ends whatever the text is about.
+    /// For the user. The request that the text is about has ended.
     void fileError(QString error);
     void transferStats(qint64 bytesTransferred, int bytesPerSec, int etaSeconds);
-    /// What the `fileError` that follows at once is about.
+    /// Says which request the `fileError` emitted right after it is about.
     void requestFailed(corvane::FileTransferError error);
 
 private:
@@ -89,9 +89,9 @@ private:
     const qint64 m_maxMessageSize;
     PacingFunction m_pacing;
     bool m_uploading = false;
-    QStringList m_expectedListings;          ///< asked for and not yet answered
-    Download m_download;                     ///< the one last asked for
-    int m_expectedDownloads = 0;             ///< asked for and not yet answered
+    QStringList m_expectedListings;          ///< not yet answered
+    Download m_download;                     ///< the latest one requested
+    int m_expectedDownloads = 0;             ///< not yet answered
     std::unique_ptr<UploadSpool> m_incoming; ///< the peer's upload to this machine
     bool m_strayChunkLogged = false;
 };

@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// Hands one message to the peer. False when it was not taken: no session, message too large,
+/// Sends one message to the peer. False when it was not accepted: no session, message too large,
 /// connection gone.
 using SendFunction = std::function<bool(const ByteVector& message)>;
 

@@ -4,7 +4,7 @@
 
 namespace corvane {
 
-/// What passed in one interval; counted up, then taken with `std::exchange`.
+/// The traffic of one interval: counted as it passes, then taken with `std::exchange`.
 struct TrafficTally {
     int64_t frames = 0;
     int64_t bytes = 0;

@@ -9,17 +9,17 @@
 
 namespace corvane {
 
-/// What a selection comes to, before the user has agreed to it.
+/// The transfers that a selection amounts to, before the user has agreed to them.
 struct TransferPlan {
     QList<FileTransfer> transfers;
-    QStringList overwritten; ///< names that already exist where they would go
+    QStringList overwritten; ///< names that already exist at the destination
 };
 
-/// Folders are left out, and so, with a log line, are names that would lead out of `localFolder`.
+/// Leaves out folders and, with a log line, names that would lead out of `localFolder`.
 TransferPlan planDownloads(const QList<FileEntry>& entries, const QString& remoteFolder,
                            const QString& localFolder);
 
-/// `remoteNames`: the files that are in the remote folder now.
+/// `remoteNames`: the names of the files now in the remote folder.
 TransferPlan planUploads(const QList<QFileInfo>& files, const QString& remoteFolder,
                          const QStringList& remoteNames);
 

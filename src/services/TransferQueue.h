@@ -11,24 +11,24 @@ struct FileTransfer {
     QString localPath;
 };
 
-/// The files of a batch that are copied one after another: what waits, what is under way, and how
-/// far the batch has come. A batch lasts from the first `append` to `clear`.
+/// A batch of files that are copied one after another: which are waiting, which one is under way,
+/// and how far the batch has progressed. A batch lasts from the first `append` to `clear`.
 class TransferQueue {
 public:
-    /// Begins a batch, or makes the running one longer.
+    /// Starts a batch, or extends the running one.
     void append(const QList<FileTransfer>& transfers);
 
-    /// Ends the batch and forgets what waits.
+    /// Ends the batch and drops the waiting transfers.
     void clear();
 
-    /// Takes the first waiting transfer, which is under way until `finishCurrent`. There must be
-    /// one.
+    /// Takes the first waiting transfer, of which there must be one. It is under way until
+    /// `finishCurrent`.
     void startNext();
     void finishCurrent() { m_isUnderWay = false; }
 
     bool isRunning() const { return m_total > 0; }
     bool isUnderWay() const { return m_isUnderWay; }
-    const FileTransfer& current() const { return m_current; } ///< the one last taken
+    const FileTransfer& current() const { return m_current; } ///< the latest one taken
 
     qsizetype ordinal() const { return m_total - remaining(); } ///< of the current one, from 1
     qsizetype total() const { return m_total; }

@@ -12,7 +12,7 @@ namespace corvane {
 UploadSpool::UploadSpool(QString destination, quint64 announcedSize, size_t memoryLimit)
     : m_destination(std::move(destination)), m_announcedSize(announcedSize),
       m_memoryLimit(memoryLimit),
-      // A peer that looks at the volumes names no folder, and means none of this program's.
+      // A peer viewing the list of volumes names no folder; it does not mean this program's own.
       m_failed(QDir::isRelativePath(m_destination)) {
     m_memory.reserve(std::min<quint64>(announcedSize, m_memoryLimit));
 }

@@ -10,15 +10,15 @@ namespace corvane {
 
 class AtomicFile;
 
-/// The peer's upload while it arrives: in memory as far as that is reasonable, in a file beside its
-/// destination beyond it, and at its destination only when `commit` says so.
+/// Holds the peer's upload while it arrives: in memory up to a limit, beyond that in a file beside
+/// its destination. It appears at the destination only on `commit`.
 class UploadSpool {
 public:
-    /// Bytes kept in memory at most.
+    /// Max bytes kept in memory.
     static constexpr size_t kMemoryLimit = 64 * 1024 * 1024;
 
-    /// `announcedSize` is the peer's word; no more than that is taken, and no more than the memory
-    /// limit is allocated for it.
+    /// `announcedSize` is the peer's claim: no more than that is accepted, and no more than the
+    /// memory limit is allocated for it.
     UploadSpool(QString destination, quint64 announcedSize, size_t memoryLimit = kMemoryLimit);
     ~UploadSpool();
 
@@ -26,11 +26,11 @@ public:
     quint64 announcedSize() const { return m_announcedSize; }
     quint64 receivedSize() const { return m_receivedSize; }
 
-    /// False for a chunk that exceeds the announced size: what is beyond that is not taken.
+    /// False when the chunk exceeds the announced size; the excess is dropped.
     bool append(ByteSpan chunk);
 
-    /// Has what has arrived appear at the destination, an absolute path. False when that, or
-    /// keeping it until now, failed.
+    /// Makes what has arrived appear at the destination, which must be an absolute path. False when
+    /// this, or storing the data earlier, failed.
     bool commit();
 
 private:

@@ -12,8 +12,8 @@ namespace corvane {
 
 class AesGcmCipher;
 
-/// Turns a screen image into one sealed video message: convert, encode, seal. Follows the size of
-/// the frames it is given. Used by one thread at a time.
+/// Turns a screen image into one sealed video message: converts, encodes and seals it. Adapts to
+/// the size of the frames it is given. Used by one thread at a time.
 class FramePipeline {
 public:
     /// `cipher` is borrowed and must outlive the pipeline.
@@ -21,8 +21,8 @@ public:
                   std::unique_ptr<IVideoEncoder> encoder);
 
     /// The sealed packet; no value when the frame is unusable, the encoder held it back or a step
-    /// failed (logged). Where a key frame is asked for and the last packet was one of the same
-    /// picture, it is that packet again: nothing is quicker to send after one that was lost.
+    /// failed (logged). When a key frame is requested and the last packet was a key frame of the
+    /// same picture, that packet is sealed again: nothing is quicker to send after a loss.
     std::optional<ByteVector> process(const CapturedFrame& frame);
 
     /// Closes the encoder; the next frame opens it again.
@@ -38,7 +38,7 @@ private:
     std::unique_ptr<IVideoEncoder> m_encoder;
     ByteVector m_picture;            ///< the last one encoded
     ByteVector m_packet;             ///< its packet
-    bool m_packetIsKeyframe = false; ///< and the encoder builds on it
+    bool m_packetIsKeyframe = false; ///< a key frame that the encoder builds on
 };
 
 } // namespace corvane

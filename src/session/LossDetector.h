@@ -6,9 +6,9 @@
 
 namespace corvane {
 
-/// Finds out which of the peer's sealed messages never arrive, from the counters of those that do.
-/// Messages of different channels overtake each other, so a missing one counts as lost only when it
-/// has been missing for `reorderWindow`.
+/// Finds out, from the counters of the peer's sealed messages that arrive, which ones never do.
+/// Messages of different channels overtake each other, so a missing one counts as lost only after
+/// it has been missing for `reorderWindow`.
 class LossDetector {
 public:
     using Time = std::chrono::steady_clock::time_point;
@@ -16,14 +16,14 @@ public:
     explicit LossDetector(std::chrono::milliseconds reorderWindow)
         : m_reorderWindow(reorderWindow) {}
 
-    /// A message with this counter has arrived. The peer counts from 0. False when it is none that
-    /// was waited for: it was here before, or has been given up.
+    /// Records that the message with this counter has arrived; the peer counts from 0. False when
+    /// it was not awaited: it is a repetition, or has already been given up.
     bool note(uint64_t counter, Time now);
 
     /// Whether messages were lost since the last call. They are not reported again.
     bool takeLoss(Time now);
 
-    /// Nothing sent before this message matters any more.
+    /// Ignores losses of messages sent before this one.
     void forgetBefore(uint64_t counter);
 
     bool isAnythingMissing() const { return !m_missing.empty(); }
@@ -34,8 +34,8 @@ private:
         Time since;
     };
 
-    /// More than any disorder of a network leaves open; a peer that invents counters gets no
-    /// further.
+    /// More gaps than reordering in a network leaves open; limits what a peer that invents counters
+    /// can cause.
     static constexpr size_t kMaxGaps = 256;
 
     bool close(uint64_t counter);

@@ -10,12 +10,11 @@
 
 namespace corvane {
 
-/// Sealed packets on their way from the capture thread to the main thread, with the gate that holds
-/// the capture thread back while they cannot leave. One per stream, so no packet outlives a
-/// session.
+/// Takes sealed packets from the capture thread to the main thread, and holds the capture thread
+/// back while they cannot be sent. One per stream, so no packet outlives a session.
 ///
-/// Packets build on one another: none is dropped while the queue is open. A main thread that stalls
-/// pauses the capture thread instead, once `capacity` bytes wait.
+/// Packets build on one another, so none is dropped while the queue is open. Instead, back-pressure
+/// pauses the capture thread once `capacity` bytes wait because the main thread is busy.
 class PacketQueue {
 public:
     /// Many seconds of video, and room for the largest key frame.
@@ -23,18 +22,18 @@ public:
 
     explicit PacketQueue(size_t capacity = kDefaultCapacity) : m_capacity(capacity) {}
 
-    /// Whether packets can leave at all. Off at first.
+    /// Whether packets can be sent at all. Off initially.
     void setFlowing(bool flowing);
 
-    /// Drops what waits and releases the capture thread. Final.
+    /// Drops the waiting packets and releases the capture thread for good.
     void close();
 
     /// Capture thread: waits until packets flow and fewer than `capacity` bytes wait, however large
     /// the next packet is. False once closed.
     bool waitForRoom();
 
-    /// Capture thread: appends a packet; does not wait. True when the main thread must be woken:
-    /// nothing waited before.
+    /// Capture thread: appends a packet without waiting. True when the queue was empty, so that the
+    /// main thread must be woken.
     bool push(ByteVector packet);
 
     /// Main thread: the oldest packet; no value when none waits.

@@ -56,7 +56,7 @@ void PictureRecovery::miss() {
     m_whole = false;
 }
 
-/// Asks where something is missing, and comes back as long as something may be.
+/// Requests a key frame if one is needed, and checks again as long as anything is missing.
 void PictureRecovery::look() {
     const auto now = Clock::now();
     if (m_losses.takeLoss(now)) {
@@ -76,7 +76,7 @@ void PictureRecovery::look() {
     }
 }
 
-/// A look that is due earlier stays due.
+/// A check that is due earlier stays scheduled.
 void PictureRecovery::schedule(std::chrono::milliseconds delay) {
     if (m_running && (!m_timer.isActive() || m_timer.remainingTimeAsDuration() > delay)) {
         m_timer.start(delay);

@@ -9,38 +9,37 @@
 
 namespace corvane {
 
-/// Sees to it that the viewer's picture becomes whole again after a video packet was lost, since
-/// everything that follows builds on it: asks for a key frame, and goes on asking until one is
-/// there. Main thread.
+/// Restores the viewer's picture after the loss of a video packet, on which everything later
+/// builds: requests a key frame, and repeats the request until one arrives. Main thread.
 class PictureRecovery : public QObject {
     Q_OBJECT
 
 public:
     struct Timings {
-        /// How long a message may be on its way after a later one has arrived.
+        /// How long a message may still be under way after a later one has arrived.
         std::chrono::milliseconds reorderWindow{200};
-        /// The least time between two requests.
+        /// The shortest time between two requests.
         std::chrono::milliseconds interval{500};
-        /// How long to wait for anything at all. Long, since the encoder's first picture takes
-        /// seconds on a busy machine, and asking for another one then delays what follows.
+        /// How long to wait for the first picture. Long, since the encoder's first picture takes
+        /// seconds on a busy machine, and requesting another one then delays what follows.
         std::chrono::milliseconds firstPicture{10'000};
     };
 
     explicit PictureRecovery(QObject* parent = nullptr) : PictureRecovery(Timings{}, parent) {}
     PictureRecovery(Timings timings, QObject* parent = nullptr);
 
-    /// From now on a picture is due.
+    /// Starts waiting for the first picture.
     void start();
     void stop();
 
-    /// A message of either channel was opened. `counter` is its sender's. False when it is a
-    /// repetition, or comes too late for anything.
+    /// A message of either channel was opened; `counter` is its sender's. False when it is a
+    /// repetition or too late to be of any use.
     bool onMessage(uint64_t counter);
 
-    /// A picture came out of the message with this counter.
+    /// The message with this counter yielded a picture.
     void onPicture(uint64_t counter, bool keyframe);
 
-    /// A packet gave no picture.
+    /// A packet yielded no picture.
     void onDecodeFailure();
 
 Q_SIGNALS:
@@ -54,7 +53,7 @@ private:
     const Timings m_timings;
     LossDetector m_losses;
     QTimer m_timer;
-    LossDetector::Time m_notBefore; ///< of the next request
+    LossDetector::Time m_notBefore; ///< earliest time of the next request
     bool m_running = false;
     bool m_whole = false;
 };

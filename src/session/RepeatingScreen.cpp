@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// After the last change. Three, for a network that loses one packet in twenty.
+/// Times since the last change. Three of them, for a network that loses one packet in twenty.
 constexpr std::array kRepeatAfter{300ms, 1000ms, 3000ms};
 
 } // namespace

@@ -8,9 +8,9 @@ namespace corvane {
 
 class PictureRequests;
 
-/// A screen that shows its last picture again while nothing changes on it: when asked to, so that a
-/// viewer who missed a packet gets a whole picture from a screen that stands still, and a few times
-/// by itself, since a viewer finds out about a lost packet only from one that follows it.
+/// A screen that shows its last picture again while nothing changes on it: on request, so that a
+/// viewer who missed a packet gets a whole picture of a still screen, and a few times by itself,
+/// since a viewer notices a lost packet only when a later one arrives.
 class RepeatingScreen : public IScreenCaptureBackend {
 public:
     /// `requests` is borrowed and must outlive the screen.
@@ -30,8 +30,8 @@ private:
 
     const std::unique_ptr<IScreenCaptureBackend> m_screen;
     PictureRequests& m_requests;
-    Clock::time_point m_changed; ///< when the screen last did
-    size_t m_repeats = 0;        ///< by itself, since then
+    Clock::time_point m_changed; ///< when the screen last changed
+    size_t m_repeats = 0;        ///< unrequested ones since then
 };
 
 } // namespace corvane

@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// The texts that a session command carries.
+/// The texts that session commands carry.
 inline constexpr std::string_view kDisconnectCommand = "disconnect";
 inline constexpr std::string_view kSwitchMonitorCommand = "switch_monitor:";
 

@@ -20,7 +20,7 @@ constexpr size_t kLoggedCommandSize = 200;
 
 } // namespace
 
-/// Who takes a tag, from which size on (tag byte included), and what handles it.
+/// The roles that accept a tag, its shortest message (tag byte included) and its handler.
 struct SessionDataPlane::ControlRoute {
     ControlTag tag;
     bool master;
@@ -240,7 +240,7 @@ void SessionDataPlane::sendVideo(const ByteVector& sealed) {
         break;
     case SendResult::Refused:
         m_link.countDroppedFrame();
-        // The viewer misses this frame and cannot use what builds on it.
+        // The viewer will lack this frame and cannot use what builds on it.
         m_target->requestKeyframe();
         break;
     case SendResult::NotConnected:

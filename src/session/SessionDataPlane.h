@@ -14,11 +14,11 @@
 
 namespace corvane {
 
-/// Everything one session carries once its key is agreed: dispatches what comes in by channel and
-/// tag, and owns the link, the services and the streams of its side.
+/// Handles all of a session's traffic once its key is agreed: dispatches what comes in by channel
+/// and tag, and owns the link, the services and the streams of its side.
 ///
-/// One per session, on the main thread. Unusable messages are logged and dropped; the session goes
-/// on.
+/// One per session, on the main thread. Unusable messages are logged and dropped; the session
+/// continues.
 class SessionDataPlane : public QObject {
     Q_OBJECT
 

@@ -13,8 +13,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kLatencyInterval{1000};
 
-// What a file leaves in the send queue: enough to keep a gigabit link busy for 30 ms while the next
-// block is read. Input and pictures wait behind it, and behind what the transport itself holds.
+// How much of a file the send queue may hold: enough to keep a gigabit link busy for 30 ms while
+// the next block is read. Input and pictures wait behind it, and behind what the transport itself
+// holds.
 constexpr qint64 kFileQueueLimit = 4 * 1024 * 1024;
 
 } // namespace

@@ -17,18 +17,17 @@ namespace corvane {
 class AesGcmCipher;
 class ConnectionQualityMonitor;
 
-/// What became of a message that was to be sent.
+/// The result of sending a message.
 enum class SendResult {
     Sent,
-    NotConnected, ///< the session is not, or is closing
+    NotConnected, ///< the session is not connected, or is closing
     NoTransport,
     SealingFailed,
     Refused, ///< by the transport; the message is lost
 };
 
-/// The sealed way between the two peers of one session: what goes out and comes in passes here, is
-/// sealed or opened, and is counted for the quality monitor, if there is one. Main thread, but for
-/// the cipher.
+/// The sealed link between the two peers of one session: seals what goes out, opens what comes in,
+/// and counts both for the quality monitor, if there is one. Main thread, except for the cipher.
 class SessionLink : public QObject {
     Q_OBJECT
 
@@ -58,25 +57,25 @@ public:
     /// Empty on failure.
     ByteVector open(const QByteArray& sealed);
 
-    /// The peer's counter in a message that could be opened.
+    /// The peer's counter in a message that was opened successfully.
     static uint64_t counterOf(const QByteArray& sealed);
 
-    /// Seals a message and sends it. One that cannot be sent is not sealed, so the peer misses no
-    /// counter.
+    /// Seals a message and sends it. One that cannot be sent is not sealed, so that the peer sees
+    /// no gap in the counters.
     SendResult send(ChannelType channel, const ByteVector& message);
 
-    /// The same for a message that is sealed already.
+    /// Sends a message that is already sealed.
     SendResult sendSealed(ChannelType channel, const ByteVector& sealed);
 
-    /// Blocks until the transport's queue is short enough for more of a file; false when it will
-    /// not be. Received messages are handled inside.
+    /// Blocks until the transport's queue has room for more of a file; false when it never will.
+    /// Received messages are handled during the call.
     bool waitForRoom();
 
     void countFrame();
     void countDroppedFrame();
 
 private:
-    /// What stands in the way of sending; nothing when the link is open.
+    /// Why nothing can be sent; no value when the link is open.
     std::optional<SendResult> obstacle() const;
     void measureLatency();
 

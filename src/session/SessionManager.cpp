@@ -18,8 +18,8 @@ namespace corvane {
 
 namespace {
 
-/// Requests in the REST client's error reports whose sender has got beyond what they may fail:
-/// the session is connected, or has ended.
+/// Requests, as the REST client's error reports name them, whose failure no longer matters: by then
+/// the session is connected or has ended.
 constexpr auto kCompleteEndpoint = "/sessions/.../complete";
 constexpr auto kCloseEndpoint = "/sessions/.../close";
 
@@ -318,7 +318,7 @@ void SessionManager::setState(SessionState newState) {
 }
 
 void SessionManager::fail(const QString& error) {
-    // Clean first: whoever hears of the failure may start the next session at once.
+    // Clean up first: a slot connected to the failure may start the next session at once.
     cleanup();
     setState(SessionState::Failed);
     Q_EMIT sessionError(error);
@@ -374,7 +374,7 @@ void SessionManager::cleanup() {
     ++m_generation;
     m_api->abandonSessionSetup();
     m_earlyAck.reset();
-    // Clean-up may run inside a signal of either object: cut them off now, delete them later.
+    // Clean-up may run inside a signal of either object: disconnect them now, delete them later.
     const auto retire = [this](auto& owner) {
         if (owner) {
             QObject* const object = owner.release();

@@ -44,7 +44,7 @@ public:
     QString sessionId() const { return m_sessionId; }
     QString peerClientId() const { return m_peerId; }
 
-    /// What carries the connected session: "p2p" or "relay"; empty before.
+    /// What the connected session runs over: "p2p" or "relay"; empty before.
     QString transportMethod() const { return m_transportMethod; }
 
     /// Starts a session as viewer. Refused, with `sessionError`, unless idle or failed.
@@ -66,11 +66,11 @@ public:
     /// Also switches a running session that started with it.
     void setClipboardSharing(bool enabled);
 
-    /// What counts the session's traffic, borrowed; null for none.
+    /// Counts the session's traffic. Borrowed; null for none.
     void setQualityMonitor(ConnectionQualityMonitor* monitor);
 
     /// The services of the running session, from the start of streaming until the session is
-    /// cleaned up; null otherwise. A holder outlives them and needs a QPointer.
+    /// cleaned up; null otherwise. A caller that keeps one needs a QPointer.
     ChatService* chatService() const;
     FileTransferService* fileTransferService() const;
 
@@ -85,8 +85,8 @@ Q_SIGNALS:
     void inputEventReceived(corvane::InputEvent event);
     void sessionError(QString error);
 
-    /// The session is about to be ended by this side or by the server: the last chance to send the
-    /// partner something.
+    /// The session is about to be ended by this side or by the server: the last chance to send
+    /// something to the partner.
     void sessionEnding();
 
 private Q_SLOTS:
@@ -100,7 +100,7 @@ private Q_SLOTS:
     void onTransportData(corvane::ChannelType channel, const QByteArray& data);
 
 private:
-    /// The partner can be quicker than the server's answer to the request that reached it.
+    /// Kept when the partner answers before the server's response to the request arrives.
     struct HandshakeAck {
         QString sessionId;
         QString state;
@@ -127,7 +127,7 @@ private:
     QString m_sessionId;
     QString m_peerId;
     QString m_transportMethod;
-    /// Tells a queued end apart from the session that it was meant for.
+    /// Tells whether a queued end was meant for the current session.
     quint64 m_generation = 0;
     std::optional<HandshakeAck> m_earlyAck;
     QPointer<ConnectionQualityMonitor> m_qualityMonitor;

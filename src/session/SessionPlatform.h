@@ -10,8 +10,8 @@
 
 namespace corvane {
 
-/// Where a session gets its platform objects from. The defaults are the real ones; tests put a
-/// synthetic screen and a recording input in their place.
+/// Where a session gets its platform objects from. The defaults are the real ones; tests use a
+/// synthetic screen and a recording input instead.
 struct SessionPlatform {
     std::function<std::vector<CaptureBackendCandidate>()> captureCandidates =
         captureBackendCandidates;

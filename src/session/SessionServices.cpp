@@ -71,7 +71,7 @@ void SessionServices::onChat(ByteSpan message) {
 }
 
 void SessionServices::sendClipboard(const QByteArray& data) {
-    // The data brings its tag along.
+    // The data already includes its tag.
     if (m_link.send(ChannelType::Control, copyBytes(bytesOf(data))) == SendResult::SealingFailed) {
         spdlog::error("Failed to encrypt clipboard data");
     }
@@ -90,7 +90,7 @@ bool SessionServices::sendChat(const ByteVector& message) {
                       tagged.size() + AesGcmCipher::kOverhead);
         return true;
     case SendResult::NotConnected:
-        // A session without a cipher has no services either.
+        // A session without a cipher has no services.
         spdlog::warn("Chat send blocked: state={}, cipher={}, transport={}",
                      sessionStateName(m_link.state()), true, m_link.hasTransport());
         break;

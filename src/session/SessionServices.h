@@ -13,7 +13,7 @@ class ClipboardSharing;
 class FileTransferService;
 class SessionLink;
 
-/// The services of one running session and their way to the control channel. Main thread.
+/// The services of one running session, connected to the control channel. Main thread.
 class SessionServices {
 public:
     /// `link` is borrowed and must outlive the services.
@@ -23,8 +23,7 @@ public:
     void start(bool clipboardSharing);
     void stop();
 
-    /// Without effect on a session that started without clipboard sharing, except that text goes on
-    /// being refused.
+    /// Has no effect on a session that started without clipboard sharing: it goes on refusing text.
     void setClipboardSharing(bool enabled);
 
     /// Null before `start`.

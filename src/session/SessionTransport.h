@@ -9,8 +9,8 @@ namespace corvane {
 
 class SignalingClient;
 
-/// Gets one session its transport, and carries the descriptions and candidates that this takes
-/// between the peers through the signaling channel. One per session; main thread.
+/// Establishes the transport of one session, exchanging the descriptions and candidates that this
+/// takes with the peer through the signaling channel. One per session; main thread.
 class SessionTransport : public QObject {
     Q_OBJECT
 
@@ -19,13 +19,13 @@ public:
     SessionTransport(SignalingClient* signaling, QString sessionId, QString peerClientId,
                      PeerTransportFactory peerFactory, QObject* parent = nullptr);
 
-    /// The result arrives as `established` or `failed`. `offerer` is true on one of the two sides.
+    /// The result arrives as `established` or `failed`. `offerer` is true on exactly one side.
     void establish(const QString& relayHost, bool offerer);
 
     /// The established transport, or null. Valid until `close`.
     ITransport* activeTransport() const { return m_manager.activeTransport(); }
 
-    /// Ends every connection and attempt, and emits nothing from here on.
+    /// Ends every connection and attempt; nothing is emitted afterwards.
     void close();
 
 Q_SIGNALS:

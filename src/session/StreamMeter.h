@@ -7,7 +7,7 @@
 
 namespace corvane {
 
-/// Logs at debug level, once a second while frames arrive, how many there were.
+/// Logs the number of frames at debug level, once a second while frames arrive.
 class StreamMeter {
 public:
     void count(size_t bytes);

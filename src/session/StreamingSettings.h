@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-/// What a session streams with. Taken over when streaming starts; later changes, other than to
-/// clipboard sharing, count from the next session on.
+/// What a session streams with. Copied when streaming starts; later changes, except to clipboard
+/// sharing, apply from the next session on.
 struct StreamingSettings {
     int captureFrameRate = kSpeedPreset.framesPerSecond; ///< frames per second, 1..60
     int encoderQuality = kSpeedPreset.encoderQuality;    ///< 0 (best) to 51

@@ -106,7 +106,7 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
     }
     std::optional<ByteVector> sealed;
     {
-        // Before the main thread can fail to send it and want another; and where making it fails.
+        // Before the main thread can fail to send it and request another; also if making it fails.
         const auto made = qScopeGuard([&] {
             if (frame.keyframeRequested) {
                 m_requests.keyframeDone();

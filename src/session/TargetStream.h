@@ -20,10 +20,10 @@ class InputForwarder;
 class ScreenCaptureManager;
 struct SessionPlatform;
 
-/// The shared side of a running session: captures, encodes and seals on the capture thread, hands
-/// every packet to the main thread, and applies the viewer's input.
+/// The shared machine's side of a running session: captures, encodes and seals on the capture
+/// thread, hands every packet to the main thread, and applies the viewer's input.
 ///
-/// All calls belong to the main thread, and so do the signals that do not say otherwise.
+/// All calls belong to the main thread, and so do all signals unless they say otherwise.
 class TargetStream : public QObject {
     Q_OBJECT
 
@@ -36,9 +36,8 @@ public:
     /// does.
     bool start(const SessionPlatform& platform);
 
-    /// While off, the capture thread holds on to the frame it has, so that the first picture of a
-    /// screen that never changes is not lost between the start of capture and the first moment a
-    /// packet can be sent. Off at first.
+    /// While off, the capture thread keeps the frame it has, so that the first picture of a screen
+    /// that never changes is not lost before the first packet can be sent. Off initially.
     void setFlowing(bool flowing);
 
     /// Ends capture and joins its thread. Packets not yet handed over are dropped.
@@ -47,7 +46,7 @@ public:
     /// See `PictureRequests`.
     void requestKeyframe();
 
-    /// The second key frame is the same sealed message, which the viewer knows by its counter.
+    /// The second key frame is the same sealed message; the viewer knows it by its counter.
     void repairPicture();
     void switchMonitor(int index);
     void applyInput(const InputEvent& event);

@@ -19,7 +19,7 @@ std::shared_ptr<DecodedFrame> ViewerStream::decode(uint64_t counter, ByteSpan pa
         return nullptr;
     }
     m_meter.count(packet.size());
-    // What came after an overtaken packet was decoded without it: too late to make up for that.
+    // Packets after an overtaken one were decoded without it, so it is of no use any more.
     std::shared_ptr<DecodedFrame> frame;
     if (counter >= m_nextCounter) {
         m_nextCounter = counter + 1;

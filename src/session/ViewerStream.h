@@ -13,8 +13,8 @@ namespace corvane {
 
 class IVideoDecoder;
 
-/// The viewing side of a running session: decodes the packets of the video channel and asks for a
-/// key frame where one was lost. Main thread.
+/// The viewer's side of a running session: decodes the packets of the video channel and requests a
+/// key frame when one is lost. Main thread.
 class ViewerStream : public QObject {
     Q_OBJECT
 
@@ -22,14 +22,14 @@ public:
     explicit ViewerStream(QObject* parent = nullptr);
     ~ViewerStream() override;
 
-    /// A message of either channel, with its sender's counter, was opened. False when it is a
-    /// repetition, or comes too late for anything.
+    /// A message of either channel was opened; `counter` is its sender's. False when it is a
+    /// repetition or too late to be of any use.
     bool onMessage(uint64_t counter) {
         return m_recovery.onMessage(counter) || counter >= m_nextCounter;
     }
 
-    /// The packet's picture, or null when none came out: it makes no sense, or it was overtaken by
-    /// a later one. Opens the decoder on first use.
+    /// The packet's picture, or null when there is none: the packet is invalid, or a later one has
+    /// overtaken it. Opens the decoder on first use.
     std::shared_ptr<DecodedFrame> decode(uint64_t counter, ByteSpan packet);
 
     void stop();
@@ -41,7 +41,7 @@ private:
     std::unique_ptr<IVideoDecoder> m_decoder;
     PictureRecovery m_recovery;
     StreamMeter m_meter;
-    uint64_t m_nextCounter = 0; ///< the packets before it have had their turn
+    uint64_t m_nextCounter = 0; ///< earlier packets are not decoded any more
 };
 
 } // namespace corvane

@@ -4,7 +4,7 @@
 
 namespace corvane {
 
-/// The program's icon, drawn: a white "C" on a blue rounded square of `size` by `size` pixels.
+/// Draws the program's icon: a white "C" on a blue rounded square of `size` by `size` pixels.
 QPixmap drawApplicationIcon(int size);
 
 } // namespace corvane

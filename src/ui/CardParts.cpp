@@ -19,8 +19,8 @@ void styleCard(QFrame* card, const QString& objectName) {
 
 QLabel* createCaption(const QString& text, QWidget* parent) {
     auto* const caption = new QLabel(text, parent);
-    caption->setIndent(0); // a padded label would stand to the right of the others
-    // The accents of capitals reach above the line.
+    caption->setIndent(0); // an indented label would stand to the right of the others
+    // The accents of capital letters reach above the line.
     caption->setStyleSheet(QStringLiteral("color: %1; font-size: 10px; font-weight: bold; "
                                           "letter-spacing: 1px; padding-top: 2px;")
                                .arg(QLatin1String(colors::kSecondary)));

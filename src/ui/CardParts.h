@@ -9,7 +9,7 @@ class QWidget;
 
 namespace corvane {
 
-/// The pieces that the home page's cards are put together from.
+/// The building blocks of the home page's cards.
 
 /// Gives a frame the look of a card; the style applies to `objectName` alone.
 void styleCard(QFrame* card, const QString& objectName);

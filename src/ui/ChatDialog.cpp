@@ -85,8 +85,8 @@ void ChatDialog::onSendClicked() {
 void ChatDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     m_input->setFocus();
-    // What was half typed when the window was hidden would be selected, and so lost to the next
-    // key.
+    // Text left half typed when the window was hidden would be selected, and so replaced by the
+    // next key press.
     QMetaObject::invokeMethod(m_input, &QLineEdit::deselect, Qt::QueuedConnection);
     scrollToEnd();
 }

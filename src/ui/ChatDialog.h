@@ -8,18 +8,18 @@ class QTextBrowser;
 
 namespace corvane {
 
-/// The small window that stays on top of others, in which the two sides of a session exchange text
-/// messages. It only shows and collects them; its creator carries them.
+/// A small window, kept on top of others, in which the two sides of a session exchange text
+/// messages. It only shows and collects them; its creator sends and receives them.
 ///
 /// Object names: "chatTranscript", "chatInput" and "chatSendButton".
 class ChatDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Messages that the transcript keeps; the oldest make room for new ones.
+    /// Max messages in the transcript; the oldest make room for new ones.
     static constexpr int kMaxMessages = 1000;
 
-    /// The characters of a message that are sent at most.
+    /// Max characters sent of a message.
     static constexpr int kMaxMessage = 10'000;
 
     explicit ChatDialog(QWidget* parent = nullptr);
@@ -28,8 +28,8 @@ public:
     static QString ownName() { return tr("Me"); }
     static QString partnerName() { return tr("Remote"); }
 
-    /// Adds a message to the transcript, all of it literally, and scrolls to it. `ownName` as
-    /// sender marks it as the user's own.
+    /// Adds a message to the transcript, shown literally, and scrolls to it. Passing `ownName` as
+    /// `sender` marks it as the user's own.
     void appendMessage(const QString& sender, const QString& text, const QDateTime& timestamp);
 
 public Q_SLOTS:

@@ -12,7 +12,7 @@ namespace corvane {
 
 class SettingsController;
 
-/// The home page's lower card: whom to connect to, the recent and the favourite partners.
+/// The home page's lower card: the partner to connect to, and the recent and favourite partners.
 class ConnectCard : public QFrame {
     Q_OBJECT
 

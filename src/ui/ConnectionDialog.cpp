@@ -15,7 +15,7 @@ namespace {
 constexpr int kMinimumWidth = 350;
 constexpr int kShortestPassword = 8; // characters
 
-/// A page of fields above the button that submits them; so does Return in a field.
+/// A page of fields above the button that submits them; Return in a field submits them, too.
 class FieldsPage : public QWidget {
 public:
     FieldsPage(const char* buttonName, const QString& buttonText)
@@ -23,7 +23,7 @@ public:
         m_layout->addLayout(m_form);
         m_button->setObjectName(QLatin1String(buttonName));
         m_button->setText(buttonText);
-        m_button->setAutoDefault(false); // a field's Return would click it a second time
+        m_button->setAutoDefault(false); // Return in a field would click it a second time
         m_layout->addWidget(m_button);
         m_layout->addStretch();
     }

@@ -9,8 +9,8 @@ namespace corvane {
 class MessageBoxes;
 
 /// Asks for a user's account on the server: an existing one to log in with, or a new one together
-/// with a name for this device. Checks what was typed and hands it over as it is; the requests, and
-/// closing the dialog, are the receiver's business.
+/// with a name for this device. Checks the input and passes it on unchanged; the receiver makes the
+/// requests and closes the dialog.
 ///
 /// Object names: "serverEdit"; "connectionTabs" with "loginUsernameEdit", "loginPasswordEdit",
 /// "loginButton" and "registerUsernameEdit", "registerPasswordEdit", "registerClientNameEdit",

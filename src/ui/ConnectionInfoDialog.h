@@ -15,7 +15,7 @@ class ConnectionQualityMonitor;
 class SessionManager;
 struct ConnectionStats;
 
-/// The facts of the running session, as they were when the dialog was made, and its quality, which
+/// Details of the running session, as they were when the dialog was created, and its quality, which
 /// follows the monitor once a second.
 ///
 /// Object names: "sessionIdValue", "remoteIdValue", "roleValue", "transportValue", "fpsValue",
@@ -25,8 +25,8 @@ class ConnectionInfoDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Both are borrowed; the session only for the time of this call. The monitor may be null and
-    /// may die before the dialog: the quality then stays as it is.
+    /// Both are borrowed; the session only for this call. The monitor may be null and may be
+    /// destroyed before the dialog: the quality then stays as it is.
     ConnectionInfoDialog(const SessionManager* session, const ConnectionQualityMonitor* monitor,
                          QWidget* parent = nullptr);
 

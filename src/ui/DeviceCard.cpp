@@ -35,7 +35,7 @@ DeviceCard::DeviceCard(QWidget* parent) : QFrame(parent) {
     layout->addLayout(createPasswordRow());
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("statusLabel"));
-    m_status->setIndent(0); // a padded label would stand to the right of the others
+    m_status->setIndent(0); // an indented label would stand to the right of the others
     layout->addWidget(m_status);
     setStatus(tr("Connecting..."), QLatin1String(colors::kAttention));
 }

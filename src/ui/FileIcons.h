@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// What marks a row in a list of files; dark where the row is selected. Main thread; the icons
-/// themselves may be copied anywhere.
+/// The icons of rows in a list of files; dark in selected rows. Main thread; the icons themselves
+/// may be copied on any thread.
 QIcon folderIcon();
 QIcon fileIcon();
 

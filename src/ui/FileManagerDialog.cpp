@@ -60,7 +60,7 @@ QWidget* FileManagerDialog::createTransferButtons() {
     constexpr int kMargin = 2;
     auto* const layout = new QVBoxLayout(pane);
     layout->setContentsMargins(kMargin, 0, kMargin, 0);
-    layout->addStrut(kPaneWidth - 2 * kMargin); // longer words make it wider
+    layout->addStrut(kPaneWidth - 2 * kMargin); // longer texts widen it
     layout->addStretch();
     const auto addButton = [&](const QString& icon, const QString& text, const QString& toolTip) {
         auto* const button = new QPushButton(QIcon(QStringLiteral(":/icons/") + icon), text, pane);
@@ -86,7 +86,7 @@ void FileManagerDialog::connectRunner() {
     connect(m_runner, &TransferRunner::statusChanged, this, &FileManagerDialog::showResult);
     connect(m_runner, &TransferRunner::transferStarting, this, [this] {
         m_status->showPercent(0);
-        repaint(); // all of it: a message box may just have uncovered it
+        repaint(); // the whole dialog: a message box may just have uncovered it
     });
     connect(m_runner, &TransferRunner::uploadEnded, m_status, &TransferStatus::hideSpeed);
     connect(m_runner, &TransferRunner::uploadsComplete, this,
@@ -188,7 +188,7 @@ void FileManagerDialog::confirm(const QString& question, const QStringList& over
 
 void FileManagerDialog::onTransferError(const QString& error) {
     constexpr qsizetype kMaxError = 300;
-    // The runner has heard of it before.
+    // The runner has already handled the error.
     if (!m_runner->isRunning()) {
         m_status->showPercent(0);
     }

@@ -20,7 +20,7 @@ class TransferRunner;
 class TransferStatus;
 
 /// Browses the partner's files beside this machine's own and copies them in both directions, by the
-/// rules of `TransferRunner`. Closing hides the dialog and lets a batch go on; the end of the
+/// rules of `TransferRunner`. Closing hides the dialog while a batch continues; the end of the
 /// service ends it.
 ///
 /// Object names: those of its parts, "downloadButton" and "uploadButton".
@@ -28,8 +28,8 @@ class FileManagerDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// The service is borrowed, may be null and may die first; then nothing is requested. Asks it
-    /// for the top level at once.
+    /// The service is borrowed, may be null and may be destroyed first; then nothing is requested.
+    /// Asks it for the top level at once.
     explicit FileManagerDialog(FileTransferService* service, QWidget* parent = nullptr);
 
 public Q_SLOTS:
@@ -39,7 +39,7 @@ public Q_SLOTS:
     void onDownloadClicked();
     void onUploadClicked();
     void onTransferError(const QString& error);
-    /// Advance the queues, which hear the service by themselves.
+    /// Advance the queues, which also follow the service directly.
     void onDownloadComplete(const QString& localPath);
     void onUploadComplete();
 
@@ -48,8 +48,8 @@ private:
     void connectRunner();
     void connectService(const FileTransferService* service);
     void openRemoteFolder(const QString& path);
-    /// Calls `run` once the user has agreed to overwrite what is, if anything is. `question` has a
-    /// place for the names.
+    /// Calls `run` at once if nothing would be overwritten, otherwise when the user has agreed to
+    /// it. `question` has a placeholder for the names.
     void confirm(const QString& question, const QStringList& overwritten,
                  const std::function<void()>& run);
     /// A status that lasts until the user opens a folder.

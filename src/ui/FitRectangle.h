@@ -12,7 +12,7 @@ namespace corvane {
 /// while there is no picture. Both sizes in the same unit, origin at the top left.
 QRect fitRectangle(QSize picture, QSize area);
 
-/// `position` as fractions of the rectangle's width and height. No value outside of it.
+/// `position` as fractions of the rectangle's width and height. No value outside it.
 std::optional<QPointF> fractionWithin(const QRect& rectangle, QPointF position);
 
 } // namespace corvane

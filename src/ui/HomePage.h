@@ -27,7 +27,7 @@ public:
 Q_SIGNALS:
     void adminPanelRequested();
     void settingsRequested();
-    /// What the page shows now needs at least this height, in pixels.
+    /// The page's present contents need at least this height, in pixels.
     void minimumHeightChanged(int height);
 
 protected:

@@ -16,9 +16,9 @@
 
 namespace corvane {
 
-/// The same icons as in the list beside this one, and types in the user's language; the base class
-/// opens every file to tell what it holds, and says so in English. The model asks from a thread of
-/// its own.
+/// Uses the same icons as the list beside this one, and names types in the user's language. The
+/// base class opens every file to detect its type, and names it in English. The model calls it from
+/// a thread of its own.
 class LocalFilePane::IconProvider : public QAbstractFileIconProvider {
 public:
     QIcon icon(IconType type) const override { return type == File ? m_file : m_folder; }
@@ -41,8 +41,8 @@ private:
     const QIcon m_file = fileIcon();
 };
 
-/// The base class sets its headings at the top of their fields, and writes sizes in another way
-/// than the list beside this one.
+/// The base class aligns its headings at the top of their fields, and formats sizes differently
+/// from the list beside this one.
 class LocalFilePane::Model : public QFileSystemModel {
 public:
     QVariant data(const QModelIndex& index, int role) const override {
@@ -88,7 +88,7 @@ LocalFilePane::LocalFilePane(QWidget* parent)
 }
 
 LocalFilePane::~LocalFilePane() {
-    m_tree->setModel(nullptr); // dies before the view, which is a child
+    m_tree->setModel(nullptr); // the model dies before the view, which is a child
 }
 
 QString LocalFilePane::targetFolder() const {

@@ -10,7 +10,7 @@ class QTreeView;
 
 namespace corvane {
 
-/// Shows the file systems of this machine and follows their changes.
+/// Shows this machine's file systems and follows their changes.
 ///
 /// Object name of the view: "localTree".
 class LocalFilePane : public QWidget {
@@ -31,7 +31,7 @@ private:
     class IconProvider;
     class Model;
 
-    const std::unique_ptr<IconProvider> m_icons; ///< used by the model until that is gone
+    const std::unique_ptr<IconProvider> m_icons; ///< used by the model for as long as it lives
     std::unique_ptr<Model> m_model;
     QTreeView* m_tree = nullptr;
 };

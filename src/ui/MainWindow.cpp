@@ -160,7 +160,7 @@ void MainWindow::connectServices() {
             &MainWindow::onSessionAutoAccept);
     connect(m_session, &SessionManager::stateChanged, this, &MainWindow::onSessionStateChanged);
     connect(m_session, &SessionManager::sessionError, this, &MainWindow::onSessionError);
-    // While the partner still listens: what the user holds down must not stay down over there.
+    // While the partner can still receive: what the user holds down must not stay down there.
     connect(m_session, &SessionManager::sessionEnding, m_viewer, &ViewerPage::stopViewing);
     connect(m_session, &SessionManager::frameDecoded, this, &MainWindow::onFrameDecoded);
     connect(m_quality, &ConnectionQualityMonitor::statsUpdated, this, &MainWindow::onStatsUpdated);
@@ -278,7 +278,7 @@ void MainWindow::onSessionStateChanged(SessionState newState) {
 }
 
 void MainWindow::onSessionError(const QString& error) {
-    // A request that is refused at once changes no state, which would restore the button.
+    // A request that is refused at once causes no state change, which would restore the button.
     restoreConnectButton();
     m_boxes->warn(tr("Session Error"), error);
 }

@@ -32,9 +32,9 @@ class UpdatePrompt;
 class ViewerPage;
 class WakeOnLanAction;
 
-/// The program's only top-level window: the home page with this device's identity and the way to a
-/// partner, and the viewer page while a partner is being viewed. Conducts between the user, the
-/// session and the server connection; what it shows lives in the pages.
+/// The program's only top-level window: the home page with this device's identity and the means to
+/// connect to a partner, and the viewer page while a partner is being viewed. Coordinates the user,
+/// the session and the server connection; what it shows is up to the pages.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -66,12 +66,12 @@ public Q_SLOTS:
                           const QString& releaseNotes);
     void showUpdateProgress(int percent);
     void showUpdateError(const QString& error);
-    /// Starts the installer on its own and asks for the end of the program.
+    /// Starts the installer as a separate process and asks for the program to end.
     void launchInstaller(const QString& installerPath);
 
 Q_SIGNALS:
     void updateRequested(QString downloadUrl);
-    /// The user has changed the settings, and they are stored.
+    /// The user has changed the settings, and they have been stored.
     void settingsChanged();
     /// The program should end: the window was closed for good, the tray's Quit was chosen, or an
     /// installer is waiting for it.

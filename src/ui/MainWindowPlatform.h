@@ -11,15 +11,15 @@ namespace corvane {
 
 class ISystemIntegration;
 
-/// What the main window needs of the machine under it.
+/// What the main window needs from the platform.
 struct MainWindowPlatform {
     /// Borrowed; must outlive the window.
     ISystemIntegration* integration = nullptr;
 
-    /// The monitors that this machine can share, in their order.
+    /// The monitors that this machine can share, in the platform's order.
     std::function<std::vector<MonitorInfo>()> monitors;
 
-    /// Whether the desktop has a place for a tray icon at this moment.
+    /// Whether the desktop currently has room for a tray icon.
     std::function<bool()> isTrayThere = &QSystemTrayIcon::isSystemTrayAvailable;
 };
 

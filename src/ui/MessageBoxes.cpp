@@ -4,7 +4,7 @@ namespace corvane {
 
 namespace {
 
-/// As much as leaves the box's buttons on the screen.
+/// Limits the text so that the box's buttons stay on the screen.
 QString boundedText(const QString& text) {
     constexpr qsizetype kMaxText = 1000;
     constexpr qsizetype kMaxLines = 20;
@@ -41,7 +41,7 @@ void MessageBoxes::ask(const QString& title, const QString& text,
     QMessageBox* const box = create(QMessageBox::Question, title, text);
     box->setObjectName(QStringLiteral("questionBox"));
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    // A question may come up under the fingers of someone who is typing.
+    // A question may appear while the user is typing, so a stray key must not confirm it.
     box->setDefaultButton(QMessageBox::No);
     connect(
         box, &QMessageBox::finished, this,

@@ -10,9 +10,9 @@
 
 namespace corvane {
 
-/// Message boxes that never block: a nested event loop inside a signal of the session or the
-/// network could see its sender torn down underneath. One box per title: a newer one replaces the
-/// older, so that a misbehaving peer or server cannot pile them up. Texts are shown literally.
+/// Message boxes that never block: inside a signal of the session or the network, a nested event
+/// loop could see its sender destroyed. One box per title: a newer one replaces the older, so that
+/// a misbehaving peer or server cannot pile them up. Texts are shown literally.
 ///
 /// Object names: "warningBox", "informationBox" and "questionBox".
 class MessageBoxes : public QObject {
@@ -26,7 +26,8 @@ public:
     /// Calls `closed`, if there is one, once the box is gone.
     void inform(const QString& title, const QString& text, std::function<void()> closed = {});
 
-    /// Calls `answered` with true for Yes and false for anything else, a replaced box included.
+    /// Calls `answered` with true for Yes and false for anything else, including when the box is
+    /// replaced.
     void ask(const QString& title, const QString& text, std::function<void(bool yes)> answered);
 
 private:

@@ -4,8 +4,8 @@ class QTreeView;
 
 namespace corvane {
 
-/// Has the keyboard work on the names of a list whose rows are selected whole: typing finds a row
-/// and copying copies by the column that was clicked into, which nobody can see there.
+/// Keeps a list's current column on the names where rows are selected whole: typing finds a row,
+/// and copying copies, by the column that was clicked, which the user cannot see.
 void keepKeyboardOnNames(QTreeView* list);
 
 } // namespace corvane

@@ -200,7 +200,7 @@ void Nv12Renderer::deleteTextures() {
 void Nv12Renderer::uploadPlane(GLuint texture, GLenum format, int texelBytes, QSize size,
                                const uint8_t* pixels, int stride) {
     glBindTexture(GL_TEXTURE_2D, texture);
-    // Rows follow each other at their stride, whatever its remainder by four.
+    // Rows are `stride` bytes apart, which need not be a multiple of four.
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     if (stride % texelBytes == 0) {
         glPixelStorei(GL_UNPACK_ROW_LENGTH, stride / texelBytes);
@@ -208,7 +208,7 @@ void Nv12Renderer::uploadPlane(GLuint texture, GLenum format, int texelBytes, QS
                         GL_UNSIGNED_BYTE, pixels);
         glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
     } else {
-        // The row length counts whole texels and cannot name this stride.
+        // The row length counts whole texels and cannot express this stride.
         for (int row = 0; row < size.height(); ++row) {
             glTexSubImage2D(GL_TEXTURE_2D, 0, 0, row, size.width(), 1, format, GL_UNSIGNED_BYTE,
                             pixels + static_cast<ptrdiff_t>(row) * stride);
@@ -219,7 +219,7 @@ void Nv12Renderer::uploadPlane(GLuint texture, GLenum format, int texelBytes, QS
 }
 
 void Nv12Renderer::reportErrors(const char* step) {
-    // A lost context reports an error forever.
+    // A lost context reports errors without end.
     constexpr int kMaxErrors = 32;
     for (int i = 0; i < kMaxErrors; ++i) {
         const GLenum error = glGetError();

@@ -13,7 +13,7 @@ namespace corvane {
 struct DecodedFrame;
 
 /// Draws NV12 pictures with OpenGL: two textures, converted to RGB by the fragment shader. Every
-/// call, construction and destruction included, needs the same OpenGL context to be current.
+/// call, including construction and destruction, needs the same OpenGL context to be current.
 class Nv12Renderer : private QOpenGLExtraFunctions {
 public:
     Nv12Renderer();
@@ -21,21 +21,21 @@ public:
     Nv12Renderer(const Nv12Renderer&) = delete;
     Nv12Renderer& operator=(const Nv12Renderer&) = delete;
 
-    /// Builds the shaders, for GLSL 3.30 or failing that 1.30. False, logged, when neither works.
+    /// Builds the shaders, for GLSL 3.30 or, failing that, 1.30. False, logged, when neither works.
     bool initialize();
 
     void upload(const DecodedFrame& frame);
 
-    /// Draws the last picture into `viewport` (OpenGL's bottom-left origin, device pixels). Nothing
-    /// without a picture.
+    /// Draws the last picture into `viewport` (OpenGL's bottom-left origin, device pixels). Does
+    /// nothing without a picture.
     void draw(const QRect& viewport);
 
     void clear(QSize area);
 
-    /// Back to the state before the first picture.
+    /// Returns to the state before the first picture.
     void forgetPicture();
 
-    /// Of the last picture, pixels; empty before the first.
+    /// Size of the last picture in pixels; empty before the first.
     QSize pictureSize() const { return m_geometry.size; }
 
 private:

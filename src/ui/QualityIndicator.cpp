@@ -50,7 +50,7 @@ void QualityIndicator::reset() {
 }
 
 void QualityIndicator::setColor(const char* color) {
-    // Of itself only: the tool tip would take the colours as well.
+    // Limited to this widget: its tool tip would inherit the colours.
     setStyleSheet(QStringLiteral("corvane--QualityIndicator { "
                                  "background: %1; border-radius: 6px; margin: 5px; }")
                       .arg(QLatin1String(color)));

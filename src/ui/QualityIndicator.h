@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// Round swatch that shows how good the connection is; its tool tip has the figures.
+/// Round swatch that shows how good the connection is; its tool tip gives the figures.
 class QualityIndicator : public QWidget {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
 
     void showQuality(QualityLevel level, const ConnectionStats& stats);
 
-    /// The look of a session that has not been measured yet.
+    /// Restores the look of a session that has not been measured yet.
     void reset();
 
 private:

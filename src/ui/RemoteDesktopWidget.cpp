@@ -47,7 +47,7 @@ RemoteDesktopWidget::RemoteDesktopWidget(QWidget* parent) : QOpenGLWidget(parent
 }
 
 RemoteDesktopWidget::~RemoteDesktopWidget() {
-    // The base class ends the context, when there is no renderer left to release.
+    // The base class destroys the context later, when there is no renderer left to release.
     if (context() != nullptr) {
         disconnect(context(), nullptr, this, nullptr);
     }
@@ -93,7 +93,7 @@ void RemoteDesktopWidget::updateFrame(std::shared_ptr<DecodedFrame> frame) {
 }
 
 void RemoteDesktopWidget::initializeGL() {
-    // The context, and all that lives in it, is replaced when the widget moves to another window.
+    // The context, and everything in it, is replaced when the widget moves to another window.
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this,
             &RemoteDesktopWidget::releaseRenderer);
     m_renderer = std::make_unique<Nv12Renderer>();
@@ -171,7 +171,7 @@ void RemoteDesktopWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void RemoteDesktopWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-    // The second press of a double click; the partner's system counts clicks itself.
+    // This is the second press of a double click; the partner's system counts clicks itself.
     mousePressEvent(event);
 }
 
@@ -212,7 +212,7 @@ void RemoteDesktopWidget::keyReleaseEvent(QKeyEvent* event) {
 }
 
 void RemoteDesktopWidget::focusOutEvent(QFocusEvent* event) {
-    // Their release will go to another window.
+    // The release events of what is held down will go to another window.
     releaseHeldInput();
     QOpenGLWidget::focusOutEvent(event);
 }
@@ -238,7 +238,7 @@ void RemoteDesktopWidget::forwardButton(InputEventType type, const QMouseEvent& 
             m_heldButtons.insert(button);
         }
     } else if (m_heldButtons.remove(button) && !forwarded) {
-        // A drag that ends outside of the picture must not leave the partner's button down.
+        // A drag that ends outside the picture must not leave the partner's button down.
         emitMouse(type, m_lastFraction, button, 0);
     }
 }

@@ -39,8 +39,8 @@ public:
     void clearPicture();
 
 public Q_SLOTS:
-    /// Makes this the next picture to paint; one that was not painted yet is dropped. Any thread
-    /// may hand a frame over; the repaint is scheduled on the main thread.
+    /// Makes this the next picture to paint; an earlier one not yet painted is dropped. May be
+    /// called from any thread; the repaint is scheduled on the main thread.
     void updateFrame(std::shared_ptr<corvane::DecodedFrame> frame);
 
 Q_SIGNALS:
@@ -80,7 +80,7 @@ private:
     /// Key presses forwarded and not yet released, by scan code and virtual key.
     QHash<quint64, InputEvent> m_heldKeys;
     QSet<MouseButton> m_heldButtons;
-    QPointF m_lastFraction; ///< where the pointer was last inside the picture
+    QPointF m_lastFraction; ///< the pointer's last position inside the picture
 };
 
 } // namespace corvane

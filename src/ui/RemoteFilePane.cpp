@@ -25,7 +25,7 @@ constexpr int kTypeColumn = 2;
 constexpr int kFolderRole = Qt::UserRole;
 constexpr int kEntryRole = Qt::UserRole + 1;
 
-/// A row that sorts by its name or type as text, by its size as a number, folders before files.
+/// A row that sorts by name or type as text and by size as a number, folders before files.
 class EntryItem : public QTreeWidgetItem {
 public:
     explicit EntryItem(const FileEntry& entry) : m_isFolder(entry.isDirectory), m_size(entry.size) {
@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    /// As people order names: "a2" before "B1", and "a2" before "a10".
+    /// Sorts as people would: "a2" before "B1", and "a2" before "a10".
     static const QCollator& collator() {
         static const QCollator instance = [] {
             QCollator collator;
@@ -95,9 +95,9 @@ void RemoteFilePane::createTree() {
     m_tree->setHeaderLabels({tr("Name"), tr("Size"), tr("Type")});
     m_tree->setColumnWidth(kNameColumn, 250);
     m_tree->setColumnWidth(kSizeColumn, 80);
-    // A last column that kept its default width would make the pane scroll sideways.
+    // With its default width, the last column would make the pane scroll sideways.
     m_tree->header()->setMinimumSectionSize(40);
-    m_tree->header()->setStretchLastSection(false); // which would keep it from shrinking
+    m_tree->header()->setStretchLastSection(false); // otherwise it would not shrink
     m_tree->header()->setSectionResizeMode(kTypeColumn, QHeaderView::Stretch);
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);
@@ -176,7 +176,7 @@ void RemoteFilePane::updatePathLabel() {
     }
     const QString path = m_path.isEmpty() ? QStringLiteral("/") : m_path;
     const QString text = tr("<b>Remote: </b>%1");
-    // The end of a long path tells more than its beginning.
+    // The end of a long path says more than its beginning.
     m_pathLabel->setText(text.arg(QString()));
     const int width = m_pathLabel->width() - m_pathLabel->sizeHint().width();
     m_pathLabel->setText(text.arg(

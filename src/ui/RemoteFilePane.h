@@ -13,21 +13,21 @@ class QTreeWidgetItem;
 namespace corvane {
 
 /// Shows one folder of the partner's machine. All names come from the partner and are shown
-/// literally. Holds no connection: its owner asks for listings and hands them in.
+/// literally. Has no connection of its own: its owner requests listings and passes them in.
 ///
 /// Object names: "remoteBackButton", "remotePathLabel" and "remoteTree".
 class RemoteFilePane : public QWidget {
     Q_OBJECT
 
 public:
-    /// Rows that are shown at most, so that no listing can freeze the window.
+    /// Max rows shown, so that no listing can freeze the window.
     static constexpr qsizetype kMaxRows = 100'000;
 
-    static constexpr int kTitleHeight = 28; ///< of what stands above the list
+    static constexpr int kTitleHeight = 28; ///< of the area above the list
 
     explicit RemoteFilePane(QWidget* parent = nullptr);
 
-    /// The folder shown, as last given to `openFolder`; empty is the top level.
+    /// The folder shown, as last passed to `openFolder`; empty is the top level.
     const QString& path() const { return m_path; }
 
     /// Shows the path and empties the list.
@@ -38,7 +38,7 @@ public:
 
     QList<FileEntry> selectedEntries() const; ///< in the order of the rows
 
-    /// The names of the files, not of the folders.
+    /// The names of the files, without the folders.
     QStringList fileNames() const;
 
     static FileEntry entryOf(const QTreeWidgetItem* item);

@@ -44,7 +44,7 @@ void SessionDialogs::openChat() {
 }
 
 void SessionDialogs::openFiles() {
-    // One for the whole session: closing it only hides it, so that its transfers go on.
+    // One for the whole session: closing only hides it, so that its transfers continue.
     if (!m_files) {
         m_files = new FileManagerDialog(m_session->fileTransferService(), m_window);
         m_files->setObjectName(QStringLiteral("fileManagerDialog"));
@@ -68,7 +68,7 @@ void SessionDialogs::setUpChat() {
     m_chat->setObjectName(QStringLiteral("chatDialog"));
     connect(m_chat, &ChatDialog::messageSent, this, &SessionDialogs::sendChat);
     if (service != nullptr) {
-        connect(service, &ChatService::messageReceived, m_chat, // dies with this session's chat
+        connect(service, &ChatService::messageReceived, m_chat, // ends with this session's chat
                 [this](const QString& text, const QDateTime& timestamp) {
                     receiveChat(text, timestamp);
                 });
@@ -76,7 +76,7 @@ void SessionDialogs::setUpChat() {
 }
 
 void SessionDialogs::sendChat(const QString& text) {
-    // At debug level only: what people write to each other is no business of an ordinary log.
+    // At debug level only: what people write to each other does not belong in an ordinary log.
     spdlog::debug("Chat: sending message '{}' ({} chars)", text.toStdString(), text.size());
     if (ChatService* const service = m_session->chatService()) {
         service->sendMessage(text);

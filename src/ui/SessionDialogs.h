@@ -12,7 +12,7 @@ class ConnectionQualityMonitor;
 class SessionManager;
 
 /// The windows that belong to one session: chat, files and connection information. None of them
-/// outlives the session that it was opened for.
+/// outlives the session for which it was opened.
 class SessionDialogs : public QObject {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ public:
     void openInfo();
 
 Q_SIGNALS:
-    /// Whether a message waits in a chat window that the user has not open.
+    /// Whether an unread message waits while the chat window is not open.
     void chatWaiting(bool waiting);
 
 private:

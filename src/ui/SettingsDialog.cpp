@@ -26,7 +26,7 @@ namespace {
 constexpr int kQualityMode = static_cast<int>(DisplayMode::Quality);
 constexpr int kSpeedMode = static_cast<int>(DisplayMode::Speed);
 
-/// Shown in their own words, whatever the interface's language.
+/// Each is shown in its own language, whatever the interface's.
 struct Language {
     const char* name;
     const char* code;
@@ -177,7 +177,7 @@ QWidget* SettingsDialog::createButtons() {
 
 void SettingsDialog::load() {
     const int language = m_language->findData(m_settings->language(), Qt::UserRole,
-                                              Qt::MatchFixedString); // which ignores case
+                                              Qt::MatchFixedString); // ignores case
     select(m_language, language, 0);
     select(m_displayMode, m_displayMode->findData(m_settings->displayMode()),
            m_displayMode->findData(kSpeedMode));

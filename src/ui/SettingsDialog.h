@@ -22,8 +22,9 @@ class ISystemIntegration;
 class MessageBoxes;
 class SettingsController;
 
-/// Edits the stored settings and how the system starts the program by itself. Shows what is stored
-/// when it is created; the boxes that need the system's answer stay disabled until it comes.
+/// Edits the stored settings and how the system starts the program automatically. Shows what is
+/// stored when it is created; the boxes that depend on the system's answer stay disabled until it
+/// arrives.
 ///
 /// Object names: "settingsTabs" with "languageCombo", "displayModeCombo", "monitorCombo",
 /// "clipboardSharingCheck", "autoReconnectCheck", "reconnectAttemptsSpin", "startAtLogonCheck",
@@ -34,16 +35,16 @@ class SettingsDialog : public QDialog {
 
 public:
     /// `settings` and `integration` are borrowed and must outlive the dialog. `monitors` are those
-    /// that this machine can share, in their order.
+    /// that this machine can share, in the platform's order.
     SettingsDialog(SettingsController* settings, ISystemIntegration* integration,
                    const std::vector<MonitorInfo>& monitors, QWidget* parent = nullptr);
 
 public Q_SLOTS:
-    /// Stores what is chosen, has the system follow and emits `settingsChanged`. Where the user or
-    /// the system has to be waited for, it returns before that and goes on by itself; until then,
+    /// Stores the chosen settings, passes them on to the system and emits `settingsChanged`. Where
+    /// it has to wait for the user or the system, it returns first and completes later; until then,
     /// and before the system's boxes are filled in, further calls do nothing.
     ///
-    /// Once the companion service was asked to take over, the program quits instead, without
+    /// If the companion service has been asked to take over, the program quits instead, without
     /// `settingsChanged`.
     void applySettings();
 

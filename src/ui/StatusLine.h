@@ -10,17 +10,17 @@ namespace corvane {
 class DeviceCard;
 class SystemTrayIcon;
 
-/// How this device stands with the server.
+/// This device's state at the server.
 enum class ServerState {
     LoggedIn,
-    Online, ///< reachable for partners
+    Online, ///< partners can connect
     Reconnecting,
-    Unavailable, ///< no log-on yet
+    Unavailable, ///< not logged on yet
     LoggedOut,
 };
 
-/// The one line that says how things stand, in the device card and in the tray's menu: what was
-/// shown last, be it about the server or about the session.
+/// The status line in the device card and in the tray's menu. Shows the latest state, whether of
+/// the server or of the session.
 class StatusLine : public QObject {
     Q_OBJECT
 

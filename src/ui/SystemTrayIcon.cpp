@@ -34,7 +34,7 @@ void SystemTrayIcon::createMenu() {
         return action;
     };
     m_menu->setObjectName(QStringLiteral("trayMenu"));
-    // The status is always disabled, and yet to be read.
+    // The status entry is always disabled, but must be readable.
     m_menu->setStyleSheet(QStringLiteral("QMenu::item:disabled { color: %1; }")
                               .arg(QLatin1String(colors::kSecondary)));
     const QAction* const show = add("trayShowAction", tr("Show"));

@@ -10,8 +10,8 @@ class QMenu;
 namespace corvane {
 
 /// The program's place in the desktop's tray: reachable while its window is hidden, with the status
-/// in its menu and balloons for what happens meanwhile. Only raises signals; the main window
-/// decides what they do. Starts hidden, with the session disconnected.
+/// in its menu and balloons for what happens meanwhile. Only emits signals; the main window decides
+/// what they do. Starts hidden, with the session disconnected.
 ///
 /// Object names: "trayMenu" and, in its order, "trayShowAction", "trayStatusAction",
 /// "trayDisconnectAction" and "trayQuitAction".
@@ -22,15 +22,15 @@ public:
     explicit SystemTrayIcon(QObject* parent = nullptr);
     ~SystemTrayIcon() override;
 
-    /// Shows `text`, as given, where the menu tells the status.
+    /// Shows `text`, unchanged, as the status in the menu.
     void setStatus(const QString& text);
 
     void setDisconnectEnabled(bool enabled);
 
-    /// Shows a balloon for five seconds where the desktop has them; elsewhere only logs.
+    /// Shows a balloon for five seconds if the desktop supports them; otherwise only logs.
     void showNotification(const QString& title, const QString& text, MessageIcon kind);
 
-    /// Tells that the client of this ID, shown as given, wants to connect.
+    /// Announces that the client with this ID, shown as given, wants to connect.
     void showConnectionRequest(const QString& clientId);
 
 Q_SIGNALS:
@@ -39,7 +39,7 @@ Q_SIGNALS:
     void quitRequested();
 
 protected:
-    /// The desktop's balloons, for a test to stand in for.
+    /// The desktop's balloons; tests override both.
     virtual bool hasBalloons() const;
     virtual void showBalloon(const QString& title, const QString& text, MessageIcon kind,
                              int milliseconds);

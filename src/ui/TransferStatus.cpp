@@ -17,14 +17,14 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A fast transfer reports more often than anyone could see.
+/// A fast transfer reports progress more often than anyone could see.
 constexpr auto kPaintInterval = 40ms;
 
 quint64 nonNegative(int value) {
     return static_cast<quint64>(qMax(value, 0));
 }
 
-/// Writes its text dark on the filled part and light on the rest: one colour cannot be read on
+/// Writes its text dark on the filled part and light on the rest: no single colour is legible on
 /// both.
 class TwoToneBar : public QProgressBar {
 public:

@@ -8,8 +8,8 @@ class QProgressBar;
 
 namespace corvane {
 
-/// How far the current file has come, and one line about it. Uploads keep the event loop from
-/// running, so progress is painted by the calls that report it.
+/// The progress of the current file, and one line about it. Uploads keep the event loop from
+/// running, so the calls that report progress paint it themselves.
 ///
 /// Object names: "transferProgress" and "transferStatus".
 class TransferStatus : public QWidget {

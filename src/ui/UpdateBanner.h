@@ -17,10 +17,10 @@ public:
     /// Shows the offer. `version` and `downloadUrl` come from the server and are shown literally.
     void announce(const QString& version, const QString& downloadUrl);
 
-    /// How far the download is, in percent.
+    /// Shows the progress of the download in percent.
     void setProgress(int percent);
 
-    /// Offers the download once more after it failed.
+    /// Offers the download again after it has failed.
     void reset();
 
 Q_SIGNALS:

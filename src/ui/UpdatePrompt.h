@@ -8,7 +8,7 @@ namespace corvane {
 class MessageBoxes;
 class UpdateBanner;
 
-/// Offers a newer version in the banner and follows it up to its installer.
+/// Offers a newer version in the banner and sees the update through to its installer.
 class UpdatePrompt : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
     void showProgress(int percent);
     void showError(const QString& error);
 
-    /// Starts the installer on its own. It waits for the end of the program.
+    /// Starts the installer as a separate process, which waits for the program to end.
     void launchInstaller(const QString& installerPath);
 
 Q_SIGNALS:

@@ -61,7 +61,7 @@ void ViewerPage::createView() {
     connect(m_toolBar, &ViewerToolBar::scaleModeChosen, m_view, &RemoteDesktopWidget::setScaleMode);
     connect(m_view, &RemoteDesktopWidget::inputEvent, this, &ViewerPage::inputEvent);
     m_screen = m_view;
-    // Qt draws a window without OpenGL until it holds the first widget that needs it.
+    // Qt draws a window without OpenGL until a widget in it needs OpenGL.
     renewWindow(*window(), [this] { m_layout->addWidget(m_view, 1); });
 }
 

@@ -14,8 +14,8 @@ namespace corvane {
 
 class RemoteDesktopWidget;
 
-/// Page shown while this side views a partner: the remote screen and its tool bar. Where the system
-/// has no OpenGL for it, the remote screen is a black area that takes no input.
+/// Page shown while this side views a partner: the remote screen and its tool bar. If the system
+/// has no suitable OpenGL, the remote screen is a black area that takes no input.
 class ViewerPage : public QWidget {
     Q_OBJECT
 
@@ -24,13 +24,13 @@ public:
 
     ViewerToolBar* toolBar() const { return m_toolBar; }
 
-    /// Forwards the user's input from here on. The first time, this creates the view.
+    /// Forwards the user's input from here on. The first call creates the view.
     void startViewing();
 
-    /// Releases what the user holds down over there and forwards nothing more.
+    /// Releases what the user holds down on the partner's machine and stops forwarding.
     void stopViewing();
 
-    /// False where there is no view for it.
+    /// False when there is no view to show it.
     bool showFrame(std::shared_ptr<DecodedFrame> frame);
     void clearPicture();
 

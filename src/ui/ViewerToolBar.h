@@ -14,20 +14,20 @@ namespace corvane {
 
 class QualityIndicator;
 
-/// Tool bar over the remote screen, and the shortcuts of its buttons, which work in the whole
-/// window while the tool bar shows.
+/// The tool bar above the remote screen, and the shortcuts of its buttons, which work in the whole
+/// window while the tool bar is visible.
 class ViewerToolBar : public QWidget {
     Q_OBJECT
 
 public:
     explicit ViewerToolBar(QWidget* parent = nullptr);
 
-    /// Marks the chat button while a message waits unread.
+    /// Marks the chat button while an unread message waits.
     void setChatWaiting(bool waiting);
 
     QualityIndicator* qualityIndicator() const { return m_quality; }
 
-    /// One line of figures; cut short when there is no room for it.
+    /// One line of figures; cut off when there is no room for it.
     void setSummary(const QString& text);
 
 Q_SIGNALS:

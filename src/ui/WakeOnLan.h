@@ -7,9 +7,9 @@
 
 namespace corvane {
 
-/// The packet that wakes the machine whose network card has the address: six bytes 0xFF and sixteen
-/// times the address. `macAddress` is six pairs of hexadecimal digits, with or without colons,
-/// dashes or spaces between them; nothing for anything else.
+/// The packet that wakes the machine whose network card has this address: six bytes 0xFF, then
+/// sixteen times the address. `macAddress` is six pairs of hexadecimal digits, with or without
+/// colons, dashes or spaces between them; no value for anything else.
 std::optional<QByteArray> wakeOnLanPacket(QString macAddress);
 
 /// Broadcasts the packet once on the local network. False when the system refuses.

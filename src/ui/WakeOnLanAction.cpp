@@ -14,7 +14,7 @@ WakeOnLanAction::WakeOnLanAction(SettingsController* settings, MessageBoxes* box
 
 void WakeOnLanAction::wake(const QString& partner) {
     const QString stored = m_settings->wakeOnLanAddress(partner);
-    // An address that was mistyped stays stored; offering it again lets it be mended.
+    // A mistyped address stays stored, and is offered again for correction.
     if (stored.isEmpty() || !wakeOnLanPacket(stored)) {
         askForAddress(partner, stored);
     } else {

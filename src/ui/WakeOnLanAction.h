@@ -16,7 +16,7 @@ public:
     /// All are borrowed; dialogs open over `window`.
     WakeOnLanAction(SettingsController* settings, MessageBoxes* boxes, QWidget* window);
 
-    /// `partner` is the bare ID as typed; whatever it is, its address is remembered under it.
+    /// `partner` is the bare ID as typed; whatever it is, the address is stored under it.
     void wake(const QString& partner);
 
 private:

@@ -19,12 +19,12 @@ QSize initialViewerSize() {
     return screen != nullptr ? (screen->availableSize() * 3 / 4).boundedTo(kViewerMax) : kViewerMax;
 }
 
-/// A new size alone would leave the window's system with one that fills the screen.
+/// Given only a new size, the window system would still treat the window as filling the screen.
 void endFillingTheScreen(QWidget& window) {
     window.setWindowState(window.windowState() & ~(Qt::WindowFullScreen | Qt::WindowMaximized));
 }
 
-/// For a window that has grown beyond its screen's edge.
+/// For a window that has grown beyond the edge of its screen.
 void keepOnScreen(QWidget& window) {
     const QRect available = window.screen()->availableGeometry();
     QRect frame = window.frameGeometry();

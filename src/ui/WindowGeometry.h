@@ -4,16 +4,16 @@ class QWidget;
 
 namespace corvane {
 
-/// Makes the main window as large as its home page, which is `preferredHeight` high, wants it.
+/// Resizes the main window to suit its home page, which is `preferredHeight` high.
 void fitToHomePage(QWidget& window, int preferredHeight);
 
-/// Makes the main window as large as a viewer should start, three quarters of the screen within
-/// what most pictures need, and keeps it on its screen.
+/// Resizes the main window to a viewer's initial size, which is three quarters of the screen but no
+/// more than most pictures need, and keeps it on its screen.
 ///
-/// With either, a window that fills the screen no longer does.
+/// Either call ends a full-screen or maximised state.
 void fitToViewerPage(QWidget& window);
 
-/// Shows the window full screen, or normal if it is full screen already.
+/// Shows the window full screen, or restores it if it is full screen already.
 void toggleFullScreen(QWidget& window);
 
 } // namespace corvane

@@ -12,14 +12,14 @@ void renewWindow(QWidget& window, const std::function<void()>& change) {
     }
     const bool active = window.isActiveWindow();
     const Qt::WindowStates states = window.windowState() & ~Qt::WindowActive;
-    // With none of its windows left on the screen the program would not be let in front again.
+    // With no window left on the screen, the program would not be allowed to the front again.
     QWidget standIn(nullptr, Qt::Tool | Qt::FramelessWindowHint);
     standIn.setGeometry(window.geometry());
     if (active) {
         standIn.show();
         standIn.activateWindow();
     }
-    window.setAttribute(Qt::WA_Moved); // or it would be placed as a new one
+    window.setAttribute(Qt::WA_Moved); // otherwise it would be placed like a new one
     window.hide();
     change();
     if (window.windowHandle() != nullptr) {

@@ -8,7 +8,7 @@
 namespace corvane {
 
 MonitorWatch::MonitorWatch(const X11Connection& connection) {
-    // Monitors that a user declares are announced by the root window alone, all others by RandR.
+    // User-defined monitors are announced only by the root window, all others by RandR.
     const uint32_t rootEvents = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(connection.handle(), connection.root(), XCB_CW_EVENT_MASK,
                                  &rootEvents);

@@ -6,7 +6,7 @@ namespace corvane {
 
 class X11Connection;
 
-/// Has the server announce changes of its monitors, and recognises the announcements.
+/// Asks the server to announce changes of its monitors, and recognises the announcements.
 class MonitorWatch {
 public:
     /// Asks the server to announce changes from now on, for as long as the connection lasts.

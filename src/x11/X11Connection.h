@@ -9,8 +9,8 @@ namespace corvane {
 /// A connection to an X server, and its default screen.
 class X11Connection {
 public:
-    /// Connects to the server that DISPLAY names, or to `display`. Null when there is none to talk
-    /// to; `error` then holds the library's number.
+    /// Connects to `display`, or to the server that DISPLAY names. Null on failure; `error` then
+    /// holds the library's number.
     static std::unique_ptr<X11Connection> open(const char* display = nullptr, int* error = nullptr);
 
     ~X11Connection();
@@ -21,7 +21,7 @@ public:
     const xcb_screen_t& screen() const { return *m_screen; }
     xcb_window_t root() const { return m_screen->root; }
 
-    /// False once the server has gone; it never comes back.
+    /// False once the server has gone; the connection never recovers.
     bool isAlive() const { return error() == 0; }
 
     /// Why the connection is dead, as the library's number; 0 while it is alive.
@@ -36,7 +36,7 @@ public:
     /// green and red above it.
     bool isBgrx() const;
 
-    /// Bits that one pixel of the screen's depth takes in an image; 0 when unknown.
+    /// Bits per pixel of the screen's depth in an image; 0 when unknown.
     int bitsPerPixel() const;
 
 private:

@@ -14,7 +14,7 @@ constexpr int kCaptionHeight = 28;
 constexpr QSize kMaxPicture(480, 420);
 constexpr QColor kBackground(0x30, 0x34, 0x3c);
 
-/// To what fits, never enlarged.
+/// Shrinks the image to fit, never enlarges it.
 QImage shrunk(const QImage& image) {
     const bool fits = image.size().boundedTo(kMaxPicture) == image.size();
     return fits ? image : image.scaled(kMaxPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);

@@ -7,7 +7,7 @@
 
 namespace corvane::demo {
 
-/// Small pictures with captions, side by side on one large one. Drawing text takes a
+/// Small pictures with captions, arranged on one large picture. Drawing text requires a
 /// QGuiApplication.
 class ContactSheet {
 public:
@@ -15,7 +15,7 @@ public:
         m_pictures.push_back({caption, picture});
     }
 
-    /// All pictures in the order of their coming, none enlarged.
+    /// All pictures in the order in which they were added, none enlarged.
     QImage draw() const;
 
 private:

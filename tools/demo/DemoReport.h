@@ -9,7 +9,7 @@ class DemoReport {
 public:
     void fact(const QString& name, const QString& value);
 
-    /// A finding that must hold for the demonstration to succeed. Answers `holds`.
+    /// Reports a finding that must hold for the demonstration to succeed. Returns `holds`.
     bool check(const QString& name, bool holds, const QString& value);
 
     bool isGood() const { return m_good; }

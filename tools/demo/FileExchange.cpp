@@ -16,7 +16,7 @@ namespace {
 const QString kFromTarget = QStringLiteral("from-target.bin");
 const QString kFromViewer = QStringLiteral("from-viewer.bin");
 
-constexpr qint64 kSize = 800'000; // a dozen upload blocks and a bit
+constexpr qint64 kSize = 800'000; // a dozen upload blocks and a part of one
 
 } // namespace
 
@@ -42,7 +42,7 @@ void FileExchange::copyBothWays() {
     harness::writeSampleFile(offered, kSize);
     harness::writeSampleFile(viewer.homePath(kFromViewer), kSize);
 
-    // Nothing is selected on the local side, so the copy goes to the user's home.
+    // Nothing is selected on the local side, so the copy goes to the user's home folder.
     const bool offeredFound =
         m_manager.openRemoteFolder(remoteFolder) && m_manager.selectRow(kFromTarget);
     if (offeredFound) {

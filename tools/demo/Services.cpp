@@ -28,7 +28,7 @@ bool say(DisplayUser& user, const QString& text) {
     return true;
 }
 
-/// Whether the transcript comes to hold the text.
+/// Waits for the transcript to contain the text; false when it never does.
 bool reads(DisplayUser& user, const QString& text) {
     return user.sees(kChatTitle) && user.clickInto(kChatTitle, kTranscript) &&
            harness::waitFor(
@@ -65,7 +65,7 @@ void exchangeChat(Stage& stage) {
     checkText(stage, QStringLiteral("chat to the viewer"), answered, answer);
     for (const auto& [user, caption] :
          {std::pair{&stage.viewer, "Chat, viewer"}, std::pair{&stage.target, "Chat, target"}}) {
-        user->clickInto(kChatTitle, kTranscriptEnd); // which unselects what was copied
+        user->clickInto(kChatTitle, kTranscriptEnd); // deselects what was copied
         stage.sheet.add(QLatin1String(caption), user->look(kChatTitle));
         user->escape(kChatTitle);
     }

@@ -12,13 +12,13 @@ namespace corvane::demo {
 const inline QString kHomeTitle = QStringLiteral("Corvane - Remote Access");
 const inline QString kViewerTitle = QStringLiteral("Corvane - ");
 
-/// In every main window, beside all widgets.
+/// A point in every main window that lies beside all widgets.
 inline constexpr QPoint kBesideAll(12, -12);
 
-/// On the viewer's tool bar, between the buttons.
+/// A point on the viewer's tool bar between the buttons.
 inline constexpr QPoint kToolBar(-240, 20);
 
-/// What the acts of the demonstration share. The session is started.
+/// What the acts of the demonstration share. The session has been started.
 struct Stage {
     harness::LiveSession& session;
     DemoReport& report;

@@ -14,8 +14,8 @@ using harness::DisplayUser;
 
 namespace {
 
-/// A window behind a button of the home page, by the presses of Tab from the partner field, or of
-/// Shift+Tab where negative.
+/// A window opened by a button of the home page, and how many presses of Tab lead from the partner
+/// field to the button; negative for Shift+Tab.
 struct Opened {
     const char* title;
     int tabs;
@@ -68,7 +68,7 @@ bool tourWindow(Stage& stage, const Opened& opened) {
     return closed;
 }
 
-/// What an unattended partner's machine would get from someone who has no password.
+/// Shows the question that someone without a password causes on a partner's machine.
 bool tourQuestion(Stage& stage) {
     const QString title = QStringLiteral("Incoming Connection");
     stage.session.server().pushText(
@@ -87,7 +87,7 @@ void report(Stage& stage, const QString& name, const QStringList& missing) {
                            : QStringLiteral("missing: ") + missing.join(QStringLiteral(", ")));
 }
 
-/// Opens the menu to the right of the one at `neighbour`, by trying.
+/// Opens the menu to the right of the one at `neighbour`, by trial and error.
 std::optional<QRect> openNextMenu(Stage& stage, const QRect& window, const QRect& neighbour) {
     harness::XDisplay& display = stage.viewer.display();
     for (int x = neighbour.left() + 24; x < neighbour.left() + 120; x += 16) {

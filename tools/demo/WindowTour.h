@@ -5,10 +5,10 @@ namespace corvane::demo {
 struct Stage;
 
 /// Opens the windows that belong to the viewer's home page, for the contact sheet, and reports
-/// which of them came. Ends with the keyboard in the partner field.
+/// which of them opened. Ends with the keyboard in the partner field.
 void tourHome(Stage& stage);
 
-/// The same for what belongs to a connected viewer, besides what other acts open.
+/// The same for what belongs to a connected viewer, except what other acts open.
 void tourViewer(Stage& stage);
 
 } // namespace corvane::demo

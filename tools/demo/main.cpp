@@ -26,7 +26,7 @@ using namespace std::chrono_literals;
 /// Above what two different desktops reach, below what scaling and the codec leave of the same one.
 constexpr double kSamePictureDb = 25.0;
 
-/// On an interrupt ends what the session started, wherever the demonstration stands.
+/// On an interrupt, ends what the session has started, at any point of the demonstration.
 void endOnInterrupt(harness::LiveSession& session) {
     sigset_t signals;
     sigemptyset(&signals);
@@ -71,7 +71,7 @@ void save(const QString& name, const QDir& folder, const QString& file, const QI
     report.check(name, folder.mkpath(QStringLiteral(".")) && picture.save(path), path);
 }
 
-/// Compares the two screens while they stand still, and keeps what was compared.
+/// Compares the two screens while they stand still, and keeps the images compared.
 void checkPicture(harness::LiveSession& session, const QDir& screenshots,
                   demo::DemoReport& report) {
     session.setDesktopRunning(false);
@@ -119,7 +119,7 @@ void watch(harness::LiveSession& session) {
     harness::waitFor([&] { return !session.viewer().isRunning(); }, std::chrono::hours(24));
 }
 
-/// All acts. False when the session did not come up.
+/// Runs all acts. False when the session did not start.
 bool present(harness::LiveSession& session, bool onWindows, bool relayWanted,
              const QDir& screenshots, demo::DemoReport& report) {
     session.server().setManifestVersion(QStringLiteral("9.0.0")); // for the update banner
@@ -154,7 +154,7 @@ bool present(harness::LiveSession& session, bool onWindows, bool relayWanted,
 } // namespace
 
 int main(int argc, char** argv) {
-    // Needs fonts for the contact sheet, but no display of its own. What it starts does.
+    // Needs fonts for the contact sheet, but no display of its own, unlike what it starts.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
     qunsetenv("QT_QPA_PLATFORM");

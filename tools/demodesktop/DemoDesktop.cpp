@@ -47,7 +47,7 @@ DemoDesktop::DemoDesktop(QWidget* parent) : QWidget(parent) {
     lively->addWidget(m_shape, 2);
 
     auto* const layout = new QVBoxLayout(this);
-    // Leaves the left free for the client's own window.
+    // Leaves space on the left for the client's own window.
     layout->setContentsMargins(490, 30, 40, 30);
     layout->setSpacing(20);
     layout->addWidget(m_time, 0, Qt::AlignHCenter);

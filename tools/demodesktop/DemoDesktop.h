@@ -10,12 +10,12 @@ namespace corvane::demo {
 class MovingShape;
 class ScrollingText;
 
-/// A desktop with something going on, for a shared machine that has none: a clock, a scrolling
-/// text, a moving shape and a field to type into.
+/// A desktop with some activity, for a shared machine that has none: a clock, a scrolling text, a
+/// moving shape and a field to type into.
 ///
-/// Reports on standard output: "field: x y width height" and "echo: x y width height", where the
-/// field and the label that repeats its text lie on the screen, "focus: field" and "focus:
-/// elsewhere" as the field gets and loses the keyboard, and "typed: text" each time the text
+/// Reports on standard output: "field: x y width height" and "echo: x y width height", the places
+/// on the screen of the field and of the label that repeats its text; "focus: field" and "focus:
+/// elsewhere" as the field gains and loses the keyboard; and "typed: text" each time the text
 /// changes.
 class DemoDesktop : public QWidget {
     Q_OBJECT
@@ -23,7 +23,7 @@ class DemoDesktop : public QWidget {
 public:
     explicit DemoDesktop(QWidget* parent = nullptr);
 
-    /// While not running, nothing but the text field changes.
+    /// While not running, only the text field changes.
     void setRunning(bool running);
 
 protected:

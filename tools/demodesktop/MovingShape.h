@@ -5,7 +5,7 @@
 
 namespace corvane::demo {
 
-/// A disc that goes round in its field, redrawn about 30 times a second.
+/// A disc that circles in its area, redrawn about 30 times a second.
 class MovingShape : public QWidget {
     Q_OBJECT
 

@@ -10,7 +10,7 @@
 
 // corvane-demo-desktop [--still]
 //
-// Lines on standard input: "run" and "hold" start and stop what moves.
+// The lines "run" and "hold" on standard input start and stop the movement.
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     corvane::demo::DemoDesktop desktop;
@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
     desktop.setRunning(!QApplication::arguments().contains(QLatin1String("--still")));
     desktop.setGeometry(QApplication::primaryScreen()->geometry());
 
-    // Not every system can wait for a pipe in the event loop.
+    // Some systems cannot wait for a pipe in the event loop.
     std::thread([&desktop] {
         for (std::string line; std::getline(std::cin, line);) {
             QMetaObject::invokeMethod(
@@ -27,6 +27,6 @@ int main(int argc, char** argv) {
         }
     }).detach();
     desktop.show();
-    // The thread may still wait for a line: nothing that it uses is destroyed.
+    // The thread may still be waiting for a line, so nothing that it uses is destroyed.
     std::_Exit(QApplication::exec());
 }

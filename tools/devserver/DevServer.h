@@ -24,7 +24,7 @@ class SignalingHub;
 class StunResponder;
 
 /// Central server, relay node and STUN responder on loopback, for tests and demonstrations. All
-/// state is in memory. Lives on one thread with an event loop; every call is made there.
+/// state is in memory. Lives on one thread with an event loop; all calls are made there.
 class DevServer : public QObject {
     Q_OBJECT
 
@@ -34,8 +34,8 @@ public:
     explicit DevServer(QObject* parent = nullptr);
     ~DevServer() override;
 
-    /// Called once. False when the address is not a loopback address or the HTTP or relay port
-    /// cannot be had; the reason goes to `error`. A STUN port that is taken only leaves `stunPort`
+    /// Called once. False when the address is not a loopback address or the HTTP or relay port is
+    /// not available; the reason goes to `error`. If only the STUN port is taken, `stunPort` stays
     /// at 0.
     bool start(const DevServerConfig& config, QString* error = nullptr);
 
@@ -46,7 +46,7 @@ public:
     quint16 relayPort() const { return m_relay->port(); }
     quint16 stunPort() const;
 
-    /// Registers a device without a request; an empty fingerprint gives a new one.
+    /// Registers a device without a request; an empty fingerprint creates a new one.
     Device registerDevice(const QString& fingerprint = {});
 
     /// The latest REST requests, oldest first.
@@ -58,13 +58,13 @@ public:
     /// Whether the client has an authenticated signaling socket.
     bool isOnline(const QString& clientId) const;
 
-    /// A raw text frame to an online client.
+    /// Sends a raw text frame to an online client.
     void pushText(const QString& clientId, const QString& text);
 
     /// Closes an online client's signaling socket.
     void dropSignaling(const QString& clientId);
 
-    /// Version the update manifest announces.
+    /// Sets the version that the update manifest announces.
     void setManifestVersion(const QString& version) { m_pages.setManifestVersion(version); }
 
     Misbehaviour& misbehaviour() { return m_misbehaviour; }

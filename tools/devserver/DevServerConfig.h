@@ -10,8 +10,8 @@ struct DevServerConfig {
     quint16 httpPort = 0;
     quint16 relayPort = 9000;
     quint16 stunPort = 19302;
-    /// Refuses other addresses. Off only where nobody else can reach them: in a network namespace
-    /// of the test's own.
+    /// Refuses other addresses. Off only where nobody else can reach them, as in a test's own
+    /// network namespace.
     bool loopbackOnly = true;
 };
 

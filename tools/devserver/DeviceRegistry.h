@@ -14,11 +14,11 @@ struct Device {
     QString token;
 };
 
-/// Knows every device that ever registered, for as long as the process lives.
+/// Knows every device that has ever registered, for as long as the process lives.
 class DeviceRegistry {
 public:
-    /// A machine fingerprint seen before gives the same device with a fresh secret; an empty one
-    /// always gives a new device. No value when the registry is full.
+    /// A known machine fingerprint returns the same device with a fresh secret; an empty one always
+    /// creates a new device. No value when the registry is full.
     std::optional<Device> registerDevice(const QString& fingerprint);
 
     /// The device, or no value when the secret is not its current one.

@@ -18,10 +18,10 @@ public:
     /// Bytes still missing from the current header.
     qint64 headerBytesMissing() const { return kHeaderBytes - m_headerBytes; }
 
-    /// Where the missing header bytes go; report them with `headerBytesArrived`.
+    /// Where to write the missing header bytes; report them with `headerBytesArrived`.
     char* headerSpace() { return m_header.data() + m_headerBytes; }
 
-    /// Invalid for a channel other than 0 and 1 and for a payload above the limit.
+    /// Invalid for a channel other than 0 or 1 and for a payload above the limit.
     HeaderState headerBytesArrived(qint64 count);
 
     const char* header() const { return m_header.data(); }

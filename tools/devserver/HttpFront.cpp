@@ -13,7 +13,7 @@
 namespace corvane::devserver {
 namespace {
 
-/// Caps what a connection may keep in memory: a request larger than the buffer never completes.
+/// Limits what a connection may keep in memory: a request larger than the buffer never completes.
 class BoundedTcpServer : public QTcpServer {
 public:
     using QTcpServer::QTcpServer;
@@ -27,7 +27,7 @@ protected:
     }
 };
 
-/// The base class shows an upgrade request before it hands the socket to the WebSocket side.
+/// The base class delivers an upgrade request before it hands the socket to the WebSocket side.
 bool isUpgrade(const QHttpServerRequest& raw) {
     return raw.value("Upgrade").compare("websocket", Qt::CaseInsensitive) == 0;
 }

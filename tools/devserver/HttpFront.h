@@ -14,9 +14,9 @@ namespace corvane::devserver {
 class Misbehaviour;
 struct Reply;
 
-/// The HTTP listener: records every request, asks the handler for the answer and writes it, late,
-/// replaced or not at all where a misbehaviour says so. WebSocket upgrades on the same port come
-/// out of `newWebSocketConnection`.
+/// The HTTP listener: records every request, asks the handler for the answer and writes it, unless
+/// a misbehaviour delays, replaces or suppresses it. WebSocket upgrades on the same port are
+/// delivered through `newWebSocketConnection`.
 class HttpFront : public QAbstractHttpServer {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     /// `misbehaviour` must outlive the front. `handler` is called on this object's thread.
     HttpFront(const Misbehaviour& misbehaviour, Handler handler, QObject* parent);
 
-    /// False when the port cannot be had; the reason goes to `error`.
+    /// False when the port is not available; the reason goes to `error`.
     bool start(const QHostAddress& address, quint16 port, QString& error);
 
     quint16 port() const;

@@ -9,10 +9,10 @@
 
 namespace corvane::devserver {
 
-/// One HTTP request or signaling message may carry this many bytes; anything larger is a fault.
+/// Max size of one HTTP request or signaling message; anything larger is a fault.
 constexpr qint64 kMaxMessageBytes = qint64{256} * 1024;
 
-/// The request and message logs keep this many of the latest entries.
+/// Max number of entries in the request and message logs, which keep the latest ones.
 constexpr qsizetype kMaxLogEntries = 1000;
 
 /// An HTTP request as it arrived.
@@ -25,7 +25,7 @@ struct Request {
     QHostAddress remoteAddress;
 };
 
-/// What the server itself answers to a request.
+/// The server's own answer to a request.
 struct Answer {
     int status = 200;
     QByteArray body;

@@ -9,27 +9,26 @@
 
 namespace corvane::devserver {
 
-/// A scripted fault in place of a proper answer. With neither status, body nor a dropped connection
-/// the proper answer is given, only late. Otherwise the request has no effect on the server's
-/// state.
+/// A scripted fault in place of a proper answer. With no status, body or dropped connection, the
+/// proper answer is given, only later. Otherwise the request has no effect on the server's state.
 struct Reply {
     int delayMs = 0;
     std::optional<int> status = std::nullopt;      ///< 200 when only a body is scripted
-    std::optional<QByteArray> body = std::nullopt; ///< sent as it stands, JSON or not
+    std::optional<QByteArray> body = std::nullopt; ///< sent unchanged, JSON or not
     bool dropConnection = false;                   ///< close the socket instead of answering
 };
 
-/// The faults the REST and signaling sides have been told to show. They take effect with the next
-/// request or message and last until cleared.
+/// The faults that the REST and signaling sides have been told to show. They take effect with the
+/// next request or message and last until cleared.
 class Misbehaviour {
 public:
     /// Applies to every request whose path ends in `pathSuffix`; replaces an earlier rule for the
-    /// same suffix. Of several that match, the longest suffix wins.
+    /// same suffix. If several match, the longest suffix wins.
     void setReply(const QString& pathSuffix, const Reply& reply);
     void clearReply(const QString& pathSuffix) { m_replies.remove(pathSuffix); }
     std::optional<Reply> replyTo(const QString& path) const;
 
-    /// Every AUTH message is answered AUTH_FAIL.
+    /// Every AUTH message is answered with AUTH_FAIL.
     void setRejectAuth(bool reject) { m_rejectAuth = reject; }
     bool rejectsAuth() const { return m_rejectAuth; }
 
@@ -46,7 +45,7 @@ public:
     void setSessionId(const QString& sessionId) { m_sessionId = sessionId; }
     QString sessionId(const QString& proper) const;
 
-    /// Back to proper behaviour in everything above.
+    /// Restores proper behaviour in everything above.
     void clear() { *this = {}; }
 
 private:

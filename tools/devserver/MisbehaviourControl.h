@@ -9,8 +9,7 @@ namespace corvane::devserver {
 class DevServer;
 
 /// Switches misbehaviours of a running server: `POST /devserver/misbehave` with a JSON object.
-/// `help` lists its keys. A key or value that is not understood is refused with
-/// 400 and nothing is applied.
+/// `help` lists its keys. An unknown key or value is refused with 400, and nothing is applied.
 class MisbehaviourControl {
 public:
     /// `server` must outlive the control.
@@ -19,7 +18,7 @@ public:
     /// No value when the request is for something else.
     std::optional<Answer> answer(const Request& request);
 
-    /// The keys with their values, one a line, for the command line's help.
+    /// The keys with their values, one per line, for the command line's help.
     static QString help();
 
 private:

@@ -12,9 +12,9 @@ namespace corvane::devserver {
 
 class RelayPeer;
 
-/// The relay node: pairs the two connections that join the same session and passes their frames on
-/// unchanged. A third one is refused while both live; when one leaves the other is closed. A frame
-/// for an unknown channel or above the payload limit ends the connection it came from.
+/// The relay node: pairs the two connections that join the same session and forwards their frames
+/// unchanged. A third one is refused while both live; when one leaves, the other is closed. A frame
+/// with an unknown channel or a payload above the limit ends the connection it came from.
 class RelayNode : public QObject {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     explicit RelayNode(QObject* parent);
     ~RelayNode() override;
 
-    /// False when the port cannot be had; the reason goes to `error`.
+    /// False when the port is not available; the reason goes to `error`.
     bool start(const QHostAddress& address, quint16 port, QString& error);
 
     /// Stays the same while connections are refused.
@@ -31,7 +31,7 @@ public:
     /// Open connections, joined or not.
     int connections() const { return static_cast<int>(m_peers.size()); }
 
-    /// Connections accepted so far, those since closed included.
+    /// Connections accepted so far, including those closed since.
     int acceptedConnections() const { return m_accepted; }
 
     /// 0, 1 or 2.
@@ -42,25 +42,25 @@ public:
         qint64 bytes = 0; ///< payload
     };
 
-    /// Frames of the video channel passed on so far, over all sessions.
+    /// Frames of the video channel forwarded so far, over all sessions.
     ChannelTotals videoTotals() const { return m_videoTotals; }
 
-    /// Bytes passed on so far, frame headers included, join frames not.
+    /// Bytes forwarded so far, including frame headers but not join frames.
     qint64 bytesForwarded() const { return m_bytesForwarded; }
 
-    /// Stops reading and forwarding; new connections are accepted but not read either.
+    /// Stops reading and forwarding; new connections are accepted but not read.
     void stall();
     void resume();
 
     /// Aborts every connection.
     void dropConnections();
 
-    /// Closes the listener; existing connections live on. `acceptConnections` reopens it on the
-    /// same port, false when that has been taken meanwhile.
+    /// Closes the listener; existing connections stay open. `acceptConnections` reopens it on the
+    /// same port, and returns false when that has been taken meanwhile.
     void refuseConnections();
     bool acceptConnections();
 
-    /// Raw bytes to both peers of a session, as if they had been forwarded.
+    /// Sends raw bytes to both peers of a session, as if they had been forwarded.
     void inject(const QString& sessionId, const QByteArray& bytes);
 
 private:

@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 namespace corvane::devserver {
 namespace {
 
-/// Unread bytes kept per peer, which is also what is held for a partner yet to come.
+/// Max unread bytes kept per peer, including those held for a partner that has not joined yet.
 constexpr qint64 kReadBufferBytes = qint64{1024} * 1024;
 
-/// Unsent bytes to a peer above which its partner is no longer read.
+/// With more unsent bytes to a peer than this, its partner is no longer read.
 constexpr qint64 kHighWaterBytes = qint64{4} * 1024 * 1024;
 
 constexpr qint64 kChunkBytes = qint64{256} * 1024;
@@ -84,7 +84,7 @@ void RelayPeer::pump(qint64 highWater) {
                 abort();
             }
         }
-        // This may make room again without a signal, where one of the socket's is being handled.
+        // This may make room without a signal while one of the socket's signals is being handled.
         if (m_partner) {
             m_partner->m_socket->flush();
         }

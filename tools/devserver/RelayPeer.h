@@ -10,30 +10,31 @@ class QTcpSocket;
 
 namespace corvane::devserver {
 
-/// One connection to the relay node: reads the join frame, then moves bytes to its partner no
-/// faster than the partner takes them. What cannot be moved yet stays unread in the socket, whose
-/// buffer is bounded, so that the sender is slowed down by TCP itself.
+/// One connection to the relay node: reads the join frame, then forwards bytes to its partner no
+/// faster than the partner takes them. What cannot be forwarded yet stays unread in the socket,
+/// whose buffer is bounded, so that TCP's own back-pressure slows the sender down.
 class RelayPeer : public QObject {
     Q_OBJECT
 
 public:
-    /// Takes over the connected socket.
+    /// Takes ownership of the connected socket.
     RelayPeer(QTcpSocket* socket, QObject* parent);
 
     /// Empty until the join frame has arrived.
     QString sessionId() const { return m_sessionId; }
 
-    /// Starts forwarding to `partner`, what arrived meanwhile first. Both sides must be told.
+    /// Starts forwarding to `partner`, beginning with what has already arrived. Call it on both
+    /// sides.
     void pairWith(RelayPeer* partner);
     RelayPeer* partner() const { return m_partner; }
 
-    /// While stalled nothing is read from the socket.
+    /// While stalled, nothing is read from the socket.
     void setStalled(bool stalled);
 
-    /// Raw bytes to this peer.
+    /// Sends raw bytes to this peer.
     void write(const QByteArray& bytes);
 
-    /// Ends the pairing, after what had arrived from a peer that closed has been passed on.
+    /// Ends the pairing; first, what a closed peer had sent is passed on.
     void part();
 
     /// Closes once everything written has been sent.
@@ -46,7 +47,7 @@ Q_SIGNALS:
     void joined();
     void forwarded(qint64 bytes);
     void frameStarted(int channel, qint64 payloadBytes);
-    void gone(); ///< the connection has ended; a slot may call `deleteLater`, never delete
+    void gone(); ///< the connection has ended; a slot may call `deleteLater`, but not delete
 
 private:
     void pump(qint64 highWater);

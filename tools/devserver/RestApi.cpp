@@ -34,7 +34,7 @@ Answer alreadyClosed() {
 
 struct RestApi::Route {
     QString method;
-    QRegularExpression path; ///< a capture is the session ID
+    QRegularExpression path; ///< captures the session ID
     bool needsToken;
     Answer (RestApi::*operation)(const Call&);
 };

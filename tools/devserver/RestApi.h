@@ -9,7 +9,7 @@ class Misbehaviour;
 class SessionBook;
 class SignalingHub;
 
-/// The REST endpoints: registration, login, heartbeat and the life of a session.
+/// The REST endpoints: registration, login, heartbeat and the life cycle of a session.
 class RestApi {
 public:
     /// The four references must outlive the API.
@@ -20,7 +20,7 @@ public:
 
 private:
     struct Call {
-        QString caller; ///< client ID of the bearer token; empty where none is needed
+        QString caller; ///< client ID that the bearer token belongs to; empty where none is needed
         QString sessionId;
         QJsonObject body;
     };

@@ -18,16 +18,16 @@ struct Session {
     }
 };
 
-/// The latest sessions; the oldest gives way when the book is full.
+/// The latest sessions; the oldest is dropped when the book is full.
 class SessionBook {
 public:
-    /// A new pending session under an ID of its own. The reference lasts until the next `open`.
+    /// Creates a pending session with a new ID. The reference is valid until the next `open`.
     const Session& open(const QString& masterId, const QString& targetId);
 
     /// Null when unknown. Valid until the next `open`.
     Session* find(const QString& sessionId);
 
-    /// True when a session of that ID runs between these two clients, in either direction.
+    /// True when a session with that ID runs between these two clients, in either direction.
     bool connects(const QString& sessionId, const QString& one, const QString& other) const;
 
 private:

@@ -16,8 +16,9 @@ class DeviceRegistry;
 class Misbehaviour;
 class SessionBook;
 
-/// The signaling side: authenticates the clients' sockets, keeps the password and pairing code each
-/// has published, pushes messages and forwards offers, answers and candidates within a session.
+/// The signaling side: authenticates the clients' sockets, keeps the password and pairing code that
+/// each has published, pushes messages and forwards offers, answers and candidates within a
+/// session.
 class SignalingHub : public QObject {
     Q_OBJECT
 
@@ -27,7 +28,7 @@ public:
                  const Misbehaviour& misbehaviour, QObject* parent);
     ~SignalingHub() override;
 
-    /// Takes over a freshly opened socket; one whose path names no client is closed.
+    /// Takes ownership of a newly opened socket; one whose path names no client is closed.
     void adopt(std::unique_ptr<QWebSocket> socket);
 
     bool isOnline(const QString& clientId) const { return m_online.contains(clientId); }
@@ -35,7 +36,7 @@ public:
     /// Whether `password` opens sessions to an online client without asking its user.
     bool isSessionPassword(const QString& clientId, const QString& password) const;
 
-    /// Whether `code` lets a master ask an online client's user for a session.
+    /// Whether `code` lets a viewer ask an online client's user for a session.
     bool isPairingCode(const QString& clientId, const QString& code) const;
 
     /// Both do nothing when the client is offline.

@@ -66,7 +66,7 @@ bool ClientProcess::stop() {
         return true;
     }
     m_host->requestEnd(m_process);
-    // A server in this process has the client's last words to answer.
+    // A server in this process has to answer the client's last messages.
     if (waitFor([this] { return m_process.state() == QProcess::NotRunning; }, kStopTimeout)) {
         return m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0;
     }

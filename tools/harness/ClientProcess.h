@@ -10,7 +10,7 @@
 
 namespace corvane::harness {
 
-/// One user of the program: a home, settings, a display and the running client.
+/// One user of the program: a home folder, settings, a display and the running client.
 class ClientProcess {
 public:
     /// `display` is the X display that the client's window appears on.
@@ -20,20 +20,21 @@ public:
     /// Stores the session password before the first start.
     void presetPassword(const QString& password);
 
-    /// Makes the first start a login as this device instead of a registration. Programs on one
-    /// machine share its fingerprint and would otherwise be the same device.
+    /// Makes the first start log in as this device instead of registering. Programs on one machine
+    /// share its fingerprint and would otherwise be the same device.
     void presetCredentials(const QString& clientId, const QString& secret);
 
     bool start(const QStringList& arguments = {});
 
-    /// Starts another copy as the same user and answers its exit code; -1 when it does not end by
+    /// Starts another copy as the same user and returns its exit code; -1 when it does not end by
     /// itself.
     int runSecondCopy(const QStringList& arguments) const;
 
     /// Ends the client without giving it a chance to tidy up.
     void crash();
 
-    /// Ends the client as the system would and waits. False when it did not end well by itself.
+    /// Ends the client as the system would, and waits. False when it did not end properly by
+    /// itself.
     bool stop();
 
     bool isRunning() const { return m_process.state() == QProcess::Running; }
@@ -48,7 +49,7 @@ public:
 
     QString log() const;
 
-    /// The lines of the log that hold `part`.
+    /// The log lines that contain `part`.
     QStringList logLines(const QString& part) const;
 
     /// Where other programs of the same user run.
@@ -60,7 +61,7 @@ private:
     QProcess m_process;
 };
 
-/// Starts `process` such that it ends with this one, however this one ends.
+/// Starts `process` so that it ends with this one, however this one ends.
 void tieToParent(QProcess& process);
 
 } // namespace corvane::harness

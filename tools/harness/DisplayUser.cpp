@@ -13,7 +13,7 @@ namespace {
 constexpr auto kTimeout = 10s;
 constexpr qint64 kStandsStillMs = 250;
 
-/// A window that is not painted yet has one colour.
+/// A window that is not painted yet has a single colour.
 bool isBlank(const QImage& image) {
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {

@@ -11,9 +11,9 @@
 
 namespace corvane::harness {
 
-/// A person who works with windows, known by the beginnings of their titles, on a borrowed display.
-/// Everything waits, with the event loop running, until its result shows, and answers whether it
-/// did.
+/// A person working with windows, which are identified by the beginnings of their titles, on a
+/// borrowed display. Every action waits, with the event loop running, until its result shows, and
+/// returns whether it did.
 class DisplayUser {
 public:
     explicit DisplayUser(XDisplay& display);
@@ -21,11 +21,11 @@ public:
     bool sees(const QString& title);
     bool seesNo(const QString& title);
 
-    /// Clicks at `place`, from the window's left and top, or right and bottom where negative, until
-    /// the window has the keyboard.
+    /// Clicks at `place`, counted from the window's left and top, or from right and bottom where
+    /// negative, until the window has the keyboard.
     bool clickInto(const QString& title, QPoint place);
 
-    /// Presses a key in the window that has the keyboard until a window `title` has it.
+    /// Presses a key in the window that has the keyboard until a window titled `title` has it.
     bool openByKey(const QString& title, xcb_keysym_t key, const std::vector<xcb_keysym_t>& held);
 
     /// Presses Escape in a window that has the keyboard.
@@ -33,10 +33,10 @@ public:
 
     bool hasKeyboard(const QString& title) const;
 
-    /// What Ctrl+C copies where the keyboard is; empty when it is nothing.
+    /// What Ctrl+C copies where the keyboard focus is; empty when there is nothing.
     QString copied();
 
-    /// The window once its picture stands still; as it is after a few seconds otherwise.
+    /// The window once its picture stands still, or as it is after a few seconds.
     QImage look(const QString& title);
 
     XDisplay& display() { return m_display; }

@@ -12,7 +12,7 @@ const QString FileManager::kTitle = QStringLiteral("File Manager");
 
 namespace {
 
-// Near the lower ends of the two lists.
+// Near the bottom of the two lists.
 constexpr QPoint kRemoteList(120, -130);
 constexpr QPoint kLocalList(-120, -130);
 
@@ -55,7 +55,7 @@ bool FileManager::openLocalFolder(const QString& path) {
 
 bool FileManager::selectRow(const QString& row) {
     constexpr int kAttempts = 10;
-    constexpr auto kSearchForgets = 500ms; // what was typed before
+    constexpr auto kSearchForgets = 500ms; // the time after which a list forgets what was typed
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         waitFor([] { return false; }, kSearchForgets);
         m_user.display().type(row);

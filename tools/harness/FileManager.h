@@ -12,44 +12,45 @@ namespace corvane::harness {
 class ClientProcess;
 class DisplayUser;
 
-/// A person who copies files with the file manager of a connected viewer, by the keyboard. Names
-/// that are typed consist of what the display's keyboard has. Everything answers whether it worked.
+/// A person copying files with the file manager of a connected viewer, using the keyboard. Typed
+/// names may contain only what the display's keyboard has. Every action returns whether it worked.
 class FileManager {
 public:
-    /// `user` sits before `viewer`. `remoteRoot` is the target's name for the root of this
+    /// `user` operates `viewer`. `remoteRoot` is the shared machine's name for the root of this
     /// machine's file system.
     FileManager(DisplayUser& user, const ClientProcess& viewer, const QString& remoteRoot);
 
     static const QString kTitle;
 
-    /// From the viewer's main window, which has the keyboard.
+    /// Opens it from the viewer's main window, which has the keyboard.
     bool open();
     bool close();
 
-    /// Goes there from the top level, where the file manager starts. `path` is this machine's.
+    /// Goes there from the top level, where the file manager starts. `path` is a path on this
+    /// machine.
     bool openRemoteFolder(const QString& path);
 
-    /// Goes to the first entry of a folder that has some.
+    /// Goes to the first entry of a folder, which must have one.
     bool openLocalFolder(const QString& path);
 
-    /// Types the row's name until it is the selected one, in the list that has the keyboard.
+    /// Types the row's name until it is selected, in the list that has the keyboard.
     bool selectRow(const QString& row);
 
     bool selectAllRemote();
 
-    /// Presses the button, from the list of the side that the files come from.
+    /// Presses the button, starting from the list on the side that the files come from.
     void download();
     void upload();
 
 private:
-    /// Opens the selected row. False when what is listed then is not the folder `expectedPath`.
+    /// Opens the selected row. False when the folder then listed is not `expectedPath`.
     bool enter(const QString& expectedPath);
     bool isListed(const QString& path) const;
-    /// Opens the selected row and moves on to what is in it, once that is there.
+    /// Opens the selected row and goes to its first entry once that is listed.
     bool moveInto(const QString& row);
     /// Gives the keyboard to the list at that place.
     bool goToFirstRow(QPoint list);
-    /// Stays on the row where it is the selected one already.
+    /// Does nothing when the row is already selected.
     bool findRow(const QString& row);
     /// Presses the button that Tab leads to, with `held` down.
     void pressNext(const std::vector<xcb_keysym_t>& held);

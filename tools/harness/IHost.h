@@ -16,29 +16,30 @@ enum class Platform { Linux, Windows };
 
 QString toString(Platform platform);
 
-/// What the platform decides about one user and the programs that this user runs. Ends with the
-/// last of them what the platform needed beside them.
+/// The platform-specific part of one user and of the programs that this user runs. Anything
+/// else that the platform needs for them ends with the last of them.
 class IHost {
 public:
     virtual ~IHost() = default;
 
-    /// Readies `process` for its start: program, arguments, environment.
+    /// Prepares `process` for starting: program, arguments, environment.
     virtual void prepare(QProcess& process, Program program,
                          const QStringList& arguments) const = 0;
 
-    /// Has the system ask the client that `process` runs to end.
+    /// Makes the system ask the client that `process` runs to end.
     virtual void requestEnd(QProcess& process) const = 0;
 
-    /// Writes a setting of the client, e.g. "auth/clientId". Before the first program starts.
+    /// Writes a setting of the client, e.g. "auth/clientId". Call it before the first program
+    /// starts.
     virtual void presetSetting(const QString& key, const QString& value) = 0;
 
-    /// A setting of the client; empty where there is none.
+    /// A setting of the client; empty if there is none.
     virtual QString setting(const QString& key) const = 0;
 
     virtual QString logPath() const = 0;
 };
 
-/// Makes a new user in the empty folder `home`, whose windows appear on the X display `display`.
+/// Creates a user in the empty folder `home`, whose windows appear on the X display `display`.
 std::unique_ptr<IHost> createHost(Platform platform, const QString& home, const QString& display);
 
 } // namespace corvane::harness

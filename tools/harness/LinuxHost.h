@@ -6,7 +6,7 @@
 
 namespace corvane::harness {
 
-/// A user whose home and XDG folders lie in a folder of their own.
+/// A user whose home and XDG folders are in a separate folder.
 class LinuxHost : public IHost {
 public:
     LinuxHost(const QString& home, const QString& display);

@@ -22,7 +22,7 @@ constexpr auto kConnectTimeout = 30s;
 constexpr auto kInputTimeout = 30s;
 constexpr auto kPictureTimeout = 30s;
 
-/// Follows the password rule: eight characters, lower and upper case, a digit.
+/// Satisfies the password rule: eight characters, lower and upper case, a digit.
 QString createPassword() {
     return QStringLiteral("Demo%1").arg(QRandomGenerator::system()->bounded(10'000), 4, 10,
                                         QLatin1Char('0'));
@@ -259,7 +259,7 @@ std::optional<QRect> LiveSession::pictureRectangle() {
     }
     const auto match = kResized.match(resizes.last());
     const QSize view(match.captured(1).toInt(), match.captured(2).toInt());
-    // The view fills the window below the tool bar, within the border that Wine draws by itself.
+    // The view fills the window below the tool bar, inside the border that Wine itself draws.
     const int border = (window->width() - view.width()) / 2;
     const QPoint origin = window->bottomLeft() + QPoint(border, 1 - view.height() - border);
     return fitRectangle(m_targetDisplay->size(), view).translated(origin);

@@ -17,19 +17,19 @@
 
 namespace corvane::harness {
 
-/// What arrived of the target's screen at the viewer over a while.
+/// What the viewer received of the shared screen over a period.
 struct StreamFigures {
     double framesPerSecond = 0.0;
     double kilobitsPerSecond = 0.0;
 };
 
-/// Two users and a server on one machine: a target that shares the demo desktop on a display of its
-/// own, and a viewer, both the real program, driven through their displays. Everything it starts
-/// ends with it.
+/// Two users and a server on one machine: a shared machine showing the demo desktop on a display of
+/// its own, and a viewer, both running the real program and driven through their displays.
+/// Everything it starts ends with it.
 class LiveSession {
 public:
     struct Options {
-        QString viewerDisplay; ///< empty: a virtual display of its own
+        QString viewerDisplay; ///< empty: a separate virtual display
         bool stillDesktop = false;
         Platform target = Platform::Linux;
         Platform viewer = Platform::Linux;
@@ -41,36 +41,37 @@ public:
     /// Ends everything, at any time.
     void end();
 
-    /// Starts everything and waits until both devices are online. False with `error()`.
+    /// Starts everything and waits until both devices are online. On failure, returns false and
+    /// sets `error()`.
     bool start();
 
-    /// Types the target's ID and a password into the viewer's main window and presses Return.
+    /// Types the shared machine's ID and a password into the viewer's window and presses Return.
     bool enterPartner(const QString& password);
 
-    /// Waits until both sides are connected and the first picture is there.
+    /// Waits until both sides are connected and the first picture has arrived.
     bool waitUntilConnected();
 
     /// `enterPartner` with the right password, then `waitUntilConnected`.
     bool connectToTarget() { return enterPartner(m_targetPassword) && waitUntilConnected(); }
 
-    /// Clicks into the remote text field and types through the viewer. True once the target shows
-    /// all of it.
+    /// Clicks into the remote text field and types through the viewer. True once the shared machine
+    /// shows all of it.
     bool typeRemotely(const QString& word);
 
-    /// From a key press on the viewer's display to the letter in the viewer's picture.
+    /// The time from a key press on the viewer's display to the letter in the viewer's picture.
     std::optional<std::chrono::milliseconds> inputRoundTrip();
 
-    /// Takes a few seconds at least: the viewer counts by the second.
+    /// Takes at least a few seconds: the viewer counts once a second.
     StreamFigures measureStream(std::chrono::milliseconds duration);
 
-    /// Starts or stops what moves on the target's desktop.
+    /// Starts or stops the movement on the shared desktop.
     void setDesktopRunning(bool running);
 
-    /// How close the viewer's picture comes to the target's screen in time, in dB.
-    /// Means something while the desktop stands still.
+    /// How closely the viewer's picture eventually matches the shared screen, in dB. Meaningful
+    /// only while the desktop stands still.
     double pictureFidelity();
 
-    /// The remote picture as the viewer's display shows it.
+    /// The remote picture as shown on the viewer's display.
     QImage viewerPicture();
 
     QImage targetScreen() const { return m_targetDisplay->grab(); }
@@ -109,8 +110,8 @@ private:
     std::unique_ptr<XDisplay> m_targetDisplay;
     std::unique_ptr<XDisplay> m_viewerDisplay;
     QProcess m_desktop;
-    QRect m_field; ///< the demo desktop's text field, target pixels
-    QRect m_echo;  ///< what it shows of the typed text, target pixels
+    QRect m_field; ///< the demo desktop's text field, in pixels of the shared screen
+    QRect m_echo;  ///< where it repeats the typed text, in the same pixels
     QString m_typed;
     bool m_fieldHasFocus = false;
     std::unique_ptr<ClientProcess> m_target;

@@ -4,10 +4,10 @@
 
 namespace corvane::harness {
 
-/// Writes `size` random bytes. False when they do not all get there.
+/// Writes `size` random bytes. False when not all of them could be written.
 bool writeSampleFile(const QString& path, qint64 size);
 
-/// SHA-256 in hexadecimal digits; empty where there is no file.
+/// SHA-256 in hexadecimal digits; empty if there is no file.
 QString checksum(const QString& path);
 
 } // namespace corvane::harness

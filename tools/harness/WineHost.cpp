@@ -9,7 +9,7 @@ namespace corvane::harness {
 
 namespace {
 
-constexpr int kToolTimeoutMs = 120'000; // the first prefix takes its time
+constexpr int kToolTimeoutMs = 120'000; // creating the first prefix takes long
 
 const auto kBuild = QStringLiteral(CORVANE_WINDOWS_BUILD);
 const auto kPrefixScript = QStringLiteral(CORVANE_SCRIPTS "/wine-prefix.sh");
@@ -22,7 +22,7 @@ QString escaped(QString text) {
     return text.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
 }
 
-/// "auth/clientId" as the registry's key below the user's branch, and the name of the value in it.
+/// Where the registry keeps "auth/clientId": the key below the user's branch, and the value's name.
 std::pair<QString, QString> registryValue(const QString& setting) {
     return {QStringLiteral("Software\\Corvane\\CorvaneClient\\") + setting.section(u'/', 0, 0),
             setting.section(u'/', 1)};
@@ -63,13 +63,13 @@ void WineHost::prepare(QProcess& process, Program program, const QStringList& ar
     auto environment = m_environment;
     QStringList command{m_package + QStringLiteral("/CorvaneClient.exe")};
     if (program == Program::DemoDesktop) {
-        // Is not in the package, but lives on its libraries.
+        // It is not in the package, but uses the package's libraries.
         environment.insert(QStringLiteral("WINEPATH"), windowsPath(m_package));
         command = {kBuild + QStringLiteral("/tools/demodesktop/corvane-demo-desktop.exe"),
                    QStringLiteral("-platformpluginpath"),
                    windowsPath(m_package + QStringLiteral("/plugins/platforms"))};
     }
-    // Programs that start at the same time would race for who starts the server.
+    // Programs started at the same time would race to start the Wine server.
     run(QStringLiteral("wineserver"), {QStringLiteral("--persistent=30")});
     process.setProcessEnvironment(environment);
     process.setProgram(QStringLiteral("wine"));

@@ -6,19 +6,19 @@
 
 namespace corvane::harness {
 
-/// A user of Windows: the packaged program of the Windows build under Wine, in a prefix of its own.
+/// A Windows user: the packaged program of the Windows build under Wine, in a prefix of its own.
 class WineHost : public IHost {
 public:
-    /// `package` is the folder of the program.
+    /// `package` is the folder that contains the program.
     WineHost(const QString& home, const QString& display, const QString& package = packageFolder());
 
-    /// Ends everything that runs in the prefix.
+    /// Ends everything running in the prefix.
     ~WineHost() override;
 
     /// Why no Windows program can run here; empty when one can.
     static QString obstacle();
 
-    /// Of the Windows build that goes with this one; empty when there is none.
+    /// The package of the Windows build that belongs to this one; empty when there is none.
     static QString packageFolder();
 
     void prepare(QProcess& process, Program program, const QStringList& arguments) const override;

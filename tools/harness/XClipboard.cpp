@@ -95,12 +95,12 @@ void XClipboard::handleEvents() {
         }
     }
     if (!isConnected() && m_notifier) {
-        m_notifier->setEnabled(false); // would report the broken connection forever
+        m_notifier->setEnabled(false); // it would report the broken connection forever
     }
 }
 
 void XClipboard::answer(const xcb_selection_request_event_t& request) {
-    // Old programs name no property and mean one of the target's name.
+    // Old programs name no property and mean the one named like the target.
     const xcb_atom_t property =
         request.property == XCB_ATOM_NONE ? request.target : request.property;
     xcb_selection_notify_event_t notice{};
@@ -111,7 +111,7 @@ void XClipboard::answer(const xcb_selection_request_event_t& request) {
     notice.target = request.target;
     notice.property =
         provide(request, property) ? property : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-    std::array<char, 32> wire{}; // the size of every event, this one's fields are fewer
+    std::array<char, 32> wire{}; // every event has this size; this one's fields take less
     std::memcpy(wire.data(), &notice, sizeof notice);
     xcb_send_event(m_connection->handle(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
                    wire.data());

@@ -10,7 +10,7 @@ namespace {
 
 constexpr uint8_t kLeftButton = 1;
 
-/// A release and a press of the same key in the same millisecond would pass for auto-repeat.
+/// A release and a press of the same key in the same millisecond would look like auto-repeat.
 constexpr uint32_t kKeyDelayMs = 8;
 
 } // namespace
@@ -134,7 +134,7 @@ QString XDisplay::keyboardWindow() const {
     const XcbReply<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     xcb_window_t window = focus ? focus->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
-    // An inner window may have it, the title is the outer one's.
+    // The focus may be in an inner window; the title belongs to the outer one.
     while (window > XCB_INPUT_FOCUS_POINTER_ROOT && window != m_connection->root()) {
         if (const QString found = title(window); !found.isEmpty()) {
             return found;

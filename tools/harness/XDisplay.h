@@ -13,9 +13,9 @@
 
 namespace corvane::harness {
 
-/// A person's eyes and hands on an X display: looks at the screen, moves the pointer, clicks,
-/// types. Coordinates are pixels of the root window. Failures of the connection show up as null
-/// images and clicks that go nowhere.
+/// A person's eyes and hands on an X display: looks at the screen, moves the pointer, clicks and
+/// types. Coordinates are pixels of the root window. If the connection fails, images are null and
+/// clicks have no effect.
 class XDisplay {
 public:
     explicit XDisplay(const QString& name);
@@ -30,23 +30,23 @@ public:
     QImage grab(const QRect& area) const;
     QImage grab() const { return grab(QRect(QPoint(0, 0), size())); }
 
-    /// Where the first visible window whose title starts with `title` lies.
+    /// The area of the first visible window whose title starts with `title`.
     std::optional<QRect> findWindow(const QString& title) const;
 
-    /// Where the topmost menu or the like that touches `area` lies: what windows show in front of
-    /// all others by themselves, without the window manager.
+    /// The area of the topmost menu or similar window that touches `area`: one shown in front of
+    /// all others without the window manager's help.
     std::optional<QRect> findPopup(const QRect& area) const;
 
-    /// The title of the window that has the keyboard; empty where none has it.
+    /// The title of the window that has the keyboard; empty if none has it.
     QString keyboardWindow() const;
 
     void movePointer(QPoint position);
     void click(QPoint position);
 
-    /// Types Latin-1 text; characters that the display's keyboard lacks are left out.
+    /// Types Latin-1 text; characters missing from the display's keyboard are left out.
     void type(const QString& text);
 
-    /// Presses and releases one key by its X keysym, with `held` down meanwhile.
+    /// Presses and releases the key with an X keysym while holding `held` down.
     void pressKey(xcb_keysym_t keysym, const std::vector<xcb_keysym_t>& held = {});
 
 private:

@@ -71,7 +71,7 @@ void DelayLine::read() {
 void DelayLine::write() {
     while (!m_packets.empty() && m_packets.front().due <= Clock::now()) {
         const auto& bytes = m_packets.front().bytes;
-        // Like any interface, this one may lose a packet.
+        // Like any other interface, this one may lose a packet.
         [[maybe_unused]] const auto written = ::write(m_interface, bytes.data(), bytes.size());
         m_packets.pop_front();
     }

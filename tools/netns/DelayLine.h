@@ -8,11 +8,11 @@
 
 namespace corvane::test {
 
-/// A network interface of this thread's namespace that gives every IP packet routed into it back a
-/// fixed time later, in order, on a thread of its own. What finds the line full is lost.
+/// A network interface in this thread's namespace that returns every IP packet routed into it a
+/// fixed time later, in order, on a thread of its own. Packets that find the line full are lost.
 class DelayLine {
 public:
-    /// Throws std::system_error when the kernel gives no such interface.
+    /// Throws std::system_error when the kernel cannot provide such an interface.
     DelayLine(const std::string& interface, std::chrono::milliseconds delay);
     ~DelayLine();
     DelayLine(const DelayLine&) = delete;
@@ -25,7 +25,7 @@ private:
         std::vector<char> bytes;
     };
 
-    /// Over a second of traffic at 20 Mbit/s.
+    /// More than a second of traffic at 20 Mbit/s.
     static constexpr size_t kCapacity = 2048;
 
     void run();

@@ -21,11 +21,11 @@ namespace {
 
 using nlohmann::json;
 
-/// Far above what the codec leaves of a scene, far below what a misplaced piece of one makes.
+/// Far above what the codec changes in a scene, far below what a misplaced part of it would.
 constexpr int kSameBlock = 24;
 constexpr int kBlock = 16;
 
-/// The luma of a scene.
+/// The luma plane of a scene.
 ByteVector sceneLuma(int width, int height, int step) {
     const ByteVector scene = desktopScene(width, height, step);
     ByteVector nv12 = allocateNV12(width, height);
@@ -34,7 +34,7 @@ ByteVector sceneLuma(int width, int height, int step) {
     return nv12;
 }
 
-/// Mean difference in the block of the picture that differs most, of 255.
+/// Mean difference, of 255, in the block of the picture that differs most.
 int worstBlock(const DecodedFrame& picture, const ByteVector& luma) {
     int worst = 0;
     for (int top = 0; top + kBlock <= picture.height; top += kBlock) {
@@ -52,7 +52,7 @@ int worstBlock(const DecodedFrame& picture, const ByteVector& luma) {
     return worst;
 }
 
-/// One side of a session, told what to do by lines of JSON, and answering with such.
+/// One side of a session, which takes orders and answers them as lines of JSON.
 class NetworkPeer : public QObject {
 public:
     NetworkPeer() {
@@ -155,10 +155,10 @@ private:
     int m_chatNext = 0;
     int m_chatEnd = 0;
     QTimer m_stillness;
-    int m_lastStep = 0; ///< of those to show
+    int m_lastStep = 0; ///< the last scene to show
     int m_pictures = 0;
-    std::optional<int> m_expected; ///< the scene that the picture has yet to become
-    ByteVector m_luma;             ///< the scene's
+    std::optional<int> m_expected; ///< the scene that the picture should become
+    ByteVector m_luma;             ///< of that scene
 };
 
 } // namespace

@@ -19,14 +19,14 @@ public:
     bool start(const QString& program);
     qint64 id() const { return m_process.processId(); }
 
-    /// Sends an order; see NetworkPeer.cpp for what there is.
+    /// Sends an order; NetworkPeer.cpp lists the orders.
     void order(const nlohmann::json& order);
 
     /// The first event so far that has all fields of `like`; waits for it with the event loop
     /// running. No value when the time is up or the process has ended.
     std::optional<nlohmann::json> await(const nlohmann::json& like, int milliseconds);
 
-    /// What the events of one kind tell in one of their fields.
+    /// The values of one field in all events of one kind.
     std::vector<int> numbers(const std::string& event, const std::string& field) const;
 
     /// What the peer logged.

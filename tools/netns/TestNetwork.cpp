@@ -18,7 +18,7 @@ constexpr int kPeers = 2;
 constexpr int kDelayTable = 77;
 constexpr auto kDelayInterface = "delay";
 
-/// Where the administration tools are, whether or not they are on the user's path.
+/// Finds an administration tool, whether or not it is on the user's path.
 QString findTool(const QString& name) {
     const QString tool = QStandardPaths::findExecutable(name);
     return !tool.isEmpty() ? tool

@@ -6,7 +6,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// FNV-1a, which the programs at the other end know as well.
+/// FNV-1a, which the programs at the other end also implement.
 double checksum(const QByteArray& bytes) {
     uint32_t sum = 0x811C9DC5;
     for (const char byte : bytes) {

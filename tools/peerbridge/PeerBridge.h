@@ -7,7 +7,7 @@
 
 namespace corvane {
 
-/// Lets another program drive a `P2PTransport` in JSON: one object per command and per event.
+/// Lets another program drive a `P2PTransport` with JSON: one object per command and per event.
 ///
 /// Commands: {"do": "offer" | "answer" | "description" (type, sdp) | "candidate" (candidate, mid) |
 /// "send" (channel, size, seed)}. Events: {"event": "description" (type, sdp) | "candidate"

@@ -9,7 +9,7 @@
 #include <string>
 #include <thread>
 
-/// Commands come on the standard input and events go to the standard output, a line each.
+/// Commands arrive on standard input and events go to standard output, one per line.
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     spdlog::set_level(spdlog::level::off);

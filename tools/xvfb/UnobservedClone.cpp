@@ -4,9 +4,9 @@
 
 extern "C" int __clone(int (*function)(void*), void* stack, int flags, void* argument, ...);
 
-// Stands before the thread sanitizer's own version. That one takes every child for a copy of this
-// process; after a child that borrows this process's memory until it runs its program, which is how
-// Qt starts programs, the sanitizer no longer sees the locks of the thread that started it.
+// Replaces the thread sanitizer's own version, which takes every child for a copy of this process.
+// Qt starts programs with children that share this process's memory until they run the program;
+// after one of those, the sanitizer would no longer see the locks of the thread that started it.
 extern "C" int clone(int (*function)(void*), void* stack, int flags, void* argument, ...) noexcept {
     va_list further;
     va_start(further, argument);

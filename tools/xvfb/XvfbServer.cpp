@@ -10,7 +10,7 @@ constexpr int kStartTimeoutMs = 20'000;
 }
 
 void endWithParent() {
-    // The child must hear signals that this process keeps from its own threads.
+    // The child must receive signals that this process blocks in its own threads.
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);

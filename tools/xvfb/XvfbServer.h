@@ -7,13 +7,13 @@
 
 namespace corvane::test {
 
-/// Child process modifier: the child ends when this process ends, however it does.
+/// Child process modifier: the child ends when this process ends, however that happens.
 void endWithParent();
 
-/// A virtual X display of its own, ended with the object.
+/// A virtual X display that exists as long as the object.
 class XvfbServer {
 public:
-    /// `extraArguments` go to the server as they are, e.g. to leave an extension out.
+    /// `extraArguments` are passed to the server unchanged, e.g. to leave an extension out.
     explicit XvfbServer(QSize size = QSize(1280, 720), const QStringList& extraArguments = {});
     ~XvfbServer();
     XvfbServer(const XvfbServer&) = delete;
@@ -25,7 +25,7 @@ public:
     /// The value for DISPLAY, e.g. ":3".
     QString display() const { return m_display; }
 
-    /// Makes this the display that code of this process connects to from now on.
+    /// Makes this the display to which code in this process connects from now on.
     void use() const { qputenv("DISPLAY", m_display.toLatin1()); }
 
 private:

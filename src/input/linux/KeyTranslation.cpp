@@ -15,8 +15,8 @@ constexpr uint32_t kPauseSequence = 0xE11D;
 constexpr uint32_t kNumLockScanCode = 0x45;
 constexpr uint32_t kVirtualPause = 0x13;
 
-// Pause has no scan code of its own: its bytes are those of Ctrl and NumLock behind a prefix that
-// does not travel well, so it goes by virtual key.
+// Pause has no scan code of its own: it sends those of Ctrl and NumLock after a prefix that is
+// easily lost on the way, so it is identified by its virtual key.
 constexpr auto kKeys = std::to_array<KeyTranslation>({
     {KEY_ESC, 0x1B, 0x01},
     {KEY_1, '1', 0x02},
@@ -175,7 +175,7 @@ struct Alias {
     uint16_t evdevCode;
 };
 
-// Other scan codes that keyboards and systems use for a key of the table.
+// Other scan codes that keyboards and systems use for keys in the table.
 constexpr auto kScanCodeAliases = std::to_array<Alias>({
     {0x54, KEY_SYSRQ},        // PrintScreen while Alt is down
     {0xE045, KEY_NUMLOCK},    // window messages call NumLock extended
@@ -183,7 +183,7 @@ constexpr auto kScanCodeAliases = std::to_array<Alias>({
     {0xE036, KEY_RIGHTSHIFT}, // some layouts call the right Shift extended
 });
 
-// Virtual keys that do not tell the sides apart. The extended key is the right one.
+// Virtual keys that do not distinguish the two sides. The extended key is the right-hand one.
 struct Sides {
     uint32_t virtualKey;
     uint16_t left;

@@ -6,7 +6,7 @@ namespace corvane {
 
 namespace {
 
-/// Virtual keys of letters and digits are their ASCII capitals, and so are the Latin keysyms.
+/// Virtual keys of letters and digits are their ASCII capitals, as are the Latin keysyms.
 uint32_t virtualKeyFromKeysym(uint32_t keysym) {
     if (keysym >= 'a' && keysym <= 'z') {
         return keysym - 'a' + 'A';
@@ -18,9 +18,9 @@ uint32_t virtualKeyFromKeysym(uint32_t keysym) {
 
 } // namespace
 
-/// `nativeVirtualKey` is the X keysym, `nativeScanCode` the X keycode. The scan code names the
-/// physical key. The virtual key follows the layout where the keysym is a Latin letter or a digit
-/// (the key right of Tab is VK_A on a French layout) and the physical key everywhere else.
+/// `nativeVirtualKey` is the X keysym, `nativeScanCode` the X keycode. The scan code identifies the
+/// physical key. The virtual key follows the layout when the keysym is a Latin letter or a digit
+/// (the key right of Tab is VK_A on a French layout) and the physical key otherwise.
 NativeKey wireKeyFromNative(uint32_t nativeVirtualKey, uint32_t nativeScanCode) {
     NativeKey wire;
     if (const KeyTranslation* key = keyForXKeycode(nativeScanCode)) {

@@ -22,10 +22,10 @@ constexpr int kWheelNotch = 120;
 constexpr uint8_t kWheelUpButton = 4;
 constexpr uint8_t kWheelDownButton = 5;
 
-/// By `buttonIndex`; numbers 4 to 7 are the wheel's.
+/// Indexed by `buttonIndex`; numbers 4 to 7 belong to the wheel.
 constexpr std::array<uint8_t, kMouseButtons> kXButtons{1, 3, 2, 8, 9};
 
-/// The pixel that a fraction from 0 to 1 of an edge means.
+/// The pixel at a fraction, from 0 to 1, of an edge.
 int16_t pixelAt(double fraction, int32_t origin, int32_t length) {
     return static_cast<int16_t>(origin + std::lround(fraction * (std::max(length, 1) - 1)));
 }
@@ -136,7 +136,7 @@ void XtestInputBackend::fakeKey(uint8_t keycode, bool press) {
     m_keysDown[keycode] = press;
 }
 
-/// Waits until the server has seen everything sent; false when it refused any of it.
+/// Waits until the server has processed everything sent; false when it refused any of it.
 bool XtestInputBackend::settle(const char* kind) {
     xcb_connection_t* const connection = m_connection->handle();
     XcbReply<xcb_get_input_focus_reply_t>(
@@ -157,7 +157,7 @@ void XtestInputBackend::updatePrimaryMonitor() {
     m_monitor = primaryMonitor(*m_connection).value_or(m_monitor);
 }
 
-/// Takes what the server has sent unasked; returns the code of the last error among it, 0 for none.
+/// Reads what the server has sent unasked; returns the code of the last error among it, or 0.
 uint8_t XtestInputBackend::readEvents() {
     uint8_t error = 0;
     bool monitorsChanged = false;

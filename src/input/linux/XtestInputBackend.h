@@ -41,10 +41,10 @@ private:
 
     std::unique_ptr<X11Connection> m_connection;
     std::unique_ptr<MonitorWatch> m_watch;
-    MonitorInfo m_monitor;       ///< that positions span
-    std::bitset<256> m_keysDown; ///< by X keycode
+    MonitorInfo m_monitor;       ///< the one that positions span
+    std::bitset<256> m_keysDown; ///< indexed by X keycode
     std::bitset<256> m_buttonsDown;
-    int m_wheelRemainder = 0; ///< rotation not yet worth a click
+    int m_wheelRemainder = 0; ///< rotation short of a whole click
 };
 
 } // namespace corvane

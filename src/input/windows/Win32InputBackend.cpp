@@ -19,7 +19,7 @@ struct ButtonFlags {
     DWORD data;
 };
 
-/// By `buttonIndex`.
+/// Indexed by `buttonIndex`.
 constexpr std::array<ButtonFlags, kMouseButtons> kButtonFlags{{
     {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 0},
     {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, 0},
@@ -61,7 +61,7 @@ bool Win32InputBackend::injectWheel(const InputEvent& event) {
     return sendMouse(event, MOUSEEVENTF_WHEEL, static_cast<DWORD>(event.wheelDelta), "mouse wheel");
 }
 
-/// The scan code goes out as it came, bits above the code included.
+/// The scan code is passed on unchanged, including bits above the code itself.
 bool Win32InputBackend::injectKey(const InputEvent& event, bool press) {
     INPUT record = {};
     record.type = INPUT_KEYBOARD;

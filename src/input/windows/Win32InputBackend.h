@@ -6,7 +6,7 @@
 namespace corvane {
 
 /// Injects input with `SendInput`, one record per event. Positions span the primary monitor. A key
-/// that comes with a scan code goes by that, any other by its virtual key.
+/// that comes with a scan code is identified by that, any other by its virtual key.
 class Win32InputBackend : public InputBackend {
 public:
     explicit Win32InputBackend(InputFunctions functions = {});

@@ -10,7 +10,7 @@ namespace corvane {
 
 class X11Connection;
 
-/// The pointer's picture where it is drawn: the hot spot is already taken off.
+/// The pointer's image at the place where it is drawn, the hot spot already subtracted.
 struct CursorImage {
     int32_t left = 0;             ///< pixels
     int32_t top = 0;              ///< pixels
@@ -20,11 +20,11 @@ struct CursorImage {
     std::vector<uint32_t> pixels; ///< premultiplied ARGB, row by row
 };
 
-/// The pointer in screen coordinates; no value where the server has none or cannot tell. Waits for
-/// the server, so that everything it sent before has arrived.
+/// The pointer in screen coordinates; no value if the server has none or cannot tell. Waits for the
+/// server, so that everything it sent before has arrived.
 std::optional<CursorImage> readCursor(const X11Connection& connection);
 
-/// Draws `cursor`, given in the frame's coordinates, over the frame. What lies outside is cut off.
+/// Draws `cursor`, given in the frame's coordinates, onto the frame. What lies outside is clipped.
 void blendCursor(const CursorImage& cursor, CapturedFrame& frame);
 
 } // namespace corvane

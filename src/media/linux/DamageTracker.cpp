@@ -8,7 +8,7 @@ namespace corvane {
 
 namespace {
 
-/// Both extensions want to hear the client's version before anything else.
+/// Both extensions require the client's version before any other request.
 bool negotiateVersions(xcb_connection_t* connection) {
     const auto fixesCookie =
         xcb_xfixes_query_version(connection, XCB_XFIXES_MAJOR_VERSION, XCB_XFIXES_MINOR_VERSION);

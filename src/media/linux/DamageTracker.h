@@ -11,8 +11,8 @@ namespace corvane {
 
 class X11Connection;
 
-/// Learns from the server which parts of the screen have changed. Where the server cannot tell,
-/// everything counts as changed all the time. Must not outlive the connection.
+/// Learns from the server which parts of the screen have changed. If the server cannot tell,
+/// everything always counts as changed. Must not outlive the connection.
 class DamageTracker {
 public:
     explicit DamageTracker(const X11Connection& connection);
@@ -20,7 +20,7 @@ public:
     DamageTracker(const DamageTracker&) = delete;
     DamageTracker& operator=(const DamageTracker&) = delete;
 
-    /// Takes note of the server's event when it is about changes.
+    /// Notes the server's event if it is about changes.
     void noteEvent(const xcb_generic_event_t& event);
 
     /// What changed inside `monitor` since the last call, relative to its top-left corner; empty

@@ -54,7 +54,7 @@ bool ScreenImage::attachSegment(size_t size) {
             shmdt(address);
         }
     }
-    // Marked now, the segment goes with its last user, however that one ends.
+    // Marked for removal now, the segment disappears with its last user, however that one ends.
     shmctl(id, IPC_RMID, nullptr);
     if (attached) {
         m_segment = segment;

@@ -11,8 +11,8 @@ namespace corvane {
 
 class X11Connection;
 
-/// A client-side copy of one rectangle of the screen, brought up to date by bands of rows. The
-/// server writes straight into it where both share memory. Must not outlive the connection.
+/// A client-side copy of one rectangle of the screen, updated in bands of rows. The server writes
+/// straight into it if both share memory. Must not outlive the connection.
 class ScreenImage {
 public:
     /// `width` and `height` in pixels, both positive.
@@ -22,7 +22,7 @@ public:
     ScreenImage& operator=(const ScreenImage&) = delete;
 
     /// Reads rows `firstRow` up to but not including `endRow` of the rectangle whose top-left
-    /// corner is at (`x`, `y`) of the screen. False when the server refused or has gone.
+    /// corner is at (`x`, `y`) on the screen. False when the server refused or is gone.
     bool refresh(int x, int y, int firstRow, int endRow);
 
     /// `height` rows of `stride()` bytes, 32-bit BGRX.
@@ -40,7 +40,7 @@ private:
     int m_height;
     size_t m_stride;
     xcb_shm_seg_t m_segment = XCB_NONE;
-    ByteVector m_copy; ///< where the pixels live when they are not shared
+    ByteVector m_copy; ///< holds the pixels when they are not shared
     uint8_t* m_pixels = nullptr;
 };
 

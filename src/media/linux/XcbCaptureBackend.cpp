@@ -18,7 +18,7 @@ namespace corvane {
 
 namespace {
 
-/// Beyond this many changed regions the list costs more than it saves.
+/// With more changed regions than this, the list costs more than it saves.
 constexpr size_t kMaxChanges = 64;
 
 std::unique_ptr<X11Connection> openUsableConnection() {
@@ -88,7 +88,7 @@ std::unique_ptr<CapturedFrame> XcbCaptureBackend::captureFrame() {
     if (!m_initialized) {
         return nullptr;
     }
-    // Reading the pointer waits for the server: the events of all earlier drawing are in.
+    // Reading the pointer waits for the server, so the events of all earlier drawing have arrived.
     auto cursor = visibleCursor();
     drainEvents();
     if (!m_connection->isAlive()) {
@@ -132,7 +132,7 @@ void XcbCaptureBackend::drainEvents() {
     }
 }
 
-/// Finds the monitor again after the server's layout changed; false when it has gone.
+/// Finds the monitor again after a change of the server's layout; false when it is gone.
 bool XcbCaptureBackend::followMonitor() {
     m_geometryChanged = false;
     const auto available = enumerateMonitors(*m_connection);
@@ -178,7 +178,7 @@ bool XcbCaptureBackend::cursorChanged(const std::optional<VisibleCursor>& cursor
     return now.left != drawn.left || now.top != drawn.top || now.serial != drawn.serial;
 }
 
-/// Reads the rows that changed. A failure leaves the whole image due.
+/// Reads the rows that changed. After a failure the whole image is read next time.
 bool XcbCaptureBackend::refreshImage(const std::vector<FrameRect>& changes) {
     int firstRow = m_monitor.height;
     int endRow = 0;
@@ -195,7 +195,7 @@ bool XcbCaptureBackend::refreshImage(const std::vector<FrameRect>& changes) {
     }
     m_wholeFrameDue = true;
     if (m_connection->isAlive()) {
-        // Most likely the screen has just shrunk and the news is still on its way.
+        // Most likely the screen has just shrunk and the event has not arrived yet.
         spdlog::warn("XcbCaptureBackend: reading the screen failed");
         m_geometryChanged = true;
     } else {

@@ -12,9 +12,9 @@ class MonitorWatch;
 class ScreenImage;
 class X11Connection;
 
-/// Captures one monitor of the X server that DISPLAY names, with the pointer drawn in. Only what
-/// the server reports as changed is read; changes of the monitor's place or size are followed.
-/// A monitor or server that has gone leaves the backend uninitialised; `initialize` connects anew.
+/// Captures one monitor of the X server that DISPLAY names, with the pointer drawn in. Reads only
+/// what the server reports as changed, and follows changes of the monitor's position or size. A
+/// lost monitor or server leaves the backend uninitialised; `initialize` connects anew.
 class XcbCaptureBackend : public MonitorCaptureBackend {
 public:
     XcbCaptureBackend();
@@ -26,7 +26,7 @@ public:
     std::vector<MonitorInfo> monitors() override;
 
 private:
-    /// The pointer where some of it shows in the frame; coordinates are the frame's.
+    /// The pointer when part of it is inside the frame, in the frame's coordinates.
     struct VisibleCursor {
         CursorImage image;
         FrameRect area;

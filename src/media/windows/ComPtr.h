@@ -32,13 +32,13 @@ public:
     T* operator->() const { return m_object; }
     explicit operator bool() const { return m_object != nullptr; }
 
-    /// Where a call that returns a new reference stores it; releases what is held.
+    /// The address at which a call stores a new reference; releases the current one.
     T** put() {
         reset();
         return &m_object;
     }
 
-    /// `put` for calls that take the interface they are asked for as an argument.
+    /// `put` for calls that take the requested interface's ID as an argument.
     void** putVoid() { return reinterpret_cast<void**>(put()); }
 
     /// Asks the object for another of its interfaces.

@@ -17,14 +17,14 @@ namespace {
 constexpr UINT kAcquireTimeoutMs = 100;
 constexpr int kMaxReinitializations = 5;
 
-/// Edge of the largest pointer that the system's accessibility settings offer, pixels.
+/// Edge of the largest pointer that the system's accessibility settings offer, in pixels.
 constexpr LONG kMaxPointer = 256;
 
 uint32_t hex(HRESULT result) {
     return static_cast<uint32_t>(result);
 }
 
-/// Logs `text`, which has one place for the result's code, when `result` is a failure.
+/// Logs `text`, which has one placeholder for the result's code, when `result` is a failure.
 bool succeeded(HRESULT result, fmt::format_string<uint32_t> text) {
     if (FAILED(result)) {
         spdlog::error(text, hex(result));
@@ -32,7 +32,7 @@ bool succeeded(HRESULT result, fmt::format_string<uint32_t> text) {
     return SUCCEEDED(result);
 }
 
-/// Gives an acquired frame back to the duplication.
+/// Returns an acquired frame to the duplication.
 struct FrameRelease {
     explicit FrameRelease(IDXGIOutputDuplication& owner) : duplication(owner) {}
     ~FrameRelease() { duplication.ReleaseFrame(); }
@@ -65,7 +65,7 @@ MonitorInfo monitorFrom(const DXGI_OUTPUT_DESC& description, size_t index) {
     monitor.y = desktop.top;
     monitor.width = desktop.right - desktop.left;
     monitor.height = desktop.bottom - desktop.top;
-    // The primary monitor is where the virtual desktop has its origin.
+    // The primary monitor is the one at the virtual desktop's origin.
     monitor.primary = monitor.x == 0 && monitor.y == 0 && monitor.width > 0;
     return monitor;
 }
@@ -74,7 +74,7 @@ FrameRect frameRect(const RECT& rect) {
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
-/// Where a pointer at `position` can show on `monitor`, in the monitor's pixels; may be empty.
+/// The area of `monitor`, in its own pixels, that a pointer at `position` may cover; may be empty.
 FrameRect pointerArea(const POINT& position, const MonitorInfo& monitor) {
     const LONG left = position.x - monitor.x;
     const LONG top = position.y - monitor.y;
@@ -247,7 +247,7 @@ bool DxgiCaptureBackend::reinitialize() {
         spdlog::error("DxgiCaptureBackend: reinit createDuplication failed");
         return false;
     }
-    // The size stays until a frame brings the new one.
+    // The size is kept until a frame brings the new one.
     m_monitor.x = monitor.x;
     m_monitor.y = monitor.y;
     m_monitor.primary = monitor.primary;
@@ -331,7 +331,7 @@ DxgiCaptureBackend::makeFrame(const D3D11_MAPPED_SUBRESOURCE& mapped) const {
     return frame;
 }
 
-/// What the desktop's change consists of; empty, for the whole frame, when that cannot be told.
+/// The changed regions of the desktop; empty, meaning the whole frame, when they are unknown.
 std::vector<FrameRect> DxgiCaptureBackend::readChanges(const DXGI_OUTDUPL_FRAME_INFO& info) {
     std::vector<FrameRect> changes;
     const UINT capacity = info.TotalMetadataBufferSize;
@@ -355,7 +355,7 @@ bool DxgiCaptureBackend::appendDirtyRects(UINT capacity, std::vector<FrameRect>&
     return true;
 }
 
-/// What moved has changed where it went; where it came from is among the dirty rectangles.
+/// A move has changed its destination; its source is among the dirty rectangles.
 bool DxgiCaptureBackend::appendMoveRects(UINT capacity, std::vector<FrameRect>& changes) {
     std::vector<DXGI_OUTDUPL_MOVE_RECT> moves(capacity / sizeof(DXGI_OUTDUPL_MOVE_RECT) + 1);
     UINT used = 0;
@@ -371,7 +371,7 @@ bool DxgiCaptureBackend::appendMoveRects(UINT capacity, std::vector<FrameRect>& 
     return true;
 }
 
-/// Draws the pointer. A list of changes grows by the places where it was and is.
+/// Draws the pointer. Adds its old and new places to a list of changes.
 void DxgiCaptureBackend::addPointer(CapturedFrame& frame) {
     const auto before = std::exchange(m_pointerDrawn, std::nullopt);
     if (const auto cursor = shownCursor(m_gdi)) {

@@ -9,12 +9,12 @@
 
 namespace corvane {
 
-/// Captures one monitor through desktop duplication, pointer drawn in.
+/// Captures one monitor through desktop duplication, with the pointer drawn in.
 ///
 /// An unchanged screen gives no frame. When the system takes the duplication away (mode change,
-/// secure desktop), it is made anew, up to five times; after that, or when that fails, the backend
+/// secure desktop), it is recreated, up to five times; after that, or when that fails, the backend
 /// is uninitialised and `initialize` starts over. A monitor's index is its position among the
-/// outputs of all adapters, so that it means the same monitor whichever adapter it hangs on.
+/// outputs of all adapters, so it means the same monitor whichever adapter drives it.
 class DxgiCaptureBackend : public MonitorCaptureBackend {
 public:
     explicit DxgiCaptureBackend(DxgiFunctions dxgi = {}, GdiFunctions gdi = {});
@@ -50,7 +50,7 @@ private:
     ComPtr<ID3D11Texture2D> m_staging;       ///< copy that the CPU can read
     int m_reinitializations = 0;             ///< since `initialize`
     std::optional<FrameRect> m_pointerDrawn; ///< in the last frame
-    bool m_wholeFrameDue = false; ///< the last frame handed out does not lead up to the next
+    bool m_wholeFrameDue = false; ///< the changes since the last frame delivered are unknown
 };
 
 } // namespace corvane

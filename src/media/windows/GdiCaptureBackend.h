@@ -6,9 +6,9 @@
 
 namespace corvane {
 
-/// Captures one monitor with GDI, pointer drawn in: a whole frame with every call. Works where
-/// desktop duplication does not, remote-desktop sessions among them. It never reports a lost
-/// screen: a copy that fails costs a warning and the round.
+/// Captures one monitor with GDI, with the pointer drawn in: a whole frame on every call. Works
+/// where desktop duplication does not, for example in remote-desktop sessions. It never reports a
+/// lost screen: a failed copy costs a warning and that frame.
 class GdiCaptureBackend : public MonitorCaptureBackend {
 public:
     explicit GdiCaptureBackend(GdiFunctions functions = {});

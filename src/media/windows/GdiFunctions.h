@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// The entry points into GDI and its desktop, the system's own unless a test puts others in.
+/// The entry points into GDI and its desktop: the system's own unless a test substitutes others.
 struct GdiFunctions {
     std::function<decltype(::EnumDisplayMonitors)> enumDisplayMonitors = ::EnumDisplayMonitors;
     std::function<decltype(::GetMonitorInfoA)> getMonitorInfo = ::GetMonitorInfoA;

@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// A 32-bit BGRA picture that GDI draws on: a memory device context compatible with the screen,
+/// A 32-bit BGRA picture for GDI to draw on: a memory device context compatible with the screen,
 /// with a top-down bitmap selected into it, and the screen's device context beside it.
 class GdiSurface {
 public:
@@ -16,7 +16,7 @@ public:
     GdiSurface(const GdiSurface&) = delete;
     GdiSurface& operator=(const GdiSurface&) = delete;
 
-    /// Makes a surface of this many pixels in place of an earlier one. Returns the name of the
+    /// Creates a surface of this many pixels, replacing an earlier one. Returns the name of the
     /// system call that failed, or null; after a failure nothing is held.
     const char* create(int32_t width, int32_t height);
 
@@ -25,7 +25,7 @@ public:
     HDC screen() const { return m_screen; }
     HDC context() const { return m_context; }
 
-    /// The pixels, rows of 4 * width bytes; flush GDI between drawing and reading.
+    /// The pixels, in rows of 4 * width bytes; flush GDI between drawing and reading.
     uint8_t* bits() const { return m_bits; }
 
     /// Copies the picture to `target`, which holds 4 * width * height bytes; false when GDI
@@ -42,7 +42,7 @@ private:
     HDC m_screen = nullptr;
     HDC m_context = nullptr;
     HBITMAP m_bitmap = nullptr;
-    HGDIOBJ m_previous = nullptr; ///< what the context held before
+    HGDIOBJ m_previous = nullptr; ///< selected into the context before
     uint8_t* m_bits = nullptr;
 };
 
