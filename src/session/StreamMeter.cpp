@@ -8,7 +8,7 @@ namespace corvane {
 
 void StreamMeter::count(size_t bytes) {
     constexpr int64_t kIntervalMs = 1000;
-    const int64_t now = monotonicMilliseconds();
+    const auto now = static_cast<int64_t>(monotonicMilliseconds());
     if (m_startedAtMs == 0) {
         m_startedAtMs = now;
         return;

@@ -139,7 +139,7 @@ void XtestInputBackend::fakeKey(uint8_t keycode, bool press) {
 /// Waits until the server has processed everything sent; false when it refused any of it.
 bool XtestInputBackend::settle(const char* kind) {
     xcb_connection_t* const connection = m_connection->handle();
-    XcbReply<xcb_get_input_focus_reply_t>(
+    const XcbReply<xcb_get_input_focus_reply_t> processed(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     if (const int error = m_connection->error()) {
         spdlog::warn("XtestInputBackend: XTEST ({}) failed, connection lost, error {}", kind,
