@@ -19,7 +19,7 @@ using Samples = std::array<int16_t, kBlock>;
 
 /// One block of pixels, split by colour. Sixteen bits per sample let the compiler multiply eight at
 /// once on every x64 processor.
-struct Colours {
+struct Colors {
     Samples red;
     Samples green;
     Samples blue;
@@ -29,23 +29,23 @@ uint64_t nv12Size(int32_t width, int32_t height) {
     return static_cast<uint64_t>(width) * static_cast<uint64_t>(height) * 3 / 2;
 }
 
-void splitColors(const uint8_t* __restrict source, size_t count, Colours& __restrict colours) {
+void splitColors(const uint8_t* __restrict source, size_t count, Colors& __restrict colors) {
     for (size_t i = 0; i < count; ++i) {
-        colours.blue[i] = source[i * kBytesPerPixel];
-        colours.green[i] = source[i * kBytesPerPixel + 1];
-        colours.red[i] = source[i * kBytesPerPixel + 2];
+        colors.blue[i] = source[i * kBytesPerPixel];
+        colors.green[i] = source[i * kBytesPerPixel + 1];
+        colors.red[i] = source[i * kBytesPerPixel + 2];
     }
 }
 
 /// The weights add up to 2^15, so that no sample can exceed 255.
-void convertLuma(const Colours& __restrict colours, size_t count, uint8_t* __restrict luma) {
+void convertLuma(const Colors& __restrict colors, size_t count, uint8_t* __restrict luma) {
     constexpr int16_t kRed = 9798;
     constexpr int16_t kGreen = 19235;
     constexpr int16_t kBlue = 3735;
     static_assert(kRed + kGreen + kBlue == 1 << 15);
     for (size_t i = 0; i < count; ++i) {
         const int32_t sum =
-            kRed * colours.red[i] + kGreen * colours.green[i] + kBlue * colours.blue[i];
+            kRed * colors.red[i] + kGreen * colors.green[i] + kBlue * colors.blue[i];
         luma[i] = static_cast<uint8_t>((sum + 16384) >> 15);
     }
 }
@@ -68,7 +68,7 @@ uint8_t chromaSample(int32_t sum) {
     return static_cast<uint8_t>(std::clamp(((sum + 16384) >> 15) + 128, 0, 255));
 }
 
-void convertChroma(const Colours& __restrict averages, size_t pairs, uint8_t* __restrict chroma) {
+void convertChroma(const Colors& __restrict averages, size_t pairs, uint8_t* __restrict chroma) {
     constexpr int16_t kHalf = 16384;
     constexpr int16_t kGreenInCb = -10846;
     constexpr int16_t kRedInCb = -5538;
@@ -85,9 +85,9 @@ void convertChroma(const Colours& __restrict averages, size_t pairs, uint8_t* __
 
 void convertRowPair(const uint8_t* upper, const uint8_t* lower, size_t count, uint8_t* upperLuma,
                     uint8_t* lowerLuma, uint8_t* chroma) {
-    Colours above;
-    Colours below;
-    Colours averages;
+    Colors above;
+    Colors below;
+    Colors averages;
     for (size_t column = 0; column < count; column += kBlock) {
         const size_t block = std::min(kBlock, count - column);
         splitColors(upper + column * kBytesPerPixel, block, above);
