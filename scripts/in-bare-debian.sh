@@ -81,6 +81,7 @@ rm -f "$root/etc/apt/apt.conf.d/docker-clean"
 
 # The command sees no process, mount or setting of this machine, and none of its own outlives it.
 export ROOT=$root TREE=$tree PACKAGES=$packages
+# shellcheck disable=SC2016 # for the inner shell to expand
 unshare --mount --pid --fork --kill-child --propagation private -- bash -euo pipefail -c '
     mount --bind "$PACKAGES" "$ROOT/var/cache/apt/archives"
     mount -t proc proc "$ROOT/proc"
