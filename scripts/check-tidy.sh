@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Fails when clang-tidy finds something. Usage: scripts/check-tidy.sh [<source file>...]
 #
-# Without arguments it reads everything below src and tools, which takes minutes. It works on the
+# Without arguments it reads everything below src, which takes minutes. It works on the
 # compile commands of the dev preset, which has to be built: the sources include generated headers.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -15,7 +15,7 @@ fi
 if [ $# -gt 0 ]; then
     files=("$@")
 else
-    mapfile -t files < <(git ls-files -- 'src/*.cpp' 'tools/*.cpp')
+    mapfile -t files < <(git ls-files -- 'src/*.cpp')
 fi
 # What the build does not compile, such as another platform's sources, has no command line.
 known=()
