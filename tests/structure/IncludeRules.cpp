@@ -1,9 +1,10 @@
 #include "IncludeRules.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <fstream>
 #include <optional>
-#include <regex>
 #include <string_view>
 
 namespace corvane::structure {
@@ -62,15 +63,16 @@ public:
 
 private:
     void checkFile(const fs::path& file) {
-        static const std::regex kInclude(R"(^\s*#\s*include\s*"([^"]+)\")");
+        static const QRegularExpression kInclude(
+            QStringLiteral(R"(^\s*#\s*include\s*\"([^\"]+)\")"));
         std::ifstream stream(m_sources / file);
         std::string text;
         for (int line = 1; std::getline(stream, text); ++line) {
-            std::smatch match;
-            if (!std::regex_search(text, match, kInclude)) {
+            const auto match = kInclude.match(QString::fromStdString(text));
+            if (!match.hasMatch()) {
                 continue;
             }
-            if (const auto reason = reasonAgainst(file, match[1].str())) {
+            if (const auto reason = reasonAgainst(file, match.captured(1).toStdString())) {
                 m_found.push_back("src/" + file.generic_string() + ":" + std::to_string(line) +
                                   ": " + text + ": " + *reason);
             }
@@ -107,24 +109,28 @@ private:
 } // namespace
 
 Arrows readArrows(const fs::path& contributing) {
-    static const std::regex kRoom(R"(^\s*`src/([^`]+)`\s*$)");
-    static const std::regex kWord(R"([a-z0-9/]+)");
+    static const QRegularExpression kRoom(QStringLiteral("^\\s*`src/([^`]+)`\\s*$"));
+    static const QRegularExpression kWord(QStringLiteral("[a-z0-9/]+"));
     Arrows arrows;
     std::vector<std::string> unbound;
     std::ifstream stream(contributing);
     for (std::string row; std::getline(stream, row);) {
         const auto columns = cells(row);
-        std::smatch room;
-        if (columns.size() < 3 || !std::regex_match(columns[0], room, kRoom)) {
+        if (columns.size() < 3) {
             continue;
         }
-        auto& allowed = arrows[room[1].str()];
-        const std::string& list = columns[2];
-        for (std::sregex_iterator it(list.begin(), list.end(), kWord), end; it != end; ++it) {
-            allowed.insert(it->str());
+        const auto match = kRoom.match(QString::fromStdString(columns[0]));
+        if (!match.hasMatch()) {
+            continue;
+        }
+        const std::string room = match.captured(1).toStdString();
+        auto& allowed = arrows[room];
+        auto words = kWord.globalMatch(QString::fromStdString(columns[2]));
+        while (words.hasNext()) {
+            allowed.insert(words.next().captured().toStdString());
         }
         if (allowed.erase("everything") > 0) {
-            unbound.push_back(room[1].str());
+            unbound.push_back(room);
         }
     }
     for (const std::string& room : unbound) {
