@@ -123,7 +123,7 @@ TEST_F(SessionPairTest, DestroyingTheManagerEndsTheSession) {
     ASSERT_TRUE(connectDevices());
     m_target->session.reset();
     EXPECT_TRUE(eventually([&] { return m_viewer->is(SessionState::Idle); }));
-    EXPECT_TRUE(closeReasons().contains(u"destructor_cleanup"_s));
+    EXPECT_TRUE(eventually([&] { return closeReasons().contains(u"destructor_cleanup"_s); }));
 }
 
 } // namespace
