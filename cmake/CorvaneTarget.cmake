@@ -1,13 +1,19 @@
+option(CORVANE_WARNINGS_AS_ERRORS "Let no warning pass; the presets switch this on" OFF)
+
 # Warnings, sanitizers and include root that every target of ours shares.
 add_library(corvane_options INTERFACE)
 if(MSVC)
-    target_compile_options(corvane_options INTERFACE /W4 /permissive- /utf-8)
+    target_compile_options(corvane_options INTERFACE /W4 /permissive- /utf-8
+        $<$<BOOL:${CORVANE_WARNINGS_AS_ERRORS}>:/WX>)
 else()
     target_compile_options(corvane_options INTERFACE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+        $<$<BOOL:${CORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 target_compile_definitions(corvane_options INTERFACE
-    QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
+    QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+    # What 6.4 has is used as 6.4 has it: names that came later would need a version check.
+    QT_WARN_DEPRECATED_UP_TO=0x060400)
 if(CORVANE_PLATFORM STREQUAL "windows")
     target_compile_definitions(corvane_options INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN)
 endif()

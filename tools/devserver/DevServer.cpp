@@ -28,7 +28,8 @@ DevServer::DevServer(QObject* parent)
       m_control(std::make_unique<MisbehaviourControl>(*this)),
       m_front(std::make_unique<HttpFront>(
           m_misbehaviour, [this](const Request& request) { return answer(request); }, this)) {
-    connect(m_front.get(), &HttpFront::newWebSocketConnection, this, &DevServer::onSignalingOpened);
+    connect(&m_front->listener(), &HttpListener::newWebSocketConnection, this,
+            &DevServer::onSignalingOpened);
 }
 
 DevServer::~DevServer() = default;
@@ -45,7 +46,7 @@ bool DevServer::start(const DevServerConfig& config, QString* error) {
                                  .arg(reason));
     };
     QString reason;
-    if (!m_front->start(config.address, config.httpPort, reason)) {
+    if (!m_front->listener().start(config.address, config.httpPort, reason)) {
         return cannotListen(config.httpPort, reason);
     }
     if (!m_relay->start(config.address, config.relayPort, reason)) {
@@ -66,7 +67,7 @@ QUrl DevServer::url() const {
 }
 
 quint16 DevServer::httpPort() const {
-    return m_front->port();
+    return m_front->listener().port();
 }
 
 quint16 DevServer::stunPort() const {
@@ -108,7 +109,7 @@ Answer DevServer::answer(const Request& request) {
 }
 
 void DevServer::onSignalingOpened() {
-    while (auto socket = m_front->nextPendingWebSocketConnection()) {
+    while (auto socket = m_front->listener().nextPendingWebSocketConnection()) {
         m_hub->adopt(std::move(socket));
     }
 }

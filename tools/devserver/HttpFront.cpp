@@ -2,108 +2,41 @@
 
 #include "devserver/Misbehaviour.h"
 
-#include <QHttpServerRequest>
-#include <QMetaEnum>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTimer>
 
 #include <utility>
 
 namespace corvane::devserver {
-namespace {
-
-/// Limits what a connection may keep in memory: a request larger than the buffer never completes.
-class BoundedTcpServer : public QTcpServer {
-public:
-    using QTcpServer::QTcpServer;
-
-protected:
-    void incomingConnection(qintptr descriptor) override {
-        auto* socket = new QTcpSocket(this);
-        socket->setSocketDescriptor(descriptor);
-        socket->setReadBufferSize(kMaxMessageBytes);
-        addPendingConnection(socket);
-    }
-};
-
-/// The base class delivers an upgrade request before it hands the socket to the WebSocket side.
-bool isUpgrade(const QHttpServerRequest& raw) {
-    return raw.value("Upgrade").compare("websocket", Qt::CaseInsensitive) == 0;
-}
-
-Request recorded(const QHttpServerRequest& raw) {
-    const auto method = QMetaEnum::fromType<QHttpServerRequest::Method>();
-    return {.method =
-                QString::fromLatin1(method.valueToKey(static_cast<int>(raw.method()))).toUpper(),
-            .path = raw.url().path(),
-            .authorization = raw.value("Authorization"),
-            .contentType = raw.value("Content-Type"),
-            .body = raw.body(),
-            .remoteAddress = raw.remoteAddress()};
-}
-
-void write(const Answer& answer, QTcpSocket* socket) {
-    socket->write("HTTP/1.1 " + QByteArray::number(answer.status) +
-                  " \r\nContent-Type: " + answer.contentType + "\r\nContent-Length: " +
-                  QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
-    socket->flush();
-    if (answer.afterwards) {
-        answer.afterwards();
-    }
-}
-
-void writeLater(int delayMs, const Answer& answer, QTcpSocket* socket) {
-    if (delayMs <= 0) {
-        write(answer, socket);
-        return;
-    }
-    QTimer::singleShot(delayMs, socket, [answer, socket] { write(answer, socket); });
-}
-
-} // namespace
 
 HttpFront::HttpFront(const Misbehaviour& misbehaviour, Handler handler, QObject* parent)
-    : QAbstractHttpServer(parent), m_misbehaviour(misbehaviour), m_handler(std::move(handler)),
-      m_listener(new BoundedTcpServer(this)) {}
+    : QObject(parent), m_misbehaviour(misbehaviour), m_handler(std::move(handler)),
+      m_listener([this](const Request& request,
+                        const HttpExchange& exchange) { onRequest(request, exchange); },
+                 nullptr) {}
 
-bool HttpFront::start(const QHostAddress& address, quint16 port, QString& error) {
-    if (!m_listener->listen(address, port)) {
-        error = m_listener->errorString();
-        return false;
-    }
-    bind(m_listener);
-    return true;
-}
-
-quint16 HttpFront::port() const {
-    return m_listener->serverPort();
-}
-
-bool HttpFront::handleRequest(const QHttpServerRequest& raw, QTcpSocket* socket) {
-    if (isUpgrade(raw)) {
-        return true;
-    }
-    const Request request = recorded(raw);
+void HttpFront::onRequest(const Request& request, const HttpExchange& exchange) {
     m_requests.append(request);
     if (m_requests.size() > kMaxLogEntries) {
         m_requests.removeFirst();
     }
-    perform(m_misbehaviour.replyTo(request.path).value_or(Reply{}), request, socket);
-    return true;
+    perform(m_misbehaviour.replyTo(request.path).value_or(Reply{}), request, exchange);
 }
 
-void HttpFront::missingHandler(const QHttpServerRequest&, QTcpSocket*) {}
-
-void HttpFront::perform(const Reply& scripted, const Request& request, QTcpSocket* socket) {
+void HttpFront::perform(const Reply& scripted, const Request& request,
+                        const HttpExchange& exchange) {
     if (scripted.dropConnection) {
-        QTimer::singleShot(qMax(0, scripted.delayMs), socket, [socket] { socket->abort(); });
-    } else if (scripted.status || scripted.body) {
-        writeLater(scripted.delayMs,
-                   {.status = scripted.status.value_or(200), .body = scripted.body.value_or("")},
-                   socket);
+        // Never under the request itself, whose connection the server still holds.
+        QTimer::singleShot(qMax(0, scripted.delayMs), this, [exchange] { exchange.drop(); });
+        return;
+    }
+    const Answer answer =
+        scripted.status || scripted.body
+            ? Answer{.status = scripted.status.value_or(200), .body = scripted.body.value_or("")}
+            : m_handler(request);
+    if (scripted.delayMs <= 0) {
+        exchange.send(answer);
     } else {
-        writeLater(scripted.delayMs, m_handler(request), socket);
+        QTimer::singleShot(scripted.delayMs, this, [exchange, answer] { exchange.send(answer); });
     }
 }
 

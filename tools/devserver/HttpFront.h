@@ -1,23 +1,20 @@
 #pragma once
 
-#include "devserver/HttpMessages.h"
+#include "devserver/HttpListener.h"
 
-#include <QAbstractHttpServer>
 #include <QList>
+#include <QObject>
 
 #include <functional>
-
-class QTcpServer;
 
 namespace corvane::devserver {
 
 class Misbehaviour;
 struct Reply;
 
-/// The HTTP listener: records every request, asks the handler for the answer and writes it, unless
-/// a misbehaviour delays, replaces or suppresses it. WebSocket upgrades on the same port are
-/// delivered through `newWebSocketConnection`.
-class HttpFront : public QAbstractHttpServer {
+/// The HTTP side: records every request, asks the handler for the answer and sends it, late,
+/// replaced or not at all where a misbehaviour says so.
+class HttpFront : public QObject {
     Q_OBJECT
 
 public:
@@ -26,24 +23,20 @@ public:
     /// `misbehaviour` must outlive the front. `handler` is called on this object's thread.
     HttpFront(const Misbehaviour& misbehaviour, Handler handler, QObject* parent);
 
-    /// False when the port is not available; the reason goes to `error`.
-    bool start(const QHostAddress& address, quint16 port, QString& error);
-
-    quint16 port() const;
+    /// Where requests come in, and out of which WebSocket connections on the same port come.
+    HttpListener& listener() { return m_listener; }
+    const HttpListener& listener() const { return m_listener; }
 
     /// The latest requests, oldest first.
     const QList<Request>& requests() const { return m_requests; }
 
-protected:
-    bool handleRequest(const QHttpServerRequest& raw, QTcpSocket* socket) override;
-    void missingHandler(const QHttpServerRequest& raw, QTcpSocket* socket) override;
-
 private:
-    void perform(const Reply& scripted, const Request& request, QTcpSocket* socket);
+    void onRequest(const Request& request, const HttpExchange& exchange);
+    void perform(const Reply& scripted, const Request& request, const HttpExchange& exchange);
 
     const Misbehaviour& m_misbehaviour;
-    Handler m_handler;
-    QTcpServer* m_listener;
+    const Handler m_handler;
+    HttpListener m_listener;
     QList<Request> m_requests;
 };
 
