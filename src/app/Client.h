@@ -2,8 +2,8 @@
 
 namespace corvane {
 
-/// The whole run of the client, from its start to its end; answers the process's exit code. Takes
-/// what the entry point is given. Once per process, on its first thread.
+/// Runs the client from start to end and returns the process's exit code. Takes the arguments of
+/// the entry point. Once per process, on its first thread.
 int runClient(int argc, char** argv);
 
 } // namespace corvane

@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// What the peer wrote, made fit for one log line: control characters replaced, and cut after
+/// Text from the peer, made fit for one log line: control characters replaced, and cut after
 /// `maxLength` bytes.
 std::string loggableText(std::string_view text, size_t maxLength);
 

@@ -6,16 +6,16 @@
 
 namespace corvane {
 
-/// How the way out of a device's network translates addresses. The numbers are those that a session
-/// negotiates by; one from elsewhere may lie outside the enumeration.
+/// How the router in front of a device maps its addresses. The numbers are those that two peers
+/// exchange; a received one may lie outside the enumeration.
 enum class NatType : int32_t {
     Unknown = 0,
-    Open = 1,           ///< not at all
-    PortRestricted = 2, ///< in the same way for every destination
-    Symmetric = 3,      ///< in another way for each destination
+    Open = 1,           ///< no translation
+    PortRestricted = 2, ///< one mapping for all destinations
+    Symmetric = 3,      ///< a new mapping for each destination
 };
 
-/// The name that the server and the log know it by.
+/// Its name in requests to the server and in the log.
 QString natTypeName(NatType type);
 
 } // namespace corvane

@@ -2,10 +2,10 @@
 
 namespace corvane {
 
-QString shownOnOneLine(const QString& text, qsizetype longest) {
-    QString line = text.first(qMin(text.size(), longest)).simplified();
+QString shownOnOneLine(const QString& text, qsizetype maxLength) {
+    QString line = text.first(qMin(text.size(), maxLength)).simplified();
     line.removeIf([](QChar character) { return !character.isPrint() && !character.isSurrogate(); });
-    return text.size() > longest ? line + QStringLiteral("…") : line;
+    return text.size() > maxLength ? line + QStringLiteral("…") : line;
 }
 
 QString shownName(const QString& name) {

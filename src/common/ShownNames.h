@@ -5,15 +5,14 @@
 
 namespace corvane {
 
-/// What another machine wrote, made fit to be shown: on one line, without what cannot be printed,
-/// and with a mark where it was cut after `longest` characters.
-QString shownOnOneLine(const QString& text, qsizetype longest);
+/// Text from another machine, made fit to be shown: on one line, without unprintable characters,
+/// and with an ellipsis where it was cut after `maxLength` characters.
+QString shownOnOneLine(const QString& text, qsizetype maxLength);
 
 /// A file's name, short enough to stand inside a sentence.
 QString shownName(const QString& name);
 
-/// One name per line, few enough that a message box fits on the screen, and how many more there
-/// are.
+/// One name per line, as many as fit in a message box, then how many more there are.
 QString shownNames(const QStringList& names);
 
 } // namespace corvane

@@ -23,12 +23,12 @@ public:
     /// Whether the platform has a companion service at all.
     virtual bool hasService() const = 0;
 
-    /// False too where the system did not answer in time.
+    /// Also false when the system did not answer in time.
     virtual QFuture<bool> startsAtLogon() = 0;
     virtual QFuture<bool> isServiceInstalled() = 0;
 
-    /// Makes the system as chosen, whether or not it is so already. False when the system or its
-    /// user did not permit the attempt; what became of a permitted one is not looked at.
+    /// Applies the choice, even where nothing changes. False when the system or its user did not
+    /// permit the attempt; the outcome of a permitted attempt is not checked.
     virtual QFuture<bool> apply(const IntegrationChoice& choice) = 0;
 };
 
