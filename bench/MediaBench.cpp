@@ -135,7 +135,8 @@ void encodeBare(const Clip& clip, const std::vector<aom_image_t*>& images) {
         aom_codec_encode(&context, images[i], static_cast<aom_codec_pts_t>(i), 1, 0);
         aom_codec_iter_t position = nullptr;
         while (const auto* const packet = aom_codec_get_cx_data(&context, &position)) {
-            benchmark::DoNotOptimize(packet->data.frame.sz);
+            size_t bytes = packet->data.frame.sz;
+            benchmark::DoNotOptimize(bytes);
         }
     }
     aom_codec_destroy(&context);

@@ -10,6 +10,15 @@
 
 namespace {
 
+/// Why a run failed; null when it did not. Version 1.8 of the library renamed the two members.
+template <typename Run> const std::string* failureOf(const Run& run) {
+    if constexpr (requires { run.error_occurred; }) {
+        return run.error_occurred ? &run.error_message : nullptr;
+    } else {
+        return run.skipped ? &run.skip_message : nullptr;
+    }
+}
+
 class TableReporter : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context& /*context*/) override {
@@ -21,8 +30,8 @@ public:
         for (const Run& run : runs) {
             const std::string name = run.run_name.function_name + '/' + run.run_name.args;
             const auto& counters = run.counters;
-            if (run.error_occurred) {
-                std::printf("%-24s failed: %s\n", name.c_str(), run.error_message.c_str());
+            if (const std::string* const failure = failureOf(run)) {
+                std::printf("%-24s failed: %s\n", name.c_str(), failure->c_str());
                 m_failed = true;
             } else if (counters.contains("ratio")) {
                 std::printf("%-24s %12.4f %12.4f %8.3f\n", name.c_str(), counters.at("ours").value,
