@@ -11,7 +11,8 @@
 namespace {
 
 /// Why a run failed; null when it did not. Version 1.8 of the library renamed the two members.
-template <typename Run> const std::string* failureOf(const Run& run) {
+template <typename Run>
+const std::string* failureOf(const Run& run) {
     if constexpr (requires { run.error_occurred; }) {
         return run.error_occurred ? &run.error_message : nullptr;
     } else {

@@ -644,6 +644,10 @@ Pokračovat?</translation>
         <source>Add this device at %1</source>
         <translation>Přidejte toto zařízení na %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Na ploše Wayland partneři tuto obrazovku nevidí ani nemohou ovládat; chat a soubory fungují a k ostatním se připojit lze. Chcete-li obrazovku sdílet, přihlaste se do relace X11.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

@@ -644,6 +644,10 @@ Fortfahren?</translation>
         <source>Add this device at %1</source>
         <translation>Dieses Gerät hinzufügen unter %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Auf einem Wayland-Desktop können Partner diesen Bildschirm weder sehen noch steuern; Chat und Dateien funktionieren, ebenso das Verbinden mit anderen. Melden Sie sich in einer X11-Sitzung an, um den Bildschirm freizugeben.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

@@ -644,6 +644,10 @@ Continue?</source>
         <source>Add this device at %1</source>
         <translation>Añada este equipo en %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>En un escritorio Wayland, los interlocutores no pueden ver ni controlar esta pantalla; el chat y los archivos funcionan, y también conectarse a otros. Para compartir la pantalla, inicie una sesión X11.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

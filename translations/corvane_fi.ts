@@ -644,6 +644,10 @@ Jatketaanko?</translation>
         <source>Add this device at %1</source>
         <translation>Lisää tämä laite osoitteessa %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Wayland-työpöydällä kumppanit eivät voi nähdä eivätkä ohjata tätä näyttöä; keskustelu ja tiedostot toimivat, samoin yhteyden ottaminen muihin. Jos haluat jakaa näytön, kirjaudu X11-istuntoon.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

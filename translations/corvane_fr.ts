@@ -644,6 +644,10 @@ Continuer&#xa0;?</translation>
         <source>Add this device at %1</source>
         <translation>Ajoutez cet appareil sur %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Sur un bureau Wayland, les partenaires ne peuvent ni voir ni contrôler cet écran ; la discussion et les fichiers fonctionnent, de même que la connexion à d&apos;autres. Pour partager l&apos;écran, ouvrez une session X11.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

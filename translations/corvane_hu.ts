@@ -644,6 +644,10 @@ Folytatja?</translation>
         <source>Add this device at %1</source>
         <translation>Az eszköz hozzáadása itt: %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Wayland asztalon a partnerek nem láthatják és nem vezérelhetik ezt a képernyőt; a csevegés és a fájlok működnek, és a csatlakozás másokhoz is. A képernyő megosztásához jelentkezzen be egy X11-munkamenetbe.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

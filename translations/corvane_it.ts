@@ -644,6 +644,10 @@ Continuare?</translation>
         <source>Add this device at %1</source>
         <translation>Aggiungi questo dispositivo su %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Su un desktop Wayland gli interlocutori non possono né vedere né controllare questo schermo; la chat e i file funzionano, così come la connessione ad altri. Per condividere lo schermo, accedere a una sessione X11.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

@@ -644,6 +644,10 @@ Vil du fortsette?</translation>
         <source>Add this device at %1</source>
         <translation>Legg til denne enheten på %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>På et Wayland-skrivebord kan partnere verken se eller styre denne skjermen; chat og filer virker, og det gjør også tilkobling til andre. Logg inn i en X11-økt for å dele skjermen.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

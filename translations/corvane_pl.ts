@@ -644,6 +644,10 @@ Kontynuować?</translation>
         <source>Add this device at %1</source>
         <translation>Dodaj to urządzenie na stronie %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Na pulpicie Wayland partnerzy nie mogą widzieć tego ekranu ani nim sterować; czat i pliki działają, podobnie jak łączenie się z innymi. Aby udostępnić ekran, zaloguj się do sesji X11.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

@@ -644,6 +644,10 @@ Pokračovať?</translation>
         <source>Add this device at %1</source>
         <translation>Pridajte toto zariadenie na %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>Na ploche Wayland partneri túto obrazovku nevidia ani nemôžu ovládať; chat a súbory fungujú a k ostatným sa pripojiť dá. Ak chcete obrazovku zdieľať, prihláste sa do relácie X11.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

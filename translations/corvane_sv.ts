@@ -644,6 +644,10 @@ Vill du fortsätta?</translation>
         <source>Add this device at %1</source>
         <translation>Lägg till den här enheten på %1</translation>
     </message>
+    <message>
+        <source>On a Wayland desktop, partners can neither see nor control this screen; chat and files work, and so does connecting to others. To share the screen, log in to an X11 session.</source>
+        <translation>På ett Wayland-skrivbord kan partner varken se eller styra den här skärmen; chatt och filer fungerar, och det gör även anslutning till andra. Logga in i en X11-session för att dela skärmen.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::HttpFetch</name>

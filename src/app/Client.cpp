@@ -14,6 +14,7 @@
 #include "integration/Autostart.h"
 #include "integration/ISystemIntegration.h"
 #include "media/CaptureBackendCandidate.h"
+#include "media/CaptureObstacle.h"
 #include "network/identity/AuthController.h"
 #include "network/reachability/HeartbeatService.h"
 #include "network/server/ApiClient.h"
@@ -117,9 +118,9 @@ int runClient(int argc, char** argv) {
 
     const auto integration = createSystemIntegration();
     MainWindow window(&auth, &api, &signaling, &session, &settings,
-                      {.integration = integration.get(), .monitors = [] {
-                           return capturableMonitors(captureBackendCandidates());
-                       }});
+                      {.integration = integration.get(),
+                       .monitors = [] { return capturableMonitors(captureBackendCandidates()); },
+                       .captureObstacle = captureObstacle()});
     QObject::connect(&window, &MainWindow::settingsChanged, &session,
                      [&] { applySessionSettings(session, settings); });
     UpdateService updates;

@@ -37,8 +37,10 @@ HomePage::HomePage(SettingsController* settings, QWidget* parent) : QWidget(pare
         QStringLiteral("color: %1; font-size: 10px;").arg(QLatin1String(colors::kSecondary)));
 
     m_updateBanner = new UpdateBanner(this);
+    m_captureNotice = createCaptureNotice();
     layout->addLayout(createHeader());
     layout->addWidget(m_updateBanner);
+    layout->addWidget(m_captureNotice);
     layout->addWidget(m_deviceCard);
     layout->addWidget(m_connectCard);
     layout->addWidget(createCaption(tr("PAIRING CODE"), this));
@@ -100,6 +102,17 @@ QLabel* HomePage::createAdminLink() {
     return label;
 }
 
+QLabel* HomePage::createCaptureNotice() {
+    auto* const label = new QLabel(this);
+    label->setObjectName(QStringLiteral("captureNotice"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setStyleSheet(
+        QStringLiteral("color: %1; font-size: 11px;").arg(QLatin1String(colors::kAttention)));
+    label->hide();
+    return label;
+}
+
 bool HomePage::event(QEvent* event) {
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::LayoutRequest) {
@@ -110,6 +123,16 @@ bool HomePage::event(QEvent* event) {
 
 void HomePage::setPairingCode(const QString& code) {
     m_pairingCode->setText(code);
+}
+
+void HomePage::setCaptureObstacle(CaptureObstacle obstacle) {
+    if (obstacle == CaptureObstacle::Wayland) {
+        m_captureNotice->setText(
+            tr("On a Wayland desktop, partners can neither see nor control this screen; chat and "
+               "files work, and so does connecting to others. To share the screen, log in to an "
+               "X11 session."));
+    }
+    m_captureNotice->setVisible(obstacle != CaptureObstacle::None);
 }
 
 } // namespace corvane

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "media/CaptureObstacle.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -23,6 +25,8 @@ public:
     ConnectCard* connectCard() const { return m_connectCard; }
     UpdateBanner* updateBanner() const { return m_updateBanner; }
     void setPairingCode(const QString& code);
+    /// Shows what the obstacle means for the user, or nothing where there is none.
+    void setCaptureObstacle(CaptureObstacle obstacle);
 
 Q_SIGNALS:
     void adminPanelRequested();
@@ -37,8 +41,10 @@ private:
     QLayout* createHeader();
     QLayout* createPairingRow();
     QLabel* createAdminLink();
+    QLabel* createCaptureNotice();
 
     UpdateBanner* m_updateBanner = nullptr;
+    QLabel* m_captureNotice = nullptr;
     DeviceCard* m_deviceCard = nullptr;
     ConnectCard* m_connectCard = nullptr;
     QLabel* m_pairingCode = nullptr;

@@ -71,6 +71,7 @@ MainWindow::MainWindow(AuthController* auth, ApiClient* api, SignalingClient* si
     connectViewer();
     connectServices();
     m_home->setPairingCode(m_auth->pairingCode());
+    m_home->setCaptureObstacle(m_platform.captureObstacle);
     m_connect->focusPartnerField();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/MonitorInfo.h"
+#include "media/CaptureObstacle.h"
 
 #include <QSystemTrayIcon>
 
@@ -18,6 +19,9 @@ struct MainWindowPlatform {
 
     /// The monitors that this machine can share, in the platform's order.
     std::function<std::vector<MonitorInfo>()> monitors;
+
+    /// What the user is told, from the start, about sharing this machine.
+    CaptureObstacle captureObstacle = CaptureObstacle::None;
 
     /// Whether the desktop currently has room for a tray icon.
     std::function<bool()> isTrayThere = &QSystemTrayIcon::isSystemTrayAvailable;

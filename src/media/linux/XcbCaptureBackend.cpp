@@ -8,6 +8,7 @@
 #include "x11/X11Connection.h"
 #include "x11/X11Monitors.h"
 #include "x11/XcbEvent.h"
+#include "x11/Xwayland.h"
 
 #include <spdlog/spdlog.h>
 
@@ -30,6 +31,10 @@ std::unique_ptr<X11Connection> openUsableConnection() {
     if (!connection->isBgrx()) {
         spdlog::error("XcbCaptureBackend: unsupported screen format (depth {}, {} bits per pixel)",
                       connection->screen().root_depth, connection->bitsPerPixel());
+        return nullptr;
+    }
+    if (isXwayland(*connection)) {
+        spdlog::error("XcbCaptureBackend: a Wayland desktop cannot be captured through X11");
         return nullptr;
     }
     return connection;

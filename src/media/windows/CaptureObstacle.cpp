@@ -1,0 +1,9 @@
+#include "media/CaptureObstacle.h"
+
+namespace corvane {
+
+CaptureObstacle captureObstacle() {
+    return CaptureObstacle::None;
+}
+
+} // namespace corvane
