@@ -1,7 +1,6 @@
 #include "UpdateServiceTest.h"
 #include "network/updates/VersionComparison.h"
 
-#include <QCoreApplication>
 #include <QSignalSpy>
 
 #include <algorithm>
@@ -10,24 +9,15 @@ namespace corvane {
 namespace {
 
 using test::CannedServer;
+using test::copied;
 using test::httpAnswer;
+using test::nothing;
 using test::UpdateServiceTest;
 using namespace Qt::StringLiterals;
 
 const std::string kTooSmall = "updateError|Downloaded file is too small — update aborted.";
 const std::string kNoInstaller = "updateError|Failed to extract installer from zip.";
 const std::string kCannotWrite = "updateError|Cannot write to temp directory.";
-
-/// A program that is on every machine and does nothing.
-Command nothing(const QString&, const QString&) {
-    return {QCoreApplication::applicationFilePath(), {u"--gtest_filter=-*"_s}};
-}
-
-/// Takes the archive itself for the installer in it.
-Command copied(const QString& archive, const QString& folder) {
-    QFile::copy(archive, folder + u"/CorvaneSetup.exe"_s);
-    return nothing(archive, folder);
-}
 
 TEST(VersionComparison, ComparesNumberByNumber) {
     const auto isNewer = [](const char* candidate, const char* current) {

@@ -6,6 +6,7 @@
 #include "support/Files.h"
 #include "support/LogCapture.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
@@ -15,6 +16,17 @@ namespace corvane::test {
 inline QByteArray httpAnswer(const QByteArray& body) {
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" +
            body;
+}
+
+/// A program that is on every machine and does nothing.
+inline Command nothing(const QString&, const QString&) {
+    return {QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=-*")}};
+}
+
+/// Takes the archive itself for the installer in it.
+inline Command copied(const QString& archive, const QString& folder) {
+    QFile::copy(archive, folder + QStringLiteral("/CorvaneSetup.exe"));
+    return nothing(archive, folder);
 }
 
 /// Downloads from canned servers into a folder of its own.
