@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demonstration need and that are
 # missing, and nothing else. The cross-compiler and Wine come in only beside the Windows libraries,
-# clang-tidy and shellcheck only with the argument "checks".
+# what checks the sources and makes bare systems only with the argument "checks".
 set -euo pipefail
 
 packages=(
@@ -24,7 +24,16 @@ if [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
     packages+=(g++-mingw-w64-x86-64-posix wine wine64)
 fi
 if [ "${1:-}" = checks ]; then
-    packages+=(clang-tidy shellcheck)
+    packages+=(clang-tidy debootstrap shellcheck)
+fi
+
+fail() {
+    echo "bootstrap: $*" >&2
+    exit 1
+}
+
+if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    fail "this is no Debian; docs/building.md says what other systems need"
 fi
 
 missing=()
@@ -35,11 +44,17 @@ for package in "${packages[@]}"; do
 done
 [ ${#missing[@]} -gt 0 ] || exit 0
 
-as_root=()
+as_root=(env DEBIAN_FRONTEND=noninteractive)
 if [ "$(id -u)" -ne 0 ]; then
-    as_root=(sudo)
+    command -v sudo >/dev/null || fail "needs root or sudo to install ${missing[*]}"
+    as_root=(sudo "${as_root[@]}")
 fi
 echo "Installing: ${missing[*]}"
-"${as_root[@]}" apt-get update -qq
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y --no-install-recommends "${missing[@]}"
+# An earlier run may have been interrupted half-way.
+"${as_root[@]}" dpkg --configure -a >/dev/null ||
+    fail "packages of an earlier installation cannot be configured; see above"
+"${as_root[@]}" apt-get update -qq -o APT::Update::Error-Mode=any -o DPkg::Lock::Timeout=120 ||
+    fail "the package lists cannot be fetched; see above, and run this again when they can"
+"${as_root[@]}" apt-get install -y --no-install-recommends --fix-broken \
+    -o DPkg::Lock::Timeout=120 "${missing[@]}" ||
+    fail "not everything could be installed; see above. The next run goes on from here."
