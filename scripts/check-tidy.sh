@@ -2,12 +2,18 @@
 # Fails when clang-tidy finds something. Usage: scripts/check-tidy.sh [<source file>...]
 #
 # Without arguments it reads everything below src, which takes minutes. It works on the
-# compile commands of the dev preset, which has to be built: the sources include generated headers.
+# compile commands of the dev or asan preset, which has to be built: the sources include generated
+# headers.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-build=build/dev
-if [ ! -f $build/compile_commands.json ]; then
+build=
+for folder in build/dev build/asan; do
+    if [ -z "$build" ] && [ -f $folder/compile_commands.json ]; then
+        build=$folder
+    fi
+done
+if [ -z "$build" ]; then
     echo "check-tidy: build the dev preset first (scripts/test.sh does)" >&2
     exit 1
 fi
