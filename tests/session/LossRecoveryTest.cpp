@@ -1,3 +1,4 @@
+#include "RecordingTransport.h"
 #include "TestPlatform.h"
 #include "common/ByteViews.h"
 #include "media/FrameConverter.h"
@@ -13,11 +14,8 @@ namespace corvane::test {
 namespace {
 
 /// Carries messages straight to the other side, but for some video messages.
-class LossyTransport : public ITransport {
+class LossyTransport : public RecordingTransport {
 public:
-    bool connect(const std::string&, uint16_t) override { return true; }
-    void disconnect() override {}
-    bool isConnected() const override { return true; }
     bool send(ChannelType channel, const uint8_t* data, size_t size) override {
         if (channel == ChannelType::Video) {
             const int number = videoMessages++;
@@ -31,9 +29,6 @@ public:
             Qt::QueuedConnection);
         return true;
     }
-    qint64 bytesQueued() const override { return 0; }
-    bool waitUntilQueued(qint64) override { return true; }
-    std::optional<double> roundTripMilliseconds() const override { return std::nullopt; }
 
     SessionDataPlane* peer = nullptr;
     int firstLost = 0, lastLost = -1;

@@ -47,16 +47,5 @@ TEST_F(PictureRecoveryTest, AsksUntilAKeyFrameIsThere) {
     EXPECT_FALSE(m_requests.wait(150));
 }
 
-TEST_F(PictureRecoveryTest, WhatWasOnlyOvertakenCostsNothing) {
-    m_recovery.start();
-    m_recovery.onMessage(0);
-    m_recovery.onPicture(0, true);
-    for (uint64_t counter = 2; counter < 40; counter += 2) {
-        m_recovery.onMessage(counter);
-        m_recovery.onMessage(counter - 1);
-    }
-    EXPECT_FALSE(m_requests.wait(150));
-}
-
 } // namespace
 } // namespace corvane

@@ -5,21 +5,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST_F(SessionPairTest, ServerRefusalsReachTheUserAndLeaveRoomForTheNext) {
-    const QString refusals[][2] = {{m_target->id, u"password"_s},
-                                   {u"000000000"_s, u"not available"_s},
-                                   {m_server.registerDevice().clientId, u"offline"_s}};
-    for (const auto& [id, part] : refusals) {
-        m_viewer->errors.clear();
-        m_viewer->session->initiateSession(id, u"wrong"_s);
-        ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Failed); }));
-        const QString errors = m_viewer->errors.join(u'\n');
-        EXPECT_TRUE(errors.contains(part) && !errors.contains(u'\n')) << errors.toStdString();
-    }
-    EXPECT_TRUE(connectDevices());
-    EXPECT_TRUE(closeReasons().isEmpty());
-}
-
 TEST_F(SessionPairTest, ASecondRequestIsRefusedAndLeavesTheFirstAlone) {
     m_viewer->session->initiateSession(m_target->id, u"Password1"_s);
     m_viewer->session->initiateSession(m_target->id, u"Password1"_s);
@@ -108,15 +93,6 @@ TEST_F(SessionPairTest, ServerEndsTheSessionByItsReport) {
     // Only the target, which saw the transport go, has something to tell the server.
     const QStringList expected(2, u"remote_transport_closed"_s);
     EXPECT_TRUE(eventually([&] { return closeReasons() == expected; }));
-}
-
-TEST_F(SessionPairTest, AReportAboutAnotherSessionIsIgnored) {
-    m_server.misbehaviour().setStateText(u"complete"_s, u"closed"_s);
-    m_server.misbehaviour().setSessionId(u"somebody else's"_s);
-    ASSERT_TRUE(connectDevices());
-    EXPECT_TRUE(eventually(
-        [&] { return m_log.contains("Ignoring update of another session: somebody else's"); }));
-    EXPECT_TRUE(m_viewer->is(SessionState::Connected));
 }
 
 TEST_F(SessionPairTest, ServerMayCallTheSessionConnectedFirst) {
