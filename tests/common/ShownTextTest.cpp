@@ -1,6 +1,5 @@
 #include "common/PartnerId.h"
 #include "common/ShownNames.h"
-#include "common/ValueFormats.h"
 
 #include <gtest/gtest.h>
 
@@ -29,19 +28,6 @@ TEST(ShownNames, FitOnTheScreen) {
     const QString many = shownNames(QStringList(500, QString(1000, u'W')));
     EXPECT_EQ(many.count(u'\n'), 12);
     EXPECT_TRUE(many.endsWith(u"\n… (+488)"));
-}
-
-TEST(ValueFormats, RoundAsShown) {
-    const std::pair<quint64, QString> sizes[] = {
-        {1023, u"1023 B"_s},
-        {1024, u"1.0 KB"_s},
-        {1'073'741'823, u"1024.0 MB"_s},
-        {~quint64{0}, u"17179869184.00 GB"_s},
-    };
-    for (const auto& [bytes, shown] : sizes) {
-        EXPECT_EQ(formatByteSize(bytes), shown);
-    }
-    EXPECT_EQ(formatDuration(360'000), u"100:00:00"_s);
 }
 
 } // namespace

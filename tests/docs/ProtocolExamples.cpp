@@ -7,8 +7,6 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
-#include <set>
-
 namespace corvane::docs {
 
 using namespace Qt::StringLiterals;
@@ -61,25 +59,6 @@ std::vector<Example> examplesIn(const QByteArray& markdown) {
         }
     }
     return examples;
-}
-
-std::vector<std::string> mismatches(const std::vector<Example>& examples, const Checks& checks) {
-    std::vector<std::string> found;
-    std::set<std::string> seen;
-    for (const Example& example : examples) {
-        const std::string key = example.kind + ' ' + example.name;
-        if (!seen.insert(key).second) {
-            found.push_back(key + ": there twice");
-        } else if (!checks.contains(key)) {
-            found.push_back(key + ": no check");
-        }
-    }
-    for (const auto& [key, check] : checks) {
-        if (!seen.contains(key)) {
-            found.push_back(key + ": no example");
-        }
-    }
-    return found;
 }
 
 } // namespace corvane::docs

@@ -51,7 +51,4 @@ Checks restChecks();
 Checks sealingChecks();
 Checks signalingChecks();
 
-/// What keeps the examples and the checks from standing for each other, one line each.
-std::vector<std::string> mismatches(const std::vector<Example>& examples, const Checks& checks);
-
 } // namespace corvane::docs

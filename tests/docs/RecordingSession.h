@@ -3,11 +3,11 @@
 #include "DocumentedKeys.h"
 #include "common/ByteViews.h"
 #include "crypto/AesGcmCipher.h"
+#include "session/RecordingTransport.h"
 #include "session/SessionDataPlane.h"
 
 #include <memory>
 #include <span>
-#include <vector>
 
 namespace corvane::docs {
 
@@ -24,23 +24,6 @@ inline InputEvent pointerMove() {
     event.y = 0.5;
     return event;
 }
-
-/// Keeps the sealed messages that it is given to send.
-class RecordingTransport : public ITransport {
-public:
-    bool connect(const std::string&, uint16_t) override { return true; }
-    void disconnect() override {}
-    bool isConnected() const override { return true; }
-    bool send(ChannelType, const uint8_t* data, size_t size) override {
-        sent.push_back(copyBytes({data, size}));
-        return true;
-    }
-    qint64 bytesQueued() const override { return 0; }
-    bool waitUntilQueued(qint64) override { return true; }
-    std::optional<double> roundTripMilliseconds() const override { return std::nullopt; }
-
-    std::vector<ByteVector> sent;
-};
 
 /// One side of the documented session, connected to a transport that keeps what it sends.
 class RecordingSession {
@@ -65,7 +48,7 @@ public:
         plane.receive(channel, viewOf(m_peer.encrypt(plaintext)).toByteArray());
     }
 
-    RecordingTransport transport;
+    test::RecordingTransport transport;
     SessionDataPlane plane;
 
 private:

@@ -2,7 +2,7 @@
 
 #include "DocumentedKeys.h"
 #include "common/JsonFields.h"
-#include "devserver/DevServer.h"
+#include "network/DevServerTest.h"
 #include "network/identity/MachineFingerprint.h"
 #include "network/server/ApiClient.h"
 #include "network/server/SignalLines.h"
@@ -20,11 +20,6 @@ using namespace Qt::StringLiterals;
 /// A server that answers as an example says.
 class AnsweringServer {
 public:
-    AnsweringServer() {
-        EXPECT_TRUE(m_server.start(
-            {.address = QHostAddress::LocalHost, .httpPort = 0, .relayPort = 0, .stunPort = 0}));
-    }
-
     QUrl url() const { return m_server.url(); }
 
     void setAnswer(const QString& path, int status, const QByteArray& body) {
@@ -42,7 +37,7 @@ public:
     }
 
 private:
-    devserver::DevServer m_server;
+    test::FreePortServer m_server;
 };
 
 /// What the program makes its requests with.

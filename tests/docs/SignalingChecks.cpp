@@ -4,7 +4,7 @@
 #include "ScratchSettings.h"
 #include "app/settings/SettingsController.h"
 #include "common/JsonFields.h"
-#include "devserver/DevServer.h"
+#include "network/DevServerTest.h"
 #include "network/identity/AuthController.h"
 #include "network/reachability/HeartbeatService.h"
 #include "network/server/ApiClient.h"
@@ -29,8 +29,6 @@ public:
                 &SignalingClient::sessionAutoAccept, &SignalingClient::sessionHandshakeRequest,
                 &SignalingClient::sessionHandshakeAck, &SignalingClient::iceOffer,
                 &SignalingClient::iceAnswer, &SignalingClient::iceCandidate) {
-        EXPECT_TRUE(m_server.start(
-            {.address = QHostAddress::LocalHost, .httpPort = 0, .relayPort = 0, .stunPort = 0}));
         m_device = m_server.registerDevice();
     }
 
@@ -63,7 +61,7 @@ public:
     test::SignalLines lines;
 
 private:
-    devserver::DevServer m_server;
+    test::FreePortServer m_server;
     devserver::Device m_device;
 };
 

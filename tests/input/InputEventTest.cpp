@@ -1,7 +1,5 @@
 #include "input/InputEvent.h"
-#include "common/ByteViews.h"
 
-#include <QByteArray>
 #include <gmock/gmock.h>
 
 #include <limits>
@@ -15,48 +13,22 @@ namespace {
 using enum InputEventType;
 using testing::ThrowsMessage;
 
-QByteArray hexOf(const InputEvent& event) {
-    return viewOf(event.serialize()).toByteArray().toHex(' ');
-}
-
 auto fieldsOf(const InputEvent& e) {
     return std::tuple(e.type, e.timestampMs, e.x, e.y, e.button, e.wheelDelta, e.keyCode,
                       e.scanCode, e.extended);
 }
 
-TEST(InputEvent, BytesOnTheWire) {
-    EXPECT_EQ(
-        hexOf({.type = MouseWheel,
-               .timestampMs = 0x0102030405060708,
-               .x = 0.5,
-               .y = -0.25,
-               .button = MouseButton::Forward,
-               .wheelDelta = -120}),
-        "04 08 07 06 05 04 03 02 01 00 00 00 00 00 00 e0 3f 00 00 00 00 00 00 d0 bf 05 88 ff");
-    EXPECT_EQ(hexOf({.type = KeyRelease,
-                     .timestampMs = 1,
-                     .keyCode = 0xA3,
-                     .scanCode = 0xE01D,
-                     .extended = true}),
-              "06 01 00 00 00 00 00 00 00 a3 00 00 00 1d e0 00 00 01");
-}
-
-TEST(InputEvent, RoundTripKeepsEveryFieldOfItsGroupAndDefaultsTheOther) {
+TEST(InputEvent, RoundTripKeepsExtremesAndIgnoresWhatFollows) {
     const InputEvent events[] = {
-        {.type = MouseMove, .timestampMs = 7, .x = 1.5, .y = -0.25},
-        {.type = MouseButtonPress, .y = 1.0, .button = static_cast<MouseButton>(7)},
-        {.type = MouseButtonRelease, .x = 1e300, .button = MouseButton::Back},
-        {.type = MouseWheel, .wheelDelta = std::numeric_limits<int16_t>::min()},
-        {.type = KeyPress, .timestampMs = 8, .keyCode = 0xFFFFFFFF, .scanCode = 0x0100001E},
-        {.type = KeyRelease, .extended = true},
+        {.type = MouseButtonPress, .x = 1e300, .button = static_cast<MouseButton>(7)},
+        {.type = MouseWheel, .y = -0.25, .wheelDelta = std::numeric_limits<int16_t>::min()},
+        {.type = KeyRelease, .keyCode = 0xFFFFFFFF, .scanCode = 0x0100001E, .extended = true},
     };
     for (const InputEvent& event : events) {
         ByteVector bytes = event.serialize();
         bytes.back() = event.extended ? 2 : bytes.back(); // any but 0 is true
-        bytes.push_back(0xEE);                            // ignored
-        for (const size_t size : {bytes.size() - 1, bytes.size()}) {
-            EXPECT_EQ(fieldsOf(InputEvent::deserialize(bytes.data(), size)), fieldsOf(event));
-        }
+        bytes.push_back(0xEE);
+        EXPECT_EQ(fieldsOf(InputEvent::deserialize(bytes.data(), bytes.size())), fieldsOf(event));
     }
 }
 

@@ -89,7 +89,6 @@ const QString kRegistration = u"/auth/auto-register"_s;
 TEST_F(AuthControllerTest, TheFirstStartRegistersAndLaterOnesLogIn) {
     QSignalSpy authenticated(&auth(), &AuthController::authenticated);
     QObject::connect(&auth(), &AuthController::authenticated, [this] {
-        EXPECT_TRUE(m_log.once("info|Heartbeat service started (interval: 30000 ms)"));
         EXPECT_EQ(m_log.lines().back(), "info|Heartbeat service started (interval: 30000 ms)");
     });
     ASSERT_TRUE(authenticates());
@@ -142,8 +141,6 @@ TEST_F(AuthControllerTest, OtherErrorsClearAtTheThirdFailureAndRegistrationIsRet
     EXPECT_EQ(idsAtFailure.mid(0, 3), (QStringList{u"111111111"_s, u"111111111"_s, QString()}));
     EXPECT_EQ(authRequests().mid(0, 5),
               (QStringList{kLogin, kLogin, kLogin, kRegistration, kRegistration}));
-    EXPECT_TRUE(m_log.once("info|Clearing stored credentials after 3 failures — will auto-register "
-                           "on next retry"));
     EXPECT_FALSE(auth().isAuthenticated());
     m_server.misbehaviour().clear();
     EXPECT_TRUE(eventually([this] { return auth().isAuthenticated(); }));
@@ -155,21 +152,17 @@ TEST_F(AuthControllerTest, APasswordIsStoredPublishedAndUsedAgainIfItMeetsThePol
     EXPECT_THAT(auth().sessionPassword().toStdString(), test::MatchesPattern("[a-z0-9]{6}"));
     EXPECT_EQ(settings().sessionPassword(), u"abcdefg1"_s) << "the generated one is not stored";
 
-    const std::string published = "info|Updated session password sent to server";
     auth().setSessionPassword(u"Offline1"_s);
-    EXPECT_EQ(m_log.count(published), 0);
     newRun();
     ASSERT_TRUE(authenticates());
     EXPECT_TRUE(serverGets(u"password"_s, u"Offline1"_s));
     auth().setSessionPassword(u"Online11"_s);
-    EXPECT_TRUE(m_log.once(published));
     EXPECT_TRUE(serverGets(u"password"_s, u"Online11"_s));
 }
 
 TEST_F(AuthControllerTest, ThePairingCodeChangesByItself) {
     m_intervals.pairingCode = std::chrono::milliseconds(200);
     newRun();
-    EXPECT_EQ(m_log.count("info|Pairing code regenerated"), 2) << "once per run";
     ASSERT_TRUE(authenticates());
     // The code may change while the connection comes up.
     ASSERT_TRUE(eventually([this] { return serverWasSent(u"code"_s, auth().pairingCode()); }));

@@ -1,9 +1,6 @@
-#include "network/identity/MachineFingerprint.h"
-#include "network/identity/MachineIdentity.h"
 #include "network/identity/PairingCodeGenerator.h"
 #include "network/identity/PasswordPolicy.h"
 #include "network/identity/SessionPasswordGenerator.h"
-#include "support/LogCapture.h"
 #include "support/MatchesPattern.h"
 
 #include <gmock/gmock.h>
@@ -57,15 +54,6 @@ TEST(PairingCode, IsDrawnWithoutBias) {
         ASSERT_THAT(PairingCodeGenerator::next().toStdString(),
                     test::MatchesPattern("[1-9][0-9]{5}"));
     }
-}
-
-TEST(MachineFingerprint, IsTheHashOfTheIdentity) {
-    const test::LogCapture log;
-    EXPECT_EQ(MachineFingerprint::of(u"4c4c4544-0042-3010-8051-b4c04f4d3532"_s),
-              u"64be6d9615deaad3fadd59e10d6e59d2ebd211464197bc061a91b57ce0ca3c50"_s);
-    EXPECT_TRUE(log.once("debug|MachineFingerprint: generated (64 chars)"));
-    EXPECT_EQ(MachineFingerprint::of(QString()), QString());
-    EXPECT_EQ(MachineFingerprint::generate(), MachineFingerprint::of(machineGuid()));
 }
 
 } // namespace

