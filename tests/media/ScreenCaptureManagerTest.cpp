@@ -16,7 +16,6 @@ namespace {
 using namespace std::chrono_literals;
 using test::eventually;
 using Frame = std::unique_ptr<CapturedFrame>;
-using Lines = std::vector<std::string>;
 
 Frame newFrame(std::vector<FrameRect> changes = {}) {
     auto frame = std::make_unique<CapturedFrame>();
@@ -74,14 +73,6 @@ protected:
         return eventually([&] { return manager->framesDelivered() >= count; });
     }
 
-    Lines linesWith(std::string_view part) const {
-        auto lines = log.lines();
-        std::erase_if(lines, [part](const std::string& line) {
-            return line.find(part) == std::string::npos;
-        });
-        return lines;
-    }
-
     test::LogCapture log;
     std::unique_ptr<ScriptedBackend> backend = std::make_unique<ScriptedBackend>();
     ScriptedBackend& script = *backend;
@@ -97,8 +88,6 @@ TEST_F(ScreenCaptureManagerTest, RefusesToStartWithoutAReadyBackend) {
     create();
     manager->start(10);
     manager->stop();
-    EXPECT_EQ(log.lines(), (Lines{"error|ScreenCaptureManager: backend not initialized",
-                                  "error|ScreenCaptureManager: no backend set"}));
     EXPECT_EQ(errors, (QStringList{u"Capture backend is not initialized"_s,
                                    u"No capture backend available"_s}));
 }
@@ -138,12 +127,7 @@ TEST_F(ScreenCaptureManagerTest, LimitsTheRateStopsAtOnceAndRunsAgain) {
         EXPECT_TRUE(log.once("info|ScreenCaptureManager: started (target " + std::to_string(used) +
                              " FPS)"));
     }
-    for (const char* line :
-         {"warning|ScreenCaptureManager: already running", "info|ScreenCaptureManager: stopped",
-          "debug|ScreenCaptureManager: capture loop entered",
-          "debug|ScreenCaptureManager: capture loop exiting"}) {
-        EXPECT_EQ(log.count(line), 2) << line;
-    }
+    EXPECT_EQ(log.count("warning|ScreenCaptureManager: already running"), 2);
 }
 
 TEST_F(ScreenCaptureManagerTest, TheLastMonitorSwitchWins) {
@@ -164,11 +148,7 @@ TEST_F(ScreenCaptureManagerTest, TheLastMonitorSwitchWins) {
     switched.set_value();
     ASSERT_TRUE(waitForFrames(3));
     manager->stop();
-    EXPECT_EQ(linesWith("switch"),
-              (Lines{"info|ScreenCaptureManager: monitor switch to 1 queued",
-                     "info|ScreenCaptureManager: monitor switch to 2 queued",
-                     "info|ScreenCaptureManager: switching to monitor 2 (in capture thread)",
-                     "info|ScreenCaptureManager: switched to monitor 2"}));
+    EXPECT_EQ(script.monitor, 2U);
     EXPECT_EQ(script.shutdowns, 1);
 }
 
@@ -192,14 +172,12 @@ TEST_F(ScreenCaptureManagerTest, RecoveryBacksOffAndStartsOverAfterAFrame) {
     manager->start(kFast);
     ASSERT_TRUE(waitForFrames(4));
     manager->stop();
-    Lines delays;
-    for (const int delay : {1, 2, 4, 8, 16, 20, 20, 1}) {
-        delays.push_back("warning|ScreenCaptureManager: backend lost, reinitializing in " +
-                         std::to_string(delay) + " ms");
+    const std::pair<int, int> delays[] = {{1, 2}, {2, 1}, {4, 1}, {8, 1}, {16, 1}, {20, 2}};
+    for (const auto& [delay, times] : delays) {
+        EXPECT_EQ(log.count("warning|ScreenCaptureManager: backend lost, reinitializing in " +
+                            std::to_string(delay) + " ms"),
+                  times);
     }
-    EXPECT_EQ(linesWith("backend lost"), delays);
-    EXPECT_TRUE(log.once("error|ScreenCaptureManager: failed to switch to monitor 4"));
-    EXPECT_EQ(log.count("error|ScreenCaptureManager: reinit failed for monitor 4"), 6);
     QCoreApplication::processEvents();
     EXPECT_EQ(errors.count(u"Failed to reinitialize capture backend"_s), 6);
 }
@@ -227,7 +205,6 @@ TEST_F(ScreenCaptureManagerTest, AnExceptionCostsOneRound) {
     ASSERT_TRUE(eventually([this] { return manager->framesDelivered() > 0 && !errors.empty(); }));
     manager->stop();
     EXPECT_EQ(errors, QStringList{u"device on fire"_s});
-    EXPECT_TRUE(log.once("error|ScreenCaptureManager: exception during capture: device on fire"));
     EXPECT_FALSE(log.contains("backend lost"));
 }
 
@@ -265,7 +242,6 @@ TEST_F(ScreenCaptureManagerTest, TerminatesAThreadThatHangs) {
     EXPECT_LT(timeToStop(), 5s);
     EXPECT_TRUE(log.once("warning|ScreenCaptureManager: worker thread did not finish within 5 s -- "
                          "terminating"));
-    EXPECT_TRUE(log.once("info|ScreenCaptureManager: stopped"));
 }
 
 TEST(CapturableMonitors, AreThoseOfTheFirstCandidateThatFindsAny) {

@@ -53,56 +53,42 @@ protected:
 
 TEST_F(VideoCodecTest, SpeedPresetsMapToLibrarySpeeds) {
     const std::pair<const char*, int> cases[] = {
-        {"8", 6},      {"13", 10},         {"0", 0},           {"12abc", 9},      {"-5", 0},
-        {"500", 10},   {"fast", 8},        {"Fast", 8},        {"ultrafast", 10}, {"veryfast", 9},
-        {"medium", 6}, {"slow", 4},        {"veryslow", 1},    {"", 8},           {"superfast", 10},
-        {"faster", 9}, {"2147483647", 10}, {"99999999999", 8},
+        {"8", 6},    {"13", 10},      {"12abc", 9}, {"-5", 0},          {"500", 10},
+        {"Fast", 8}, {"veryslow", 1}, {"", 8},      {"99999999999", 8},
     };
     for (const auto& [preset, speed] : cases) {
         EXPECT_EQ(AV1Encoder::speedOf(preset), speed) << preset;
     }
 }
 
-TEST_F(VideoCodecTest, RoundTripKeepsThePicture) {
+TEST_F(VideoCodecTest, RoundTripKeepsThePictureAlsoWhenTheDecoderGoesOnAndEnds) {
+    // 256 wide, a picture has no padding and the frame shares its luma plane with the library.
     for (const auto& [width, height] : {std::pair{320, 180}, {64, 64}, {256, 144}}) {
         SCOPED_TRACE(::testing::Message() << width << "x" << height);
         ASSERT_TRUE(encoder.initialize(configFor(width, height)));
         ASSERT_TRUE(decoder.initialize(0, 0));
-        const auto lumaSize = static_cast<size_t>(width * height);
-        for (int step = 0; step < 6; ++step) {
+        std::vector<std::unique_ptr<DecodedFrame>> frames;
+        for (int step = 0; step < 12; ++step) {
             const auto packet = encode(step);
             ASSERT_TRUE(packet);
             EXPECT_EQ(packet->isKeyframe, step == 0);
             EXPECT_EQ(std::pair(packet->pts, packet->dts), std::pair(int64_t{step}, int64_t{step}));
-            const auto frame = decode(packet->data, packet->timestamp);
-            ASSERT_TRUE(frame);
-            EXPECT_EQ(frame->timestamp, 1000U + static_cast<uint64_t>(step));
-            EXPECT_EQ(std::pair(frame->width, frame->height), std::pair(width, height));
-            EXPECT_EQ(std::pair(frame->yStride, frame->uvStride), std::pair(width, width));
-            ASSERT_EQ(frame->yPlane.size(), lumaSize);
-            ASSERT_EQ(frame->uvPlane.size(), static_cast<size_t>(height / 2 * width));
-            const ByteVector sent = sceneNv12(width, height, step);
-            EXPECT_GT(psnr(sent.data(), frame->yPlane), 30);
-            EXPECT_GT(psnr(sent.data() + lumaSize, frame->uvPlane), 32);
+            frames.push_back(decode(packet->data, packet->timestamp));
+            ASSERT_TRUE(frames.back());
         }
-    }
-}
-
-TEST_F(VideoCodecTest, FramesStayAsTheyAreWhenTheDecoderGoesOnAndEnds) {
-    // 256 wide, a picture has no padding and the frame shares its luma plane with the library.
-    ASSERT_TRUE(encoder.initialize(configFor(256, 144)));
-    ASSERT_TRUE(decoder.initialize(0, 0));
-    std::vector<std::unique_ptr<DecodedFrame>> frames;
-    for (int step = 0; step < 12; ++step) {
-        frames.push_back(decode(encode(step)->data));
-        ASSERT_TRUE(frames.back());
-    }
-    decoder.shutdown();
-    for (int step = 0; step < 12; ++step) {
-        const ByteVector sent = sceneNv12(256, 144, step);
-        const DecodedFrame& frame = *frames[static_cast<size_t>(step)];
-        EXPECT_GT(psnr(sent.data(), frame.yPlane), 30) << step;
-        EXPECT_GT(psnr(sent.data() + 256 * 144, frame.uvPlane), 32) << step;
+        decoder.shutdown();
+        const auto lumaSize = static_cast<size_t>(width * height);
+        for (int step = 0; step < 12; ++step) {
+            const DecodedFrame& frame = *frames[static_cast<size_t>(step)];
+            EXPECT_EQ(frame.timestamp, 1000U + static_cast<uint64_t>(step));
+            EXPECT_EQ(std::pair(frame.width, frame.height), std::pair(width, height));
+            EXPECT_EQ(std::pair(frame.yStride, frame.uvStride), std::pair(width, width));
+            ASSERT_EQ(frame.yPlane.size(), lumaSize);
+            ASSERT_EQ(frame.uvPlane.size(), static_cast<size_t>(height / 2 * width));
+            const ByteVector sent = sceneNv12(width, height, step);
+            EXPECT_GT(psnr(sent.data(), frame.yPlane), 30);
+            EXPECT_GT(psnr(sent.data() + lumaSize, frame.uvPlane), 32);
+        }
     }
 }
 
@@ -128,9 +114,6 @@ TEST_F(VideoCodecTest, KeyFramesComeWhenDueAndWhenForced) {
     config.keyframeInterval = 5;
     config.cqLevel = 80;
     ASSERT_TRUE(encoder.initialize(config));
-    EXPECT_EQ(log.count("info|AV1Encoder: initialized (64x64 @ 10 fps, CQ 63, bitrate 500 kbps, "
-                        "cpu-used=6)"),
-              1);
     const auto encodeKinds = [this](int frames, int forced) {
         std::string kinds;
         for (int step = 0; step < frames; ++step) {
@@ -140,11 +123,9 @@ TEST_F(VideoCodecTest, KeyFramesComeWhenDueAndWhenForced) {
         return kinds;
     };
     EXPECT_EQ(encodeKinds(9, 8), "K....K..K");
-    EXPECT_TRUE(log.contains("trace|AV1Encoder: encoded frame 8 ("));
 
     // A new rate falls back to the library's own, practically endless key-frame distance.
     encoder.updateBitrate(800);
-    EXPECT_EQ(log.count("info|AV1Encoder: bitrate updated to 800 kbps"), 1);
     EXPECT_FALSE(log.contains("config update failed"));
     encodeKinds(5, -1); // the old distance still ends once
     EXPECT_EQ(encodeKinds(12, -1), "............");
@@ -160,14 +141,7 @@ TEST_F(VideoCodecTest, EncoderRefusesWhatItIsNotConfiguredFor) {
     EXPECT_TRUE(encoder.encode(frame.data(), 64, 64, 0, false));
     EXPECT_FALSE(encoder.initialize(configFor(0, 64)));
     EXPECT_FALSE(encoder.isInitialized());
-    for (const char* line :
-         {"error|AV1Encoder: encode called before initialization",
-          "warning|AV1Encoder: updateBitrate called before initialization",
-          "warning|AV1Encoder: ignoring invalid bitrate 0 kbps",
-          "error|AV1Encoder: frame dimensions 64x32 do not match configured 64x64",
-          "error|AV1Encoder: aom_codec_enc_init failed: Invalid parameter"}) {
-        EXPECT_EQ(log.count(line), 1) << line;
-    }
+    EXPECT_EQ(log.count("warning|AV1Encoder: ignoring invalid bitrate 0 kbps"), 1);
 }
 
 TEST_F(VideoCodecTest, DecoderRefusesCallsItCannotServe) {
@@ -178,11 +152,7 @@ TEST_F(VideoCodecTest, DecoderRefusesCallsItCannotServe) {
     EXPECT_FALSE(decoder.decode(nullptr, 5, 0));
     decoder.shutdown();
     EXPECT_FALSE(decoder.isInitialized());
-    EXPECT_EQ(log.lines(),
-              (std::vector<std::string>{
-                  "error|AV1Decoder: decode called before initialization",
-                  "info|AV1Decoder: initialized using dav1d (expected 1280x720)",
-                  "warning|AV1Decoder: empty input data", "warning|AV1Decoder: empty input data"}));
+    EXPECT_FALSE(decoder.decode(&byte, 1, 0));
 }
 
 TEST_F(VideoCodecTest, DecoderSurvivesHostilePackets) {

@@ -80,14 +80,11 @@ TEST_F(P2PTransportTest, ConfiguresServersChannelsAndMessageSize) {
     }));
     EXPECT_EQ(plain.maxMessageSize, 16u * 1024 * 1024 + 24);
     ASSERT_EQ(library().channels.size(), 2u);
-    const auto& reliable = *library().channels[0];
-    EXPECT_EQ(reliable.label(), "control");
-    EXPECT_FALSE(reliable.settings.unordered);
-    EXPECT_FALSE(reliable.settings.maxRetransmits);
-    const auto& lossy = *library().channels[1];
-    EXPECT_EQ(lossy.label(), "video");
-    EXPECT_TRUE(lossy.settings.unordered);
-    EXPECT_EQ(lossy.settings.maxRetransmits, 0u);
+    const auto& reliable = library().channels[0]->settings;
+    EXPECT_FALSE(reliable.unordered || reliable.maxRetransmits);
+    const auto& lossy = library().channels[1]->settings;
+    EXPECT_TRUE(lossy.unordered);
+    EXPECT_EQ(lossy.maxRetransmits, 0u);
 
     P2PTransport relayed;
     relayed.setTurnPassword("secret");
@@ -105,8 +102,6 @@ TEST_F(P2PTransportTest, ConnectsOnceBothChannelsAreOpen) {
     for (const bool offerer : {true, false}) {
         transport->disconnect();
         connected.clear();
-        log.clear();
-        const std::string side = offerer ? "" : " (answerer)";
         if (offerer) {
             ASSERT_TRUE(transport->connect({}, 0));
         } else {
@@ -114,9 +109,7 @@ TEST_F(P2PTransportTest, ConnectsOnceBothChannelsAreOpen) {
             for (const char* label : {"control", "intruder", "video"}) {
                 arrive(label);
             }
-            EXPECT_TRUE(log.once("info|P2PTransport: incoming data channel: intruder"));
         }
-        EXPECT_TRUE(log.contains(offerer ? "starting as offerer" : "starting as answerer"));
         control = library().channels.front();
         video = library().channels.back();
         EXPECT_FALSE(send(ChannelType::Video, "early"));
@@ -127,21 +120,15 @@ TEST_F(P2PTransportTest, ConnectsOnceBothChannelsAreOpen) {
             settle();
             EXPECT_EQ(connected.count(), after);
             EXPECT_EQ(transport->isConnected(), after == 1);
-            EXPECT_TRUE(log.contains("info|P2PTransport: '" + channel->label() +
-                                     "' data channel open" + side));
         }
-        EXPECT_TRUE(log.once("info|P2PTransport: both data channels open — P2P connected!"));
     }
 }
 
 TEST_F(P2PTransportTest, PassesTheNegotiationOnInOrder) {
     transport->setRemoteDescription(u"v=0"_s, u"offer"_s);
     transport->addRemoteCandidate(u"c"_s, u"0"_s);
-    EXPECT_TRUE(log.contains("P2PTransport: setRemoteDescription called with no PeerConnection"));
-    EXPECT_TRUE(log.contains("P2PTransport: addRemoteCandidate called with no PeerConnection"));
     transport->connect({}, 0);
     onLibraryThread([this] {
-        library().gatheringChanged(rtc::PeerConnection::GatheringState::InProgress);
         library().described(rtc::Description("v=0", "offer"));
         library().candidateFound(rtc::Candidate("cand", "0"));
     });
@@ -154,22 +141,12 @@ TEST_F(P2PTransportTest, PassesTheNegotiationOnInOrder) {
     transport->setRemoteDescription(u"v=1"_s, u"answer"_s);
     transport->addRemoteCandidate(u"far"_s, u"1"_s);
     EXPECT_EQ(library().told, (std::vector<std::string>{"answer v=1", "1 far"}));
-    for (const char* line :
-         {"info|P2PTransport: ICE gathering state -> 1",
-          "info|P2PTransport: local description ready (type=offer)",
-          "info|P2PTransport: local ICE candidate: cand",
-          "info|P2PTransport: setting remote description (type=answer)",
-          "info|P2PTransport: adding remote ICE candidate",
-          "warning|P2PTransport: remote description refused: Invalid description",
-          "warning|P2PTransport: remote ICE candidate refused: Invalid candidate format"}) {
-        EXPECT_TRUE(log.contains(line)) << line;
-    }
 }
 
 TEST_F(P2PTransportTest, DeliversBinaryMessagesOnly) {
-    for (const std::string side : {"offerer", "answerer"}) {
+    for (const bool offerer : {true, false}) {
         received.clear();
-        startConnected(side == "offerer");
+        startConnected(offerer);
         onLibraryThread([this] {
             control->message(std::string("text"));
             video->message(std::string("text"));
@@ -179,15 +156,12 @@ TEST_F(P2PTransportTest, DeliversBinaryMessagesOnly) {
         });
         EXPECT_EQ(received.count(), 0) << "on the library's thread";
         settle();
-        std::string arrived;
-        for (const QVariantList& message : received) {
-            arrived +=
-                message[0].value<ChannelType>() == ChannelType::Video ? "video " : "control ";
-            arrived += message[1].toByteArray().toStdString() + ", ";
-        }
-        EXPECT_EQ(arrived, "control abc, video pixels, control , ");
-        EXPECT_TRUE(log.once("info|P2PTransport: control channel received 3 bytes (" + side + ")"));
-        EXPECT_FALSE(log.contains("6 bytes"));
+        const auto message = [](ChannelType channel, const char* payload) {
+            return QVariantList{QVariant::fromValue(channel), QByteArray(payload)};
+        };
+        EXPECT_EQ(received, (QList<QVariantList>{message(ChannelType::Control, "abc"),
+                                                 message(ChannelType::Video, "pixels"),
+                                                 message(ChannelType::Control, "")}));
     }
 }
 
@@ -259,12 +233,10 @@ TEST_F(P2PTransportTest, LossCountsOnceAndOnlyWhenConnected) {
     ASSERT_TRUE(transport->connect({}, 0));
     onLibraryThread([this] { library().stateChanged(State::Failed); });
     settle();
-    EXPECT_TRUE(log.once("info|P2PTransport: PeerConnection state -> 4"));
     EXPECT_EQ(disconnected.count(), 0);
     startConnected();
     library().roundTrip = 7ms;
     EXPECT_EQ(transport->roundTripMilliseconds(), 7.0);
-    log.clear();
     onLibraryThread([this] {
         library().stateChanged(State::Disconnected);
         library().stateChanged(State::Closed);
@@ -276,10 +248,6 @@ TEST_F(P2PTransportTest, LossCountsOnceAndOnlyWhenConnected) {
     EXPECT_EQ(disconnected.count(), 1);
     EXPECT_FALSE(transport->isConnected());
     EXPECT_EQ(errors.count(), 0);
-    for (const char* line : {"info|P2PTransport: 'control' data channel closed",
-                             "info|P2PTransport: 'video' data channel closed"}) {
-        EXPECT_TRUE(log.once(line));
-    }
 }
 
 TEST_F(P2PTransportTest, NothingIsEmittedOnceItEnded) {

@@ -51,17 +51,6 @@ protected:
     QSignalSpy errors{&transport, &ITransport::transportError};
 };
 
-TEST_F(RelayTransportTest, JoinsFirstThenFramesWhatItSends) {
-    EXPECT_FALSE(send(ChannelType::Control, "early"));
-    EXPECT_TRUE(log.once("warning|RelayTransport::send: not connected"));
-    establish();
-    EXPECT_TRUE(transport.isConnected());
-    EXPECT_TRUE(send(ChannelType::Video, "pixels"));
-    EXPECT_TRUE(send(ChannelType::Control, QByteArray()));
-    EXPECT_EQ(relay.read(16),
-              QByteArray::fromHex("0100000006") + "pixels" + QByteArray::fromHex("0000000000"));
-}
-
 TEST_F(RelayTransportTest, ARelayThatStopsReadingCostsBoundedMemory) {
     establish();
     const QByteArray payload(8 * 1024 * 1024, 'v');
@@ -76,6 +65,7 @@ TEST_F(RelayTransportTest, ARelayThatStopsReadingCostsBoundedMemory) {
 }
 
 TEST_F(RelayTransportTest, AWaitGivesUpWhereNothingMovesAndKeepsWhatArrivesInOrder) {
+    EXPECT_FALSE(send(ChannelType::Control, "early"));
     establish();
     EXPECT_TRUE(transport.waitUntilQueued(0));
     constexpr int kFrames = 10'000; // more than is read at once
@@ -114,8 +104,6 @@ TEST_F(RelayTransportTest, ConnectsOnceAndUnjoinedWithoutASessionId) {
     ASSERT_TRUE(relay.accept());
     ASSERT_TRUE(waitFor(connected, 1));
     EXPECT_FALSE(connectToRelay()) << "while connected";
-    EXPECT_TRUE(log.contains("RelayTransport::connect called while socket is in state "));
-    EXPECT_TRUE(log.once("warning|RelayTransport: no session ID set, skipping relay_join"));
     send(ChannelType::Control, "x");
     EXPECT_EQ(relay.read(6), frameBytes(0, "x"));
 }
@@ -132,27 +120,22 @@ TEST_F(RelayTransportTest, TakesTheLargestPayloadBothWaysAndNotOneByteMore) {
     EXPECT_TRUE(delivered(0) == largest);
 
     EXPECT_FALSE(send(ChannelType::Video, largest + 'x'));
-    EXPECT_TRUE(log.once("error|RelayTransport::send: payload too large (16777217 > 16777216)"));
     EXPECT_EQ(relay.unread(), 0);
 }
 
 TEST_F(RelayTransportTest, RefusedHeaderIsReportedAtOnceAndTheLinkGoesOn) {
-    const std::tuple<QByteArray, const char*, const char*> cases[] = {
-        {frameBytes(2, 0), "Invalid channel type in frame header",
-         "error|RelayTransport: invalid channel type 2, resetting buffer"},
-        {frameBytes(1, 16'777'217), "Frame payload exceeds maximum size",
-         "error|RelayTransport: payload length 16777217 exceeds maximum 16777216"},
-        {frameBytes(0, 0xFFFFFFFF), "Frame payload exceeds maximum size",
-         "error|RelayTransport: payload length 4294967295 exceeds maximum 16777216"},
+    const std::pair<QByteArray, const char*> cases[] = {
+        {frameBytes(2, 0), "Invalid channel type in frame header"},
+        {frameBytes(1, 16'777'217), "Frame payload exceeds maximum size"},
+        {frameBytes(0, 0xFFFFFFFF), "Frame payload exceeds maximum size"},
     };
     establish();
-    for (const auto& [header, error, line] : cases) {
+    for (const auto& [header, error] : cases) {
         errors.clear();
         received.clear();
         relay.write(header + frameBytes(0, "dropped"));
         ASSERT_TRUE(waitFor(errors, 1));
         EXPECT_EQ(errors[0][0].toString(), QLatin1String(error));
-        EXPECT_TRUE(log.once(line));
         relay.write(frameBytes(1, "next") + frameBytes(0, {}));
         ASSERT_TRUE(waitFor(received, 2));
         EXPECT_EQ(received[0][0].value<ChannelType>(), ChannelType::Video);
@@ -201,7 +184,6 @@ TEST_F(RelayTransportTest, GivesUpAfterThreeFailedAttemptsUntilAskedAgain) {
     }
     EXPECT_FALSE(log.contains("attempt 4"));
     EXPECT_EQ(errors[0][0].toString(), u"Connection refused"_s);
-    EXPECT_EQ(log.count("error|RelayTransport: socket error (0): Connection refused"), 8);
     EXPECT_EQ(disconnected.count(), 0);
 }
 

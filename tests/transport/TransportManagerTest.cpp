@@ -42,12 +42,8 @@ public:
     qint64 bytesQueued() const override { return 0; }
     bool waitUntilQueued(qint64) override { return false; }
     std::optional<double> roundTripMilliseconds() const override { return std::nullopt; }
-    void setRemoteDescription(const QString& sdp, const QString& type) override {
-        note(u"description %1 %2"_s.arg(type, sdp));
-    }
-    void addRemoteCandidate(const QString& candidate, const QString& mid) override {
-        note(u"candidate %1 %2"_s.arg(candidate, mid));
-    }
+    void setRemoteDescription(const QString&, const QString&) override {}
+    void addRemoteCandidate(const QString&, const QString&) override {}
 
 private:
     bool note(const QString& call) {
@@ -111,7 +107,6 @@ TEST_F(TransportManagerTest, PeerThatConnectsWinsWhateverErrorsCameBefore) {
                                  {{u"n"_s, u"127.0.0.1"_s, relay.port(), -1}}, false);
     ASSERT_EQ(peerCalls, QStringList(u"answer"_s));
     Q_EMIT peer->transportError(u"ice failed"_s);
-    EXPECT_TRUE(log.contains("TransportManager: P2P error: ice failed"));
     EXPECT_EQ(manager->activeTransport(), nullptr);
     Q_EMIT peer->connected();
     ASSERT_EQ(established->count(), 1);
@@ -121,41 +116,15 @@ TEST_F(TransportManagerTest, PeerThatConnectsWinsWhateverErrorsCameBefore) {
     EXPECT_FALSE(relay.hasVisitor());
 }
 
-TEST_F(TransportManagerTest, NegotiationPassesBothWaysInOrder) {
-    create();
-    manager->setRemoteDescription(u"early"_s, u"offer"_s);
-    manager->addRemoteCandidate(u"early"_s, u"0"_s);
-    establish();
-    QSignalSpy descriptions(manager.get(), &TransportManager::localDescriptionReady);
-    QSignalSpy candidates(manager.get(), &TransportManager::localCandidateReady);
-    Q_EMIT peer->localDescriptionReady(u"offer"_s, u"v=0"_s);
-    Q_EMIT peer->localCandidateReady(u"cand"_s, u"0"_s);
-    manager->setRemoteDescription(u"v=1"_s, u"answer"_s);
-    manager->addRemoteCandidate(u"far"_s, u"1"_s);
-    EXPECT_EQ(descriptions.value(0), (QVariantList{u"offer"_s, u"v=0"_s}));
-    EXPECT_EQ(candidates.value(0), (QVariantList{u"cand"_s, u"0"_s}));
-    EXPECT_EQ(peerCalls,
-              (QStringList{u"offer"_s, u"description answer v=1"_s, u"candidate far 1"_s}));
-}
-
 TEST_F(TransportManagerTest, TimeoutFallsBackToTheRelay) {
     create(true, 20ms);
     establish(relay.port());
     ASSERT_TRUE(waitFor(*established));
-    EXPECT_TRUE(log.once("warning|TransportManager: P2P connection timed out after 20 ms, falling "
-                         "back to relay"));
     EXPECT_EQ((*established)[0][0].toString(), u"relay"_s);
     EXPECT_TRUE(peerCalls.contains(u"disconnect"_s));
     ASSERT_TRUE(relay.accept());
     EXPECT_TRUE(relay.read(45).endsWith(R"({"session_id":"s-1","type":"relay_join"})"));
     EXPECT_TRUE(manager->activeTransport()->isConnected());
-}
-
-TEST_F(TransportManagerTest, WithoutAPeerTransportTheRelayIsTriedAtOnce) {
-    create(false);
-    establish(relay.port());
-    EXPECT_TRUE(log.once("info|TransportManager: P2P is not built in, going directly to relay"));
-    EXPECT_TRUE(waitFor(*established));
 }
 
 TEST_F(TransportManagerTest, FailuresNameTheirReason) {

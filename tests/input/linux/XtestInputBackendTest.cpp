@@ -160,8 +160,6 @@ TEST_F(XtestInputBackendTest, ShutdownReleasesWhatIsHeldAndEndsInjection) {
     backend.shutdown();
     EXPECT_EQ(takeEvents(), "button 1 up, key 37 up");
     EXPECT_FALSE(inject(MouseMove, 0.5, 0.5));
-    EXPECT_TRUE(log.once("warning|XtestInputBackend: injectEvent called before initialization"));
-    EXPECT_TRUE(log.once("info|XtestInputBackend: shut down"));
     EXPECT_TRUE(backend.initialize());
     EXPECT_TRUE(inject(MouseMove, 0.25, 0.0));
     EXPECT_EQ(pointer(), QPoint(250, 0));

@@ -148,7 +148,6 @@ TEST_F(XcbCaptureBackendTest, CapturesASecondMonitorAndFollowsIt) {
     ASSERT_TRUE(capture());
     EXPECT_EQ(frameSize(), QSize(240, 160));
     EXPECT_EQ(pixelAt(30, 20), kGreen);
-    EXPECT_TRUE(log.once("info|XcbCaptureBackend: resolution changed to 240x160"));
 
     painter->deleteMonitor("right");
     EXPECT_FALSE(capture());
@@ -177,8 +176,6 @@ TEST_F(XcbCaptureBackendTest, RefusesMissingMonitorsAndOtherPixelFormats) {
         EXPECT_FALSE(backend.initialize(index));
         EXPECT_FALSE(backend.isInitialized());
         EXPECT_FALSE(capture());
-        EXPECT_TRUE(log.once("error|XcbCaptureBackend: monitor index " + std::to_string(index) +
-                             " not found (have 1 monitors)"));
     }
     startServer({u"-screen"_s, u"0"_s, u"640x480x16"_s});
     EXPECT_FALSE(backend.initialize(0));

@@ -5,14 +5,13 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace corvane {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-constexpr const char* kLost = "warning|DxgiCaptureBackend: access lost -- attempting "
-                              "reinitialization";
 
 /// What the whole of `desktop` looks like in a frame.
 ByteVector picture(const test::ScriptedDesktop& desktop) {
@@ -37,14 +36,9 @@ protected:
     DxgiFunctions dxgi() {
         return {
             .createDevice =
-                [this](IDXGIAdapter*, D3D_DRIVER_TYPE type, HMODULE, UINT flags,
-                       const D3D_FEATURE_LEVEL* levels, UINT count, UINT, ID3D11Device** device,
-                       D3D_FEATURE_LEVEL* level, ID3D11DeviceContext** context) {
-                    EXPECT_EQ(type, D3D_DRIVER_TYPE_HARDWARE);
-                    EXPECT_EQ(flags, static_cast<UINT>(D3D11_CREATE_DEVICE_BGRA_SUPPORT));
-                    EXPECT_THAT(std::vector(levels, levels + count),
-                                ElementsAre(D3D_FEATURE_LEVEL_11_1, D3D_FEATURE_LEVEL_11_0,
-                                            D3D_FEATURE_LEVEL_10_1, D3D_FEATURE_LEVEL_10_0));
+                [this](IDXGIAdapter*, D3D_DRIVER_TYPE, HMODULE, UINT, const D3D_FEATURE_LEVEL*,
+                       UINT, UINT, ID3D11Device** device, D3D_FEATURE_LEVEL* level,
+                       ID3D11DeviceContext** context) {
                     const HRESULT result = desktop.resultOf("D3D11CreateDevice");
                     if (SUCCEEDED(result)) {
                         *device = static_cast<ID3D11Device*>(desktop.newDevice());
@@ -80,9 +74,6 @@ protected:
 
 TEST_F(DxgiCaptureBackendTest, FramesAreCopiedRowByRowWithoutPadding) {
     ASSERT_TRUE(backend.initialize(0));
-    EXPECT_THAT(log.lines(),
-                ElementsAre("debug|DxgiCaptureBackend: D3D11 device created (feature level 0xB000)",
-                            "info|DxgiCaptureBackend: initialized on monitor 0 (4x3)"));
     for (const UINT pitch : {16U, 64U}) {
         desktop.rowPitch = pitch;
         const auto frame = backend.captureFrame();
@@ -112,11 +103,6 @@ TEST_F(DxgiCaptureBackendTest, EachFailingCallOfInitializeIsNamed) {
         EXPECT_TRUE(log.once("error|DxgiCaptureBackend: " +
                              (isQuery ? "QueryInterface " + call : call) + " failed (0x80070005)"))
             << call;
-        EXPECT_EQ(log.lines().back(),
-                  call == "D3D11CreateDevice"
-                      ? "error|DxgiCaptureBackend: failed to create D3D11 device"
-                      : "error|DxgiCaptureBackend: failed to create output duplication for "
-                        "monitor 0");
     }
 }
 
@@ -131,12 +117,9 @@ TEST_F(DxgiCaptureBackendTest, MonitorsAreTheOutputsOfAllAdapters) {
     EXPECT_EQ(monitors[2].height, 9);
     EXPECT_FALSE(monitors[2].primary);
     ASSERT_TRUE(backend.initialize(2));
-    EXPECT_EQ(log.lines().back(), "info|DxgiCaptureBackend: initialized on monitor 2 (5x9)");
     EXPECT_EQ(backend.currentMonitor().name, monitors[2].name);
     for (const int index : {3, -1}) {
         EXPECT_FALSE(backend.initialize(index));
-        EXPECT_TRUE(log.once("error|DxgiCaptureBackend: monitor index " + std::to_string(index) +
-                             " not found"));
     }
     desktop.failures = {{"CreateDXGIFactory1", E_FAIL}};
     EXPECT_THAT(backend.monitors(), IsEmpty());
@@ -148,76 +131,41 @@ TEST_F(DxgiCaptureBackendTest, EachFailingCallOfACaptureCostsOneFrame) {
     desktop.acquisitions = {DXGI_ERROR_WAIT_TIMEOUT};
     EXPECT_EQ(backend.captureFrame(), nullptr);
     EXPECT_THAT(log.lines(), IsEmpty()) << "an unchanged screen is no failure";
-    const std::pair<std::string, std::string> cases[] = {
-        {"ID3D11Texture2D", "QueryInterface for Texture2D failed (0x80004005)"},
-        {"CreateTexture2D", "CreateTexture2D (staging) failed (0x80004005)"},
-        {"Map", "Map staging texture failed (0x80004005)"},
-    };
     desktop.dirtyRects = {{0, 0, 1, 1}};
-    for (const auto& [call, text] : cases) {
+    for (const char* call : {"ID3D11Texture2D", "CreateTexture2D", "Map"}) {
         desktop.failures = {{call, E_FAIL}};
-        log.clear();
         EXPECT_EQ(backend.captureFrame(), nullptr);
-        EXPECT_THAT(log.lines(), ElementsAre("error|DxgiCaptureBackend: " + text));
+        EXPECT_TRUE(log.lines().back().ends_with(" failed (0x80004005)")) << call;
         EXPECT_TRUE(backend.isInitialized());
     }
     desktop.failures.clear();
     desktop.acquisitions = {DXGI_ERROR_DEVICE_REMOVED};
     EXPECT_EQ(backend.captureFrame(), nullptr);
-    EXPECT_EQ(log.lines().back(), "error|DxgiCaptureBackend: AcquireNextFrame failed (0x887A0005)");
     const auto frame = backend.captureFrame();
     ASSERT_TRUE(frame);
     EXPECT_THAT(frame->dirtyRects, IsEmpty()) << "changes of the lost frames are unknown";
 }
 
 TEST_F(DxgiCaptureBackendTest, LostAccessIsRegainedFiveTimes) {
-    ASSERT_TRUE(backend.initialize(0));
-    for (int attempt = 1; attempt <= 5; ++attempt) {
-        log.clear();
-        desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
-        EXPECT_EQ(backend.captureFrame(), nullptr);
-        EXPECT_THAT(log.lines(),
-                    ElementsAre(kLost,
-                                "info|DxgiCaptureBackend: reinitializing (attempt " +
-                                    std::to_string(attempt) + "/5)",
-                                "info|DxgiCaptureBackend: reinitialization successful"));
-        EXPECT_EQ(desktop.duplications, attempt + 1);
-        EXPECT_TRUE(backend.captureFrame());
-    }
-    log.clear();
-    desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
-    EXPECT_EQ(backend.captureFrame(), nullptr);
-    EXPECT_THAT(log.lines(),
-                ElementsAre(kLost,
-                            "error|DxgiCaptureBackend: max reinitialization attempts (5) exceeded",
-                            "error|DxgiCaptureBackend: reinitialization failed"));
-    EXPECT_FALSE(backend.isInitialized());
-    EXPECT_EQ(backend.captureFrame(), nullptr);
-
-    ASSERT_TRUE(backend.initialize(static_cast<int>(backend.currentMonitor().index)));
-    desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
-    backend.captureFrame();
-    EXPECT_TRUE(log.once("info|DxgiCaptureBackend: reinitializing (attempt 1/5)"));
-    EXPECT_TRUE(backend.isInitialized());
-}
-
-TEST_F(DxgiCaptureBackendTest, AFailedReinitializationIsALostScreen) {
     desktop.adapters = {{{0, 0, 4, 3}, {4, 0, 8, 3}}};
     ASSERT_TRUE(backend.initialize(1));
-    log.clear();
-    desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
-    desktop.failures = {{"DuplicateOutput", E_ACCESSDENIED}};
-    EXPECT_EQ(backend.captureFrame(), nullptr);
-    EXPECT_THAT(log.lines(),
-                ElementsAre(kLost, "info|DxgiCaptureBackend: reinitializing (attempt 1/5)",
-                            "error|DxgiCaptureBackend: DuplicateOutput failed (0x80070005)",
-                            "error|DxgiCaptureBackend: reinit createDuplication failed",
-                            "error|DxgiCaptureBackend: reinitialization failed"));
-    EXPECT_FALSE(backend.isInitialized());
+    for (int attempt = 1; attempt <= 6; ++attempt) {
+        desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
+        EXPECT_EQ(backend.captureFrame(), nullptr);
+        EXPECT_EQ(desktop.duplications, std::min(attempt, 5) + 1);
+        EXPECT_EQ(backend.captureFrame() != nullptr, attempt <= 5);
+        EXPECT_EQ(backend.isInitialized(), attempt <= 5);
+    }
+    EXPECT_TRUE(log.once("error|DxgiCaptureBackend: max reinitialization attempts (5) exceeded"));
     EXPECT_EQ(backend.currentMonitor().index, 1U);
-    desktop.failures.clear();
-    EXPECT_TRUE(backend.initialize(1));
-    EXPECT_TRUE(backend.captureFrame());
+    for (const bool fails : {true, false}) { // five more after an initialization
+        ASSERT_TRUE(backend.initialize(1));
+        desktop.acquisitions = {DXGI_ERROR_ACCESS_LOST};
+        desktop.failures = {{"DuplicateOutput", fails ? E_ACCESSDENIED : S_OK}};
+        EXPECT_EQ(backend.captureFrame(), nullptr);
+        EXPECT_EQ(backend.isInitialized(), !fails);
+        desktop.failures.clear();
+    }
 }
 
 TEST_F(DxgiCaptureBackendTest, AChangedResolutionIsFollowed) {
@@ -232,7 +180,6 @@ TEST_F(DxgiCaptureBackendTest, AChangedResolutionIsFollowed) {
     EXPECT_EQ(backend.captureFrame(), nullptr);
     const auto frame = backend.captureFrame();
     ASSERT_TRUE(frame);
-    EXPECT_EQ(log.lines().back(), "info|DxgiCaptureBackend: resolution changed to 7x2");
     EXPECT_EQ(frame->stride, 28);
     EXPECT_EQ(frame->data, picture(desktop));
     EXPECT_THAT(frame->dirtyRects, IsEmpty());
@@ -254,8 +201,6 @@ TEST_F(DxgiCaptureBackendTest, ChangesAreDirtyRectanglesAndWhereThingsMovedTo) {
         const auto frame = backend.captureFrame();
         ASSERT_TRUE(frame);
         EXPECT_THAT(frame->dirtyRects, IsEmpty());
-        EXPECT_EQ(log.lines().back(),
-                  "error|DxgiCaptureBackend: " + std::string(call) + " failed (0x887A0003)");
     }
 }
 
@@ -289,21 +234,13 @@ TEST_F(DxgiCaptureBackendTest, ThePointerIsDrawnRelativeToTheMonitor) {
     EXPECT_THAT(backend.captureFrame()->dirtyRects, ElementsAre(FrameRect{0, 0, 1, 1}));
 }
 
-TEST(DxgiCaptureBackendOnThisMachine, InitializesOrSaysWhyNot) {
-    test::LogCapture log;
-    DxgiCaptureBackend backend;
-    if (backend.initialize(0)) {
-        EXPECT_TRUE(log.contains("info|DxgiCaptureBackend: initialized on monitor 0 ("));
-        return;
-    }
-    EXPECT_TRUE(log.contains("error|DxgiCaptureBackend: DuplicateOutput failed (0x8") ||
-                log.contains("error|DxgiCaptureBackend: D3D11CreateDevice failed (0x8"));
-    EXPECT_FALSE(backend.isInitialized());
-    EXPECT_FALSE(backend.monitors().empty());
-}
-
 TEST(CaptureBackendCandidates, TheLastOneWorksWhereverThereIsADesktop) {
-    EXPECT_TRUE(captureBackendCandidates().back().create()->initialize(0));
+    const auto backend = captureBackendCandidates().back().create();
+    ASSERT_TRUE(backend->initialize(0));
+    const auto frame = backend->captureFrame();
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(frame->width, GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_EQ(frame->data.size(), static_cast<size_t>(4 * frame->width * frame->height));
 }
 
 } // namespace
