@@ -11,7 +11,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kTimeout = 20s;
-const QString kHomeTitle = QStringLiteral("Corvane - Remote Access");
 
 /// Two real programs on two displays, and a desktop that stands still.
 class LiveSessionTest : public ::testing::Test {
@@ -42,32 +41,6 @@ protected:
     LiveSession m_live{{.viewerDisplay = {}, .stillDesktop = true}};
 };
 
-TEST_F(LiveSessionTest, OnePersonSeesAndDrivesAnothersDesktop) {
-    ASSERT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
-    EXPECT_EQ(m_live.transport(), createPeerTransport() ? u"p2p"_qs : u"relay"_qs);
-    EXPECT_GE(m_live.pictureFidelity(), 28.0);
-    // Capitals, digits and a sign that takes Shift: the keyboard arrives key by key.
-    EXPECT_TRUE(m_live.typeRemotely(QStringLiteral("Hello-World_42!")))
-        << m_live.error().toStdString();
-    EXPECT_GE(m_live.pictureFidelity(), 28.0);
-
-    for (const ClientProcess* client : {&m_live.viewer(), &m_live.target()}) {
-        EXPECT_EQ(client->logLines(QStringLiteral("[error]")).join(u'\n').toStdString(), "");
-    }
-    m_live.viewerDisplay().pressKey('d', {kKeyControl, kKeyShift});
-    EXPECT_TRUE(isShown(kHomeTitle));
-    EXPECT_TRUE(endsWith(m_live.viewer(), "Closing -> Idle"));
-    EXPECT_TRUE(endsWith(m_live.target(), "Closing -> Idle"));
-    EXPECT_EQ(m_live.viewer().logLines(QStringLiteral("(reason: user_disconnect)")).size(), 1);
-    EXPECT_EQ(m_live.target().logLines(QStringLiteral("(reason: remote_transport_closed)")).size(),
-              1);
-    EXPECT_TRUE(m_live.viewer().stop());
-    EXPECT_TRUE(m_live.target().stop());
-    for (const ClientProcess* client : {&m_live.viewer(), &m_live.target()}) {
-        EXPECT_FALSE(client->log().contains(m_live.targetPassword()));
-    }
-}
-
 TEST_F(LiveSessionTest, AWrongPasswordIsToldAndTheNextTryConnects) {
     ASSERT_TRUE(m_live.enterPartner(QStringLiteral("Wrong0000")));
     ASSERT_TRUE(isShown(QStringLiteral("Connection Error")));
@@ -82,6 +55,7 @@ TEST_F(LiveSessionTest, AWrongPasswordIsToldAndTheNextTryConnects) {
     m_live.viewerDisplay().type(m_live.targetPassword());
     m_live.viewerDisplay().pressKey(kKeyReturn);
     EXPECT_TRUE(m_live.waitUntilConnected()) << m_live.error().toStdString();
+    EXPECT_EQ(m_live.transport(), createPeerTransport() ? u"p2p"_qs : u"relay"_qs);
 }
 
 TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) {
@@ -89,7 +63,7 @@ TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) 
     ASSERT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
     EXPECT_EQ(m_live.transport(), u"relay"_qs);
     m_live.target().crash();
-    EXPECT_TRUE(isShown(kHomeTitle));
+    EXPECT_TRUE(isShown(QStringLiteral("Corvane - Remote Access")));
     EXPECT_TRUE(endsWith(m_live.viewer(), "Closing -> Idle"));
     ASSERT_TRUE(m_live.target().start());
     ASSERT_TRUE(
