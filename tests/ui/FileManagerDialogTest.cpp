@@ -297,18 +297,6 @@ TEST_F(FileManagerDialogTest, StaysInTheChosenFolderWhateverTheNames) {
     EXPECT_FALSE(m_log.contains("\n"));
 }
 
-TEST_F(FileManagerDialogTest, TellsWhyABatchEnded) {
-    openFolders();
-    EXPECT_TRUE(QFile::remove(m_remote + u"/a.txt"_s));
-    download({u"empty"_s, u"a.txt"_s, u"ü &amp; b.bin"_s});
-    upload({u"up 2"_s}); // waits for the downloads
-    settle();
-    EXPECT_EQ(status(), u"Error: Cannot open file: "_s + m_remote + u"/a.txt"_s);
-    EXPECT_EQ(percent(), 0);
-    EXPECT_FALSE(QFile::exists(m_local + u"/ü &amp; b.bin"_s));
-    EXPECT_FALSE(QFile::exists(m_remote + u"/up 2"_s));
-}
-
 TEST_F(FileManagerDialogTest, OutlivesItsService) {
     downloadUntilAQuestion();
     m_service.reset();

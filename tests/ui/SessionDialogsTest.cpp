@@ -129,18 +129,11 @@ TEST_F(ConnectionInfoDialogTest, ShowsTheSessionAndItsQuality) {
     EXPECT_EQ(rows(dialog),
               session + QStringList({u"FPS: —"_s, u"Latency: —"_s, u"Bandwidth: —"_s, u"Sent: —"_s,
                                      u"Received: —"_s, u"Dropped Frames: —"_s, u"Uptime: —"_s}));
-    const std::pair<ConnectionStats, QStringList> cases[] = {
-        {{29.96, 12.34, 1000, 1023, 1536, 7, 3725},
-         {u"FPS: 30.0"_s, u"Latency: 12.3 ms"_s, u"Bandwidth: 1000 Kbps"_s, u"Sent: 1023 B"_s,
-          u"Received: 1.5 KB"_s, u"Dropped Frames: 7"_s, u"Uptime: 01:02:05"_s}},
-        {{4, 250, 1000.5, 1'048'576, -1, 1'234'567, 90'000},
-         {u"FPS: 4.0"_s, u"Latency: 250.0 ms"_s, u"Bandwidth: 1.0 Mbps"_s, u"Sent: 1.0 MB"_s,
-          u"Received: 0 B"_s, u"Dropped Frames: 1234567"_s, u"Uptime: 25:00:00"_s}},
-    };
-    for (const auto& [stats, shown] : cases) {
-        dialog.showStats(stats);
-        EXPECT_EQ(rows(dialog), session + shown);
-    }
+    dialog.showStats({4, 12.34, 1000.5, 1'048'576, -1, 1'234'567, 90'000});
+    EXPECT_EQ(rows(dialog),
+              session + QStringList({u"FPS: 4.0"_s, u"Latency: 12.3 ms"_s, u"Bandwidth: 1.0 Mbps"_s,
+                                     u"Sent: 1.0 MB"_s, u"Received: 0 B"_s,
+                                     u"Dropped Frames: 1234567"_s, u"Uptime: 25:00:00"_s}));
     for (const QLabel* label : dialog.findChildren<QLabel*>()) {
         EXPECT_TRUE(label->buddy() || label->textFormat() == Qt::PlainText);
     }

@@ -23,44 +23,21 @@ private:
     }
 };
 
-TEST(SystemTrayIcon, ItsMenuAndADoubleClickRaiseSignals) {
+TEST(SystemTrayIcon, ItsMenuAndADoubleClickShowTheWindow) {
     SystemTrayIcon icon;
-    QMenu* const menu = icon.contextMenu();
     QSignalSpy show(&icon, &SystemTrayIcon::showWindowRequested);
-    QSignalSpy disconnect(&icon, &SystemTrayIcon::disconnectRequested);
-    QSignalSpy quit(&icon, &SystemTrayIcon::quitRequested);
-    const auto click = [menu](int item) {
-        QAction* const action = menu->actions().at(item);
-        menu->popup(QPoint(0, 0));
-        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-        menu->hide();
-        return action->text();
-    };
-
     QStringList texts;
-    for (int item = 0; item < menu->actions().size(); ++item) {
-        texts << click(item);
+    for (QAction* const action : icon.contextMenu()->actions()) {
+        texts << action->text();
     }
     EXPECT_EQ(texts, QStringList({u"Show"_s, u"Status: Disconnected"_s, u""_s, u"Disconnect"_s,
                                   u"Quit"_s}));
-    EXPECT_TRUE(menu->actions().at(2)->isSeparator());
+    icon.contextMenu()->actions().first()->trigger();
     EXPECT_EQ(show.size(), 1);
-    EXPECT_EQ(quit.size(), 1);
-    EXPECT_EQ(disconnect.size(), 0);
-
-    icon.setStatus(u"Connected"_s);
-    EXPECT_EQ(click(1), u"Connected"_s);
-    for (const bool enabled : {true, false}) {
-        icon.setDisconnectEnabled(enabled);
-        click(3);
-        EXPECT_EQ(disconnect.size(), 1);
-    }
-
-    show.clear();
     for (const auto reason : {QSystemTrayIcon::Context, QSystemTrayIcon::Trigger,
                               QSystemTrayIcon::MiddleClick, QSystemTrayIcon::DoubleClick}) {
         Q_EMIT icon.activated(reason);
-        EXPECT_EQ(show.size(), reason == QSystemTrayIcon::DoubleClick ? 1 : 0) << reason;
+        EXPECT_EQ(show.size(), reason == QSystemTrayIcon::DoubleClick ? 2 : 1) << reason;
     }
 }
 
