@@ -37,10 +37,17 @@ bool openOrdinaryFile(QFile& file) {
 }
 
 QList<FileEntry> mountedVolumes() {
+    const auto capacityOf = [](const QStorageInfo& volume) {
+        return static_cast<quint64>(std::max<qint64>(volume.bytesTotal(), 0));
+    };
     QList<FileEntry> volumes;
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-        const auto capacity = static_cast<quint64>(std::max<qint64>(volume.bytesTotal(), 0));
-        volumes.append({volume.rootPath(), true, capacity});
+        volumes.append({volume.rootPath(), true, capacityOf(volume)});
+    }
+    // In a container the root may be a folder of a volume that is mounted outside.
+    const QString root = QDir::rootPath();
+    if (std::ranges::find(volumes, root, &FileEntry::name) == volumes.end()) {
+        volumes.prepend({root, true, capacityOf(QStorageInfo(root))});
     }
     return volumes;
 }

@@ -26,7 +26,7 @@ void HttpFront::perform(const Reply& scripted, const Request& request,
                         const HttpExchange& exchange) {
     if (scripted.dropConnection) {
         // Never under the request itself, whose connection the server still holds.
-        QTimer::singleShot(qMax(0, scripted.delayMs), this, [exchange] { exchange.drop(); });
+        QTimer::singleShot(qMax(0, scripted.delayMs), &m_delays, [exchange] { exchange.drop(); });
         return;
     }
     const Answer answer =
@@ -36,7 +36,8 @@ void HttpFront::perform(const Reply& scripted, const Request& request,
     if (scripted.delayMs <= 0) {
         exchange.send(answer);
     } else {
-        QTimer::singleShot(scripted.delayMs, this, [exchange, answer] { exchange.send(answer); });
+        QTimer::singleShot(scripted.delayMs, &m_delays,
+                           [exchange, answer] { exchange.send(answer); });
     }
 }
 

@@ -38,6 +38,8 @@ private:
     const Handler m_handler;
     HttpListener m_listener;
     QList<Request> m_requests;
+    /// What delayed answers wait with: they have to be gone before the listener is.
+    QObject m_delays;
 };
 
 } // namespace corvane::devserver
