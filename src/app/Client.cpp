@@ -5,10 +5,10 @@
 #include "app/CompanionService.h"
 #include "app/Logging.h"
 #include "app/QuitOnRequest.h"
-#include "app/SessionSettings.h"
 #include "app/SingleInstanceGuard.h"
 #include "app/Theme.h"
 #include "app/Translation.h"
+#include "app/Wiring.h"
 #include "app/settings/DeploymentConstants.h"
 #include "app/settings/SettingsController.h"
 #include "integration/Autostart.h"
@@ -46,20 +46,6 @@ void applyLook(QApplication& application, ButtonCursorFilter& cursorFilter) {
     QApplication::setPalette(applicationPalette());
     application.setStyleSheet(applicationStyleSheet());
     QApplication::setWindowIcon(QIcon(drawApplicationIcon(kIconSide)));
-}
-
-void connectUpdates(AuthController& auth, MainWindow& window, UpdateService& updates) {
-    QObject::connect(&auth, &AuthController::authenticated, &updates,
-                     &UpdateService::checkForUpdates);
-    QObject::connect(&updates, &UpdateService::updateAvailable, &window,
-                     &MainWindow::showUpdateBanner);
-    QObject::connect(&window, &MainWindow::updateRequested, &updates,
-                     &UpdateService::downloadUpdate);
-    QObject::connect(&updates, &UpdateService::downloadProgress, &window,
-                     &MainWindow::showUpdateProgress);
-    QObject::connect(&updates, &UpdateService::updateError, &window, &MainWindow::showUpdateError);
-    QObject::connect(&updates, &UpdateService::readyToInstall, &window,
-                     &MainWindow::launchInstaller);
 }
 
 void announceStart() {
@@ -114,15 +100,13 @@ int runClient(int argc, char** argv) {
     HeartbeatService heartbeat(&api);
     AuthController auth(&api, &signaling, &heartbeat, &settings);
     SessionManager session(&api, &signaling);
-    applySessionSettings(session, settings);
 
     const auto integration = createSystemIntegration();
     MainWindow window(&auth, &api, &signaling, &session, &settings,
                       {.integration = integration.get(),
                        .monitors = [] { return capturableMonitors(captureBackendCandidates()); },
                        .captureObstacle = captureObstacle()});
-    QObject::connect(&window, &MainWindow::settingsChanged, &session,
-                     [&] { applySessionSettings(session, settings); });
+    connectSettings(window, session, settings);
     UpdateService updates;
     connectUpdates(auth, window, updates);
     QObject::connect(

@@ -45,6 +45,13 @@ TEST_P(StartHabitsTest, ASecondCopyLeavesSilentlyAndDoesNothing) {
     EXPECT_TRUE(m_client->stop());
 }
 
+TEST_P(StartHabitsTest, TheChosenLanguageIsSpoken) {
+    m_client->presetLanguage(QStringLiteral("de"));
+    ASSERT_TRUE(startAndWait());
+    EXPECT_TRUE(hasLogged("Loaded translation: de"));
+    EXPECT_TRUE(m_client->stop());
+}
+
 TEST_P(StartHabitsTest, ACrashKeepsTheSettingsAndTheNextStartWorks) {
     const QString password = QStringLiteral("Kept1234");
     m_client->presetPassword(password);

@@ -110,6 +110,7 @@ protected:
     std::shared_ptr<Machine> m_machine = std::make_shared<Machine>();
     SessionManager m_session{&m_api, &m_signaling, createTestPlatform(m_machine)};
     bool m_isTrayThere = false;
+    std::vector<MonitorInfo> m_monitors;
     std::unique_ptr<ISystemIntegration> m_integration = createSystemIntegration();
     MainWindow m_window{&m_auth,
                         &m_api,
@@ -117,7 +118,7 @@ protected:
                         &m_session,
                         &m_settings,
                         {.integration = m_integration.get(),
-                         .monitors = [] { return std::vector<MonitorInfo>(); },
+                         .monitors = [this] { return m_monitors; },
                          .isTrayThere =
                              [this] {
                                  return m_isTrayThere;

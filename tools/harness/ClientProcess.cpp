@@ -32,6 +32,10 @@ void ClientProcess::presetPassword(const QString& password) {
     m_host->presetSetting(QStringLiteral("auth/sessionPassword"), password);
 }
 
+void ClientProcess::presetLanguage(const QString& language) {
+    m_host->presetSetting(QStringLiteral("general/language"), language);
+}
+
 void ClientProcess::presetCredentials(const QString& clientId, const QString& secret) {
     m_host->presetSetting(QStringLiteral("auth/clientId"), clientId);
     m_host->presetSetting(QStringLiteral("auth/deviceSecret"), secret);

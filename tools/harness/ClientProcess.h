@@ -20,6 +20,9 @@ public:
     /// Stores the session password before the first start.
     void presetPassword(const QString& password);
 
+    /// Stores the interface language, two letters, before the first start.
+    void presetLanguage(const QString& language);
+
     /// Makes the first start log in as this device instead of registering. Programs on one machine
     /// share its fingerprint and would otherwise be the same device.
     void presetCredentials(const QString& clientId, const QString& secret);
