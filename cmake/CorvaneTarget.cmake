@@ -17,6 +17,9 @@ target_compile_definitions(corvane_options INTERFACE
 if(CORVANE_PLATFORM STREQUAL "windows")
     target_compile_definitions(corvane_options INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN)
 endif()
+if(CORVANE_INSTALL)
+    target_compile_options(corvane_options INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+endif()
 if(CORVANE_SANITIZE)
     target_compile_options(corvane_options INTERFACE
         -fsanitize=${CORVANE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demonstration need and that are
 # missing, and nothing else. The cross-compiler and Wine come in only beside the Windows libraries,
-# what checks the sources and makes bare systems only with the argument "checks".
+# what checks the sources and makes bare systems only with the argument "checks", what makes and
+# checks a Debian package only with "package".
 set -euo pipefail
 
 packages=(
@@ -22,6 +23,9 @@ packages=(
 if [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
     # building the Windows program and running it
     packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+fi
+if [ "${1:-}" = package ]; then
+    packages+=(appstream desktop-file-utils dpkg-dev lintian)
 fi
 if [ "${1:-}" = checks ]; then
     packages+=(clang-tidy debootstrap shellcheck)

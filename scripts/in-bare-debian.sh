@@ -4,7 +4,8 @@
 # Makes a minimal system with debootstrap, from the mirror that this machine's own apt uses, copies
 # the tree in (what git tracks, as it is on disk) and runs the command there, at the tree's top. The
 # minimal system and the packages that were fetched are kept below build/bare; everything else is
-# new each time. Takes root, for chroot and mounts, and debootstrap.
+# new each time, except /exchange, where a command finds what another one left: it is the folder
+# build/bare/exchange. Takes root, for chroot and mounts, and debootstrap.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -43,7 +44,7 @@ mirror() {
 cache=$PWD/build/bare
 base=$cache/$suite.tar
 packages=$cache/$suite-packages
-mkdir -p "$packages/partial"
+mkdir -p "$packages/partial" "$cache/exchange"
 
 if [ ! -f "$base" ]; then
     echo "in-bare-debian: making a minimal Debian ($suite)"
@@ -64,7 +65,7 @@ root=$(mktemp -d "$cache/run.XXXXXX")
 tree="/home/newcomer/Corvane källa"
 trap 'rm -rf --one-file-system -- "$root"' EXIT
 tar --extract --file "$base" --directory "$root"
-mkdir -p "$root$tree"
+mkdir -p "$root$tree" "$root/exchange"
 git ls-files -z --cached | while IFS= read -r -d '' file; do
     [ ! -e "$file" ] || printf '%s\0' "$file"
 done | tar --create --null --files-from=- | tar --extract --directory "$root$tree"
@@ -80,10 +81,11 @@ echo "deb $(mirror) $suite main" >"$root/etc/apt/sources.list"
 rm -f "$root/etc/apt/apt.conf.d/docker-clean"
 
 # The command sees no process, mount or setting of this machine, and none of its own outlives it.
-export ROOT=$root TREE=$tree PACKAGES=$packages
+export ROOT=$root TREE=$tree PACKAGES=$packages EXCHANGE=$cache/exchange
 # shellcheck disable=SC2016 # for the inner shell to expand
 unshare --mount --pid --fork --kill-child --propagation private -- bash -euo pipefail -c '
     mount --bind "$PACKAGES" "$ROOT/var/cache/apt/archives"
+    mount --bind "$EXCHANGE" "$ROOT/exchange"
     mount -t proc proc "$ROOT/proc"
     mount -t sysfs sysfs "$ROOT/sys"
     mount --rbind /dev "$ROOT/dev"
