@@ -43,7 +43,12 @@ void endOnInterrupt(harness::LiveSession& session) {
 
 void reportTransport(harness::LiveSession& session, bool relayWanted, demo::DemoReport& report) {
     const QString transport = session.transport();
-    if (relayWanted) {
+    const auto withoutPeers =
+        session.viewer().logLines(QStringLiteral("Built without the peer-to-peer transport"));
+    if (!withoutPeers.isEmpty()) {
+        report.fact(QStringLiteral("transport"),
+                    transport + QStringLiteral(", since peer-to-peer is not built in"));
+    } else if (relayWanted) {
         report.check(QStringLiteral("transport"), transport == u"relay", transport);
     } else {
         report.fact(QStringLiteral("transport"), transport);
