@@ -39,7 +39,9 @@ export DEBIAN_FRONTEND=noninteractive
 apt-get update -qq
 install_package "$1"
 # Only now, so that nothing that the package forgets comes in with them.
-[ -z "$(ldd /usr/bin/corvane | grep 'not found')" ] || fail "lacks libraries"
+if ldd /usr/bin/corvane | grep 'not found'; then
+    fail "lacks libraries"
+fi
 apt-get install -qq -y --no-install-recommends x11-utils xvfb >/dev/null
 export DISPLAY=:77 HOME
 HOME=$(mktemp -d)
@@ -48,7 +50,8 @@ display=$!
 trap 'kill $display' EXIT
 sleep 1
 starts
-corvane --install && [ -n "$(find "$HOME" -name '*.desktop')" ] || fail "--install leaves no entry"
+corvane --install
+[ -n "$(find "$HOME" -name '*.desktop')" ] || fail "--install leaves no entry"
 before=$(version)
 install_package "$2"
 dpkg --compare-versions "$(version)" gt "$before" || fail "not upgraded from $before"
