@@ -65,10 +65,10 @@ function(corvane_install program)
     set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
     set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "see and control another computer, or share this one")
     set(CPACK_PACKAGE_DESCRIPTION
-        "Corvane shows the screen of another computer, whose mouse and keyboard it lets\n\
-you use. A partner who knows the ID and the password of this computer can do the\n\
-same here. Sessions are encrypted from end to end and have a chat, a shared\n\
-clipboard and file transfer.")
+        "Corvane shows the screen of another computer, whose mouse and keyboard it\n\
+lets you use. A partner who knows the ID and the password of this computer can\n\
+do the same here. Sessions are encrypted from end to end and have a chat, a\n\
+shared clipboard and file transfer.")
     set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
     set(CPACK_DEBIAN_PACKAGE_RELEASE ${CORVANE_PACKAGE_RELEASE})
     set(CPACK_DEBIAN_PACKAGE_SECTION net)
