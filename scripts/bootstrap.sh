@@ -40,9 +40,12 @@ if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     fail "this is no Debian; docs/building.md says what other systems need"
 fi
 
+# Some releases have a name only as one that another package provides.
+installed=$(dpkg-query --show --showformat='${db:Status-Status} ${Package}, ${Provides}\n' |
+    sed -n 's/^installed //p' | tr ',' '\n' | sed 's/^ *//; s/ .*//')
 missing=()
 for package in "${packages[@]}"; do
-    if [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
+    if ! grep -qxF -- "$package" <<<"$installed"; then
         missing+=("$package")
     fi
 done
