@@ -22,6 +22,12 @@ if [ "$preset" = dev ] && [ "${targets[0]}" = all ] && [ -d "${CORVANE_WIN64_PRE
     windows=yes
 fi
 
+# ctest names what was skipped in the run of this preset, but not why.
+say_why_skipped() {
+    sed -n '/: Skipped$/{n;p}' "build/$1/Testing/Temporary/LastTest.log" | sort | uniq -c |
+        sed 's/^ *\([0-9]*\) /skipped, \1: /'
+}
+
 scripts/bootstrap.sh
 cmake --preset "$preset"
 cmake --build --preset "$preset" --target "${targets[@]}"
@@ -31,6 +37,7 @@ if [ $windows = yes ]; then
 fi
 
 ctest --preset "$preset" --parallel "$(nproc)" "$@"
+say_why_skipped "$preset"
 if [ $windows = yes ]; then
     # What the further arguments pick out may be native only.
     [ $# -eq 0 ] || set -- --no-tests=ignore "$@"
