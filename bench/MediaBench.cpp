@@ -1,6 +1,7 @@
 #include "SideBySide.h"
 #include "media/AV1Decoder.h"
 #include "media/AV1Encoder.h"
+#include "media/AV1Tuning.h"
 #include "media/FrameConverter.h"
 #include "support/DesktopScene.h"
 
@@ -121,7 +122,7 @@ void openBareEncoder(aom_codec_ctx_t& context, const EncoderConfig& config) {
     settings.kf_min_dist = 0;
     settings.kf_max_dist = static_cast<unsigned>(config.keyframeInterval);
     aom_codec_enc_init(&context, aom_codec_av1_cx(), &settings, 0);
-    aom_codec_control(&context, AOME_SET_CPUUSED, AV1Encoder::speedOf(config.speedPreset));
+    aom_codec_control(&context, AOME_SET_CPUUSED, AV1Tuning::speedOf(config.speedPreset));
     aom_codec_control(&context, AOME_SET_CQ_LEVEL, static_cast<unsigned>(config.cqLevel));
     aom_codec_control(&context, AV1E_SET_ROW_MT, 1U);
     aom_codec_control(&context, AV1E_SET_TILE_COLUMNS, 2);

@@ -1,60 +1,19 @@
 #include "media/AV1Encoder.h"
 
+#include "media/AV1Tuning.h"
+
 #include <aom/aom_encoder.h>
 #include <aom/aomcx.h>
 #include <spdlog/spdlog.h>
 
-#include <algorithm>
-#include <array>
 #include <cstring>
-#include <stdexcept>
-#include <string_view>
 
 namespace corvane {
 
 namespace {
 
-constexpr unsigned kGoodQualityUsage = 0;
-constexpr int kMaxSpeed = 10;
-constexpr int kDefaultSpeed = 8;
-constexpr int kMaxCqLevel = 63;
 constexpr unsigned kImageAlignment = 16;
 constexpr int kNeutralChroma = 128;
-constexpr int kTileColumnsLog2 = 2;
-constexpr int kTileRowsLog2 = 1;
-
-struct NamedSpeed {
-    std::string_view name;
-    int speed;
-};
-
-constexpr std::array kNamedSpeeds = {
-    NamedSpeed{"ultrafast", 10}, NamedSpeed{"superfast", 10}, NamedSpeed{"veryfast", 9},
-    NamedSpeed{"faster", 9},     NamedSpeed{"fast", 8},       NamedSpeed{"medium", 6},
-    NamedSpeed{"slow", 4},       NamedSpeed{"veryslow", 1},
-};
-
-int cqLevelOf(const EncoderConfig& config) {
-    return std::clamp(config.cqLevel, 0, kMaxCqLevel);
-}
-
-/// Settings shared by the first configuration and every change of the rate.
-void applyRateControl(const EncoderConfig& config, aom_codec_enc_cfg_t& settings) {
-    settings.g_threads = 0;
-    settings.g_w = static_cast<unsigned>(config.width);
-    settings.g_h = static_cast<unsigned>(config.height);
-    settings.g_lag_in_frames = 0;
-    settings.rc_end_usage = AOM_CQ;
-    settings.rc_target_bitrate = static_cast<unsigned>(config.bitrateKbps);
-}
-
-void applyStream(const EncoderConfig& config, aom_codec_enc_cfg_t& settings) {
-    settings.g_timebase = {1, config.fps};
-    settings.g_error_resilient = 1;
-    settings.g_pass = AOM_RC_ONE_PASS;
-    settings.kf_min_dist = 0;
-    settings.kf_max_dist = static_cast<unsigned>(config.keyframeInterval);
-}
 
 void splitChromaRow(const uint8_t* __restrict interleaved, size_t pairs, uint8_t* __restrict cb,
                     uint8_t* __restrict cr) {
@@ -109,23 +68,10 @@ struct AV1Encoder::Codec {
 AV1Encoder::AV1Encoder() = default;
 AV1Encoder::~AV1Encoder() = default;
 
-int AV1Encoder::speedOf(const std::string& preset) {
-    try {
-        const int64_t number = std::stoi(preset);
-        return static_cast<int>(std::clamp<int64_t>(number * 10 / 13, 0, kMaxSpeed));
-    } catch (const std::logic_error&) {
-        const auto named =
-            std::find_if(kNamedSpeeds.begin(), kNamedSpeeds.end(),
-                         [&preset](const NamedSpeed& entry) { return entry.name == preset; });
-        return named == kNamedSpeeds.end() ? kDefaultSpeed : named->speed;
-    }
-}
-
 bool AV1Encoder::initialize(const EncoderConfig& config) {
     shutdown();
     m_config = config;
-    const int speed = speedOf(config.speedPreset);
-    const int cqLevel = cqLevelOf(config);
+    const AV1Tuning tuning(config);
 
     aom_codec_iface_t* const library = aom_codec_av1_cx();
     if (library == nullptr) {
@@ -133,15 +79,14 @@ bool AV1Encoder::initialize(const EncoderConfig& config) {
         return false;
     }
     aom_codec_enc_cfg_t settings{};
-    const aom_codec_err_t result =
-        aom_codec_enc_config_default(library, &settings, kGoodQualityUsage);
+    const aom_codec_err_t result = aom_codec_enc_config_default(library, &settings, tuning.usage());
     if (result != AOM_CODEC_OK) {
         spdlog::error("AV1Encoder: aom_codec_enc_config_default failed: {}",
                       aom_codec_err_to_string(result));
         return false;
     }
-    applyRateControl(config, settings);
-    applyStream(config, settings);
+    tuning.applyRateControl(settings);
+    tuning.applyStream(settings);
 
     auto codec = std::make_unique<Codec>();
     if (!codec->open(library, settings)) {
@@ -149,11 +94,7 @@ bool AV1Encoder::initialize(const EncoderConfig& config) {
                       aom_codec_error(&codec->context));
         return false;
     }
-    aom_codec_control(&codec->context, AOME_SET_CPUUSED, speed);
-    aom_codec_control(&codec->context, AOME_SET_CQ_LEVEL, static_cast<unsigned>(cqLevel));
-    aom_codec_control(&codec->context, AV1E_SET_ROW_MT, 1U);
-    aom_codec_control(&codec->context, AV1E_SET_TILE_COLUMNS, kTileColumnsLog2);
-    aom_codec_control(&codec->context, AV1E_SET_TILE_ROWS, kTileRowsLog2);
+    tuning.applyControls(codec->context);
 
     if (!codec->allocateImage(settings.g_w, settings.g_h)) {
         spdlog::error("AV1Encoder: aom_img_alloc failed ({}x{})", config.width, config.height);
@@ -162,7 +103,8 @@ bool AV1Encoder::initialize(const EncoderConfig& config) {
     m_codec = std::move(codec);
     m_initialized = true;
     spdlog::info("AV1Encoder: initialized ({}x{} @ {} fps, CQ {}, bitrate {} kbps, cpu-used={})",
-                 config.width, config.height, config.fps, cqLevel, config.bitrateKbps, speed);
+                 config.width, config.height, config.fps, tuning.cqLevel(), config.bitrateKbps,
+                 tuning.speed());
     return true;
 }
 
@@ -245,17 +187,24 @@ void AV1Encoder::updateBitrate(int kbps) {
         return;
     }
     m_config.bitrateKbps = kbps;
+    const AV1Tuning tuning(m_config);
     aom_codec_enc_cfg_t settings{};
     aom_codec_err_t result =
-        aom_codec_enc_config_default(aom_codec_av1_cx(), &settings, kGoodQualityUsage);
+        aom_codec_enc_config_default(aom_codec_av1_cx(), &settings, tuning.usage());
     if (result == AOM_CODEC_OK) {
-        applyRateControl(m_config, settings);
+        tuning.applyRateControl(settings);
         result = aom_codec_enc_config_set(&m_codec->context, &settings);
     }
     if (result != AOM_CODEC_OK) {
         spdlog::warn("AV1Encoder: config update failed: {}", aom_codec_err_to_string(result));
     }
     spdlog::info("AV1Encoder: bitrate updated to {} kbps", kbps);
+}
+
+void AV1Encoder::setQuality(int cqLevel) {
+    if (m_initialized && isInteractive(m_config)) {
+        AV1Tuning(m_config).applyQuality(m_codec->context, cqLevel);
+    }
 }
 
 } // namespace corvane

@@ -5,6 +5,7 @@
 namespace corvane {
 
 /// libaom in constant-quality mode without look-ahead: every frame yields its packet at once.
+/// `AV1Tuning` says how it is set up.
 class AV1Encoder : public IVideoEncoder {
 public:
     AV1Encoder();
@@ -29,8 +30,7 @@ public:
         return {m_config.width, m_config.height};
     }
 
-    /// The library's speed, 0 (slow) to 10, for a preset: a number from 0 to 13, or a name.
-    static int speedOf(const std::string& preset);
+    void setQuality(int cqLevel) override;
 
 private:
     struct Codec;

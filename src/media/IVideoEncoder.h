@@ -10,6 +10,10 @@
 
 namespace corvane {
 
+/// The profile for working on a screen: frames within milliseconds, text stays sharp, quality can
+/// be changed from frame to frame.
+inline constexpr char kInteractiveProfile[] = "interactive";
+
 struct EncoderConfig {
     int32_t width = 1920;
     int32_t height = 1080;
@@ -18,8 +22,12 @@ struct EncoderConfig {
     int32_t keyframeInterval = 60;                 ///< max distance between key frames, in frames
     int32_t cqLevel = kSpeedPreset.encoderQuality; ///< constant-quality level, 0 (best) to 63
     std::string speedPreset = kEncoderSpeed;       ///< a number or a preset name
-    std::string profile;                           ///< not read by any encoder yet
+    std::string profile; ///< `kInteractiveProfile`; anything else is the default set-up
 };
+
+inline bool isInteractive(const EncoderConfig& config) {
+    return config.profile == kInteractiveProfile;
+}
 
 struct EncodedPacket {
     ByteVector data;
@@ -49,6 +57,10 @@ public:
 
     /// Width and height, in pixels, passed to the last `initialize`.
     virtual std::pair<int32_t, int32_t> configuredSize() const = 0;
+
+    /// The constant-quality level, 0 (best) to 63, from the next frame on. Only the interactive
+    /// profile can change it; any other keeps the level it was opened with.
+    virtual void setQuality(int cqLevel) = 0;
 };
 
 } // namespace corvane

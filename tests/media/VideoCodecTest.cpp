@@ -1,5 +1,6 @@
 #include "media/AV1Decoder.h"
 #include "media/AV1Encoder.h"
+#include "media/AV1Tuning.h"
 #include "media/FrameConverter.h"
 #include "support/DesktopScene.h"
 #include "support/LogCapture.h"
@@ -57,7 +58,7 @@ TEST_F(VideoCodecTest, SpeedPresetsMapToLibrarySpeeds) {
         {"Fast", 8}, {"veryslow", 1}, {"", 8},      {"99999999999", 8},
     };
     for (const auto& [preset, speed] : cases) {
-        EXPECT_EQ(AV1Encoder::speedOf(preset), speed) << preset;
+        EXPECT_EQ(AV1Tuning::speedOf(preset), speed) << preset;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "session/FramePipeline.h"
 #include "crypto/AesGcmCipher.h"
+#include "session/StreamLevel.h"
 #include "support/LogCapture.h"
 
 #include <gtest/gtest.h>
@@ -29,6 +30,7 @@ public:
     }
     bool isInitialized() const override { return open; }
     void updateBitrate(int) override {}
+    void setQuality(int cqLevel) override { quality = cqLevel; }
     std::pair<int32_t, int32_t> configuredSize() const override {
         return {config.width, config.height};
     }
@@ -37,6 +39,7 @@ public:
     bool holdsBack = false;
     bool open = false;
     int openings = 0;
+    int quality = -1;
     EncoderConfig config;
     bool forcedKeyframe = false;
     uint8_t packets = 0;
@@ -96,6 +99,29 @@ TEST_F(FramePipelineTest, SendsAKeyFrameAgainWhileItsPictureStands) {
         EXPECT_EQ(sealed->front(), counter++) << "a message sealed as before";
     }
     EXPECT_EQ(m_script.openings, 3) << "once per size";
+}
+
+TEST_F(FramePipelineTest, SharpensAStillPictureAndGivesUpQualityThenSizeOnAStrainedLine) {
+    CapturedFrame picture = frame(64, 48);
+    const auto qualityAfter = [&](int refinement) {
+        picture.refinement = refinement;
+        EXPECT_TRUE(m_pipeline.process(picture));
+        return m_script.quality;
+    };
+    const int sharp = qualityAfter(0);
+    EXPECT_EQ(sharp, 23);
+    EXPECT_LT(qualityAfter(2), sharp);
+    EXPECT_LT(qualityAfter(4), qualityAfter(2));
+
+    m_pipeline.setLevel(1);
+    EXPECT_GT(qualityAfter(0), sharp);
+    EXPECT_EQ(m_script.config.width, 64);
+    m_pipeline.setLevel(kMaxStreamLevel);
+    qualityAfter(0);
+    EXPECT_EQ(std::pair(m_script.config.width, m_script.config.height), std::pair(32, 24));
+    m_pipeline.setLevel(0);
+    EXPECT_EQ(qualityAfter(0), sharp);
+    EXPECT_EQ(m_script.config.width, 64);
 }
 
 TEST_F(FramePipelineTest, RetriesAFailedOpeningWithTheNextFrame) {
