@@ -929,6 +929,14 @@ Rychlost: 10 FPS, menší šířka pásma a zatížení procesoru.</translation>
         <translation>Optimalizovat rychlost</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Plynulý pohyb</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Plynulost: 30 FPS, při práci až 60; větší šířka pásma a zatížení procesoru.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Vyberte monitor, který se bude sdílet, když se někdo připojí k tomuto zařízení.</translation>
     </message>

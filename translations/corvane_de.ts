@@ -929,6 +929,14 @@ Geschwindigkeit: 10 FPS, geringere Bandbreite und CPU-Last.</translation>
         <translation>Geschwindigkeit optimieren</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Flüssige Bewegung</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Flüssig: 30 FPS, bei der Arbeit bis 60; höhere Bandbreite und CPU-Last.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Wählen Sie den Monitor, der freigegeben wird, wenn sich jemand mit diesem Gerät verbindet.</translation>
     </message>

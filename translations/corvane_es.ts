@@ -929,6 +929,14 @@ Velocidad: 10 FPS, menor ancho de banda y uso de CPU.</translation>
         <translation>Optimizar velocidad</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Movimiento fluido</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Fluidez: 30 FPS, hasta 60 al trabajar; mayor ancho de banda y uso de CPU.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Elija el monitor que se compartirá cuando alguien se conecte a este equipo.</translation>
     </message>

@@ -929,6 +929,14 @@ Nopeus: 10 FPS, pienempi kaistanleveys ja suorittimen käyttö.</translation>
         <translation>Optimoi nopeus</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Sulava liike</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Sulavuus: 30 FPS, työskennellessä jopa 60; suurempi kaistanleveys ja suorittimen käyttö.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Valitse näyttö, joka jaetaan, kun joku muodostaa yhteyden tähän laitteeseen.</translation>
     </message>

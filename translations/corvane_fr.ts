@@ -929,6 +929,14 @@ Vitesse&#xa0;: 10 FPS, débit et charge du processeur réduits.</translation>
         <translation>Optimiser la vitesse</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Mouvement fluide</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Fluidité&#xa0;: 30 FPS, jusqu&apos;à 60 pendant le travail&#xa0;; débit et charge du processeur plus élevés.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Choisissez l&apos;écran à partager lorsque quelqu&apos;un se connecte à cet appareil.</translation>
     </message>

@@ -929,6 +929,14 @@ Sebesség: 10 FPS, kisebb sávszélesség és processzorterhelés.</translation>
         <translation>Sebesség optimalizálása</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Folyamatos mozgás</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Folyamatosság: 30 FPS, munka közben akár 60; nagyobb sávszélesség és processzorterhelés.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Válassza ki, melyik monitort ossza meg, amikor valaki ehhez az eszközhöz csatlakozik.</translation>
     </message>

@@ -929,6 +929,14 @@ Velocità: 10 FPS, meno larghezza di banda e uso della CPU.</translation>
         <translation>Ottimizza velocità</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Movimento fluido</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Fluidità: 30 FPS, fino a 60 durante il lavoro; più larghezza di banda e uso della CPU.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Scegli il monitor da condividere quando qualcuno si connette a questo dispositivo.</translation>
     </message>

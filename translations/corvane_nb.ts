@@ -929,6 +929,14 @@ Hastighet: 10 FPS, lavere båndbredde og CPU-bruk.</translation>
         <translation>Optimaliser hastighet</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Jevn bevegelse</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Jevnhet: 30 FPS, opptil 60 mens du arbeider; høyere båndbredde og CPU-bruk.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Velg hvilken skjerm som skal deles når noen kobler seg til denne enheten.</translation>
     </message>

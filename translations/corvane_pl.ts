@@ -929,6 +929,14 @@ Szybkość: 10 FPS, mniejsze zużycie łącza i procesora.</translation>
         <translation>Optymalizuj szybkość</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Płynny ruch</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Płynność: 30 FPS, podczas pracy do 60; większe zużycie łącza i procesora.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Wybierz monitor, który będzie udostępniany, gdy ktoś połączy się z tym urządzeniem.</translation>
     </message>

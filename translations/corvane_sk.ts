@@ -929,6 +929,14 @@ Rýchlosť: 10 FPS, menšia šírka pásma a zaťaženie procesora.</translation
         <translation>Optimalizovať rýchlosť</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Plynulý pohyb</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Plynulosť: 30 FPS, pri práci až 60; väčšia šírka pásma a zaťaženie procesora.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Vyberte monitor, ktorý sa bude zdieľať, keď sa niekto pripojí k tomuto zariadeniu.</translation>
     </message>

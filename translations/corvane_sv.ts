@@ -929,6 +929,14 @@ Hastighet: 10 FPS, lägre bandbredd och CPU-användning.</translation>
         <translation>Optimera hastigheten</translation>
     </message>
     <message>
+        <source>Smooth motion</source>
+        <translation>Jämn rörelse</translation>
+    </message>
+    <message>
+        <source>Smooth: 30 fps, up to 60 while you work; higher bandwidth and CPU usage.</source>
+        <translation>Jämnhet: 30 FPS, upp till 60 när du arbetar; högre bandbredd och CPU-användning.</translation>
+    </message>
+    <message>
         <source>Select which monitor to share when someone connects to this device.</source>
         <translation>Välj vilken bildskärm som ska delas när någon ansluter till den här enheten.</translation>
     </message>

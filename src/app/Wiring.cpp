@@ -12,6 +12,7 @@ namespace {
 
 void applySettings(SessionManager& session, const SettingsController& settings) {
     session.setCaptureFrameRate(settings.captureFrameRate());
+    session.setFrameRateWithInput(settings.frameRateWithInput());
     session.setEncoderQuality(settings.encoderQuality(), settings.encoderSpeed().toStdString());
     session.setClipboardSharing(settings.clipboardSharing());
     session.setMonitorIndex(settings.monitorIndex());

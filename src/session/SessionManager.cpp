@@ -50,6 +50,10 @@ void SessionManager::setCaptureFrameRate(int framesPerSecond) {
     m_streaming.captureFrameRate = std::clamp(framesPerSecond, 1, 60);
 }
 
+void SessionManager::setFrameRateWithInput(int framesPerSecond) {
+    m_streaming.frameRateWithInput = std::clamp(framesPerSecond, 1, 60);
+}
+
 void SessionManager::setEncoderQuality(int quality, const std::string& speedText) {
     m_streaming.encoderQuality = std::clamp(quality, 0, 51);
     if (!speedText.empty()) {

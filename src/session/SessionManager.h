@@ -59,7 +59,9 @@ public:
     /// Ends the session and tells the server why. Does nothing when idle or failed.
     void endSession(const QString& reason);
 
-    void setCaptureFrameRate(int framesPerSecond);                     ///< kept within 1..60
+    void setCaptureFrameRate(int framesPerSecond); ///< kept within 1..60
+    /// While the viewer's input keeps coming, if that is more; kept within 1..60.
+    void setFrameRateWithInput(int framesPerSecond);
     void setEncoderQuality(int quality, const std::string& speedText); ///< quality within 0..51
     void setMonitorIndex(int index);
 

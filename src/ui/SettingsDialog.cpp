@@ -25,6 +25,7 @@ namespace {
 
 constexpr int kQualityMode = static_cast<int>(DisplayMode::Quality);
 constexpr int kSpeedMode = static_cast<int>(DisplayMode::Speed);
+constexpr int kSmoothMode = static_cast<int>(DisplayMode::Smooth);
 
 /// Each is shown in its own language, whatever the interface's.
 struct Language {
@@ -89,11 +90,15 @@ QWidget* SettingsDialog::createDisplayPage(const std::vector<MonitorInfo>& monit
         m_language->addItem(QString::fromUtf8(language.name), QLatin1String(language.code));
     }
     m_language->setMaxVisibleItems(m_language->count());
-    m_displayMode = newControl<QComboBox>("displayModeCombo",
-                                          tr("Quality: 24 fps, sharp image, higher bandwidth.\n"
-                                             "Speed: 10 fps, lower bandwidth and CPU usage."));
+    m_displayMode = newControl<QComboBox>(
+        "displayModeCombo", tr("Quality: 24 fps, sharp image, higher bandwidth.\n"
+                               "Speed: 10 fps, lower bandwidth and CPU usage.") +
+                                QLatin1Char('\n') +
+                                tr("Smooth: 30 fps, up to 60 while you work; higher bandwidth and "
+                                   "CPU usage."));
     m_displayMode->addItem(tr("Optimize Quality"), kQualityMode);
     m_displayMode->addItem(tr("Optimize Speed"), kSpeedMode);
+    m_displayMode->addItem(tr("Smooth motion"), kSmoothMode);
     m_monitor = newControl<QComboBox>(
         "monitorCombo", tr("Select which monitor to share when someone connects to this device."));
     for (const MonitorInfo& monitor : monitors) {

@@ -172,6 +172,10 @@ int SettingsController::captureFrameRate() const {
     return presetOf(DisplayMode{displayMode()}).framesPerSecond;
 }
 
+int SettingsController::frameRateWithInput() const {
+    return presetOf(DisplayMode{displayMode()}).framesPerSecondWithInput;
+}
+
 int SettingsController::encoderQuality() const {
     return presetOf(DisplayMode{displayMode()}).encoderQuality;
 }

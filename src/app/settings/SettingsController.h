@@ -79,6 +79,8 @@ public:
 
     /// Frames per second that the display mode asks for.
     int captureFrameRate() const;
+    /// The same while the viewer types or moves the pointer.
+    int frameRateWithInput() const;
     /// Encoder quality (lower is better) that the display mode asks for.
     int encoderQuality() const;
     /// The encoder's speed setting; the same in every mode.

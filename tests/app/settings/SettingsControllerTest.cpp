@@ -43,10 +43,11 @@ TEST_F(SettingsControllerTest, ValuesWithoutAnInputHaveTheirKeys) {
 }
 
 TEST_F(SettingsControllerTest, DisplayModeDecidesRateAndQuality) {
-    const int modes[][3] = {{0, 24, 23}, {1, 10, 45}, {2, 10, 45}, {-1, 10, 45}};
-    for (const auto& [mode, frameRate, quality] : modes) {
+    const int modes[][4] = {{0, 24, 30, 23}, {1, 10, 30, 45}, {2, 30, 60, 45}, {-1, 10, 30, 45}};
+    for (const auto& [mode, frameRate, withInput, quality] : modes) {
         m_settings.setDisplayMode(mode);
         EXPECT_EQ(m_settings.captureFrameRate(), frameRate) << mode;
+        EXPECT_EQ(m_settings.frameRateWithInput(), withInput) << mode;
         EXPECT_EQ(m_settings.encoderQuality(), quality) << mode;
     }
 }
