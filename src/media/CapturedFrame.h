@@ -28,6 +28,7 @@ struct CapturedFrame {
     uint64_t timestamp = 0;            ///< capture time, milliseconds of the monotonic clock
     bool keyframeRequested = false;    ///< the encoder must start afresh with this frame
     std::vector<FrameRect> dirtyRects; ///< changed regions; empty means the whole frame
+    int refinement = 0; ///< 0 for a new picture, then one more for each finer repetition of it
 };
 
 } // namespace corvane

@@ -3,10 +3,18 @@
 #include "common/MonitorInfo.h"
 #include "media/CapturedFrame.h"
 
+#include <chrono>
 #include <memory>
 #include <vector>
 
 namespace corvane {
+
+/// What waiting for a change of the screen came to.
+enum class ScreenWait {
+    Unsupported, ///< the backend cannot tell; returned at once
+    Nothing,
+    MayHaveChanged,
+};
 
 /// One way of capturing the screen. Initialised by its creator on the main thread, then used only
 /// by the capture thread until that thread has ended. Failures are logged and reported by the
@@ -29,6 +37,9 @@ public:
 
     /// False before `initialize` and once the screen has been lost.
     virtual bool isInitialized() const = 0;
+
+    /// Waits until the screen may have changed since the last `captureFrame`.
+    virtual ScreenWait waitForChange(std::chrono::milliseconds) { return ScreenWait::Unsupported; }
 };
 
 } // namespace corvane

@@ -16,6 +16,13 @@ constexpr int kNoMonitor = -1;
 constexpr int kLowestFps = 1;
 constexpr int kMaxFps = 120;
 
+/// Without a change of the screen, the backend is asked this often: not every server tells of a
+/// pointer that moved.
+constexpr std::chrono::milliseconds kMaxWait{100};
+
+/// How soon a request is noticed while the screen stands still.
+constexpr std::chrono::milliseconds kWaitSlice{20};
+
 struct Termination : QThread {
     using QThread::setTerminationEnabled;
 };
@@ -61,6 +68,7 @@ void ScreenCaptureManager::start(int fps) {
     m_targetFps = std::clamp(fps, kLowestFps, kMaxFps);
     m_running = true;
     m_looping = true;
+    m_lastFrame = {};
     m_framesDelivered = 0;
     connect(&m_thread, &QThread::started, this, &ScreenCaptureManager::captureLoop,
             Qt::DirectConnection);
@@ -75,7 +83,7 @@ void ScreenCaptureManager::stop() {
     {
         std::unique_lock lock(m_waitMutex);
         m_running = false;
-        m_stopRequested.notify_all();
+        m_changed.notify_all();
         if (!m_loopEnded.wait_for(lock, m_timings.joinLimit,
                                   [this] { return !m_looping || !m_thread.isRunning(); })) {
             spdlog::warn(
@@ -88,6 +96,14 @@ void ScreenCaptureManager::stop() {
     disconnect(&m_thread, &QThread::started, this, nullptr);
     m_framesDelivered = 0;
     spdlog::info("ScreenCaptureManager: stopped");
+}
+
+void ScreenCaptureManager::setPace(int fps) {
+    {
+        const std::lock_guard lock(m_waitMutex);
+        m_targetFps = std::clamp(fps, kLowestFps, kMaxFps);
+    }
+    m_changed.notify_all();
 }
 
 void ScreenCaptureManager::switchMonitor(int index) {
@@ -119,17 +135,47 @@ void ScreenCaptureManager::captureLoop() {
 /// False when the backend has lost its screen.
 bool ScreenCaptureManager::captureRound() {
     applyPendingMonitor();
-    const std::chrono::nanoseconds interval(static_cast<int64_t>(1.0 / m_targetFps * 1e9));
     const auto begin = Clock::now();
     const bool delivered = guarded([this] { return captureAndDeliver(); });
     if (!delivered && !m_backend->isInitialized()) {
         return false;
     }
-    const auto elapsed = Clock::now() - begin;
-    if (elapsed < interval) {
-        waitUnlessStopped(interval - elapsed);
+    if (delivered) {
+        m_lastFrame = begin;
+    } else {
+        waitForChange();
     }
+    waitForNextFrame();
     return true;
+}
+
+/// Returns early when something is requested meanwhile.
+void ScreenCaptureManager::waitForChange() {
+    const auto until = Clock::now() + kMaxWait;
+    const bool unmet = isRequestPending();
+    while (m_running && isRequestPending() == unmet && Clock::now() < until) {
+        switch (m_backend->waitForChange(kWaitSlice)) {
+        case ScreenWait::Unsupported:
+            waitUnlessStopped(frameInterval());
+            return;
+        case ScreenWait::Nothing:
+            break;
+        case ScreenWait::MayHaveChanged:
+            return;
+        }
+    }
+}
+
+/// Keeps the pace between frames, however it changes meanwhile.
+void ScreenCaptureManager::waitForNextFrame() {
+    std::unique_lock lock(m_waitMutex);
+    while (m_running && Clock::now() < m_lastFrame + frameInterval()) {
+        m_changed.wait_until(lock, m_lastFrame + frameInterval());
+    }
+}
+
+std::chrono::nanoseconds ScreenCaptureManager::frameInterval() const {
+    return std::chrono::nanoseconds(static_cast<int64_t>(1.0 / m_targetFps * 1e9));
 }
 
 bool ScreenCaptureManager::captureAndDeliver() {
@@ -199,7 +245,7 @@ void ScreenCaptureManager::reinitialize() {
 /// False when cut short by `stop`.
 bool ScreenCaptureManager::waitUnlessStopped(std::chrono::nanoseconds duration) {
     std::unique_lock lock(m_waitMutex);
-    return !m_stopRequested.wait_for(lock, duration, [this] { return !m_running; });
+    return !m_changed.wait_for(lock, duration, [this] { return !m_running; });
 }
 
 /// The result of `step`; false, with a log line and a report, when it throws.

@@ -52,6 +52,10 @@ public:
     /// limit is terminated.
     void stop();
 
+    /// Changes the pace, also of the frame that is being waited for. Limited to 1..120 frames per
+    /// second.
+    void setPace(int fps);
+
     /// Makes the capture thread switch monitors before its next frame. The last call wins.
     void switchMonitor(int index);
 
@@ -76,6 +80,10 @@ private:
     void applyPendingMonitor();
     void recover();
     void reinitialize();
+    void waitForChange();
+    void waitForNextFrame();
+    std::chrono::nanoseconds frameInterval() const;
+    bool isRequestPending() const { return m_keyframePending || m_pendingMonitor >= 0; }
     bool waitUnlessStopped(std::chrono::nanoseconds duration);
     bool guarded(const std::function<bool()>& step);
 
@@ -89,9 +97,10 @@ private:
     FrameCallback m_callback;
     std::mutex m_callbackMutex;
     const Timings m_timings;
-    Backoff m_recoveryBackoff; ///< capture thread only
+    Backoff m_recoveryBackoff;                         ///< capture thread only
+    std::chrono::steady_clock::time_point m_lastFrame; ///< capture thread only: when it was begun
     std::mutex m_waitMutex;
-    std::condition_variable m_stopRequested;
+    std::condition_variable m_changed; ///< stopped, or another pace
     std::condition_variable m_loopEnded;
     bool m_looping = false; ///< whether the capture loop still runs; guarded by `m_waitMutex`
 };

@@ -1,12 +1,21 @@
 #include "session/FramePipeline.h"
 
 #include "crypto/AesGcmCipher.h"
+#include "media/HalfSize.h"
+#include "session/StreamLevel.h"
 
 #include <spdlog/spdlog.h>
+
+#include <algorithm>
+#include <array>
 
 namespace corvane {
 
 namespace {
+
+/// Levels of the encoder for the first, second and later repetitions of a still picture. Behind the
+/// last one, text cannot be told from the original.
+constexpr std::array kRefinedLevels{26, 15, 5};
 
 bool isUsable(const CapturedFrame& frame) {
     if (frame.width <= 0 || frame.height <= 0 || frame.stride / 4 < frame.width) {
@@ -26,13 +35,17 @@ std::optional<ByteVector> FramePipeline::process(const CapturedFrame& frame) {
     if (!isUsable(frame)) {
         return std::nullopt;
     }
-    ByteVector nv12 = allocateNV12(frame.width, frame.height);
-    m_converter.convert(frame.data.data(), frame.width, frame.height, frame.stride, nv12.data(), 0);
-    if (!prepareEncoder(frame.width, frame.height)) {
+    PixelView pixels{frame.data.data(), frame.width, frame.height, frame.stride};
+    if (streamLevel(m_level).halfSize) {
+        pixels = halfSize(pixels, m_half);
+    }
+    ByteVector nv12 = allocateNV12(pixels.width, pixels.height);
+    m_converter.convert(pixels.bgra, pixels.width, pixels.height, pixels.stride, nv12.data(), 0);
+    if (!prepareEncoder(pixels.width, pixels.height)) {
         return std::nullopt;
     }
     const bool repeats = frame.keyframeRequested && m_packetIsKeyframe && nv12 == m_picture;
-    if (!repeats && !encode(frame, std::move(nv12))) {
+    if (!repeats && !encode(frame, pixels.width, pixels.height, std::move(nv12))) {
         return std::nullopt;
     }
     ByteVector sealed = m_cipher.encrypt(m_packet);
@@ -50,10 +63,11 @@ void FramePipeline::shutdown() {
     }
 }
 
-bool FramePipeline::encode(const CapturedFrame& frame, ByteVector nv12) {
+bool FramePipeline::encode(const CapturedFrame& frame, int width, int height, ByteVector nv12) {
     m_packetIsKeyframe = false;
-    auto packet = m_encoder->encode(nv12.data(), frame.width, frame.height, frame.timestamp,
-                                    frame.keyframeRequested);
+    m_encoder->setQuality(qualityOf(frame));
+    auto packet =
+        m_encoder->encode(nv12.data(), width, height, frame.timestamp, frame.keyframeRequested);
     if (!packet || packet->data.empty()) {
         return false;
     }
@@ -61,6 +75,14 @@ bool FramePipeline::encode(const CapturedFrame& frame, ByteVector nv12) {
     m_packet = std::move(packet->data);
     m_packetIsKeyframe = packet->isKeyframe;
     return true;
+}
+
+int FramePipeline::qualityOf(const CapturedFrame& frame) const {
+    if (frame.refinement == 0) {
+        return m_settings.encoderQuality + streamLevel(m_level).coarserBy;
+    }
+    const auto step = std::min(static_cast<size_t>(frame.refinement), kRefinedLevels.size()) - 1;
+    return std::min(m_settings.encoderQuality, kRefinedLevels[step]);
 }
 
 bool FramePipeline::prepareEncoder(int width, int height) {
@@ -79,6 +101,7 @@ bool FramePipeline::prepareEncoder(int width, int height) {
     config.fps = m_settings.captureFrameRate;
     config.cqLevel = m_settings.encoderQuality;
     config.speedPreset = m_settings.encoderSpeed;
+    config.profile = kInteractiveProfile;
     if (!m_encoder->initialize(config)) {
         spdlog::error("Failed to initialize AV1 encoder ({}x{})", width, height);
         return false;

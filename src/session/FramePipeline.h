@@ -5,6 +5,7 @@
 #include "media/IVideoEncoder.h"
 #include "session/StreamingSettings.h"
 
+#include <atomic>
 #include <memory>
 #include <optional>
 
@@ -25,17 +26,23 @@ public:
     /// same picture, that packet is sealed again: nothing is quicker to send after a loss.
     std::optional<ByteVector> process(const CapturedFrame& frame);
 
+    /// See `streamLevel`. Any thread; counts from the next frame on.
+    void setLevel(int level) { m_level = level; }
+
     /// Closes the encoder; the next frame opens it again.
     void shutdown();
 
 private:
     bool prepareEncoder(int width, int height);
-    bool encode(const CapturedFrame& frame, ByteVector nv12);
+    bool encode(const CapturedFrame& frame, int width, int height, ByteVector nv12);
+    int qualityOf(const CapturedFrame& frame) const;
 
     StreamingSettings m_settings;
     AesGcmCipher& m_cipher;
     FrameConverter m_converter;
     std::unique_ptr<IVideoEncoder> m_encoder;
+    std::atomic<int> m_level = 0;
+    ByteVector m_half;               ///< the frame at half its size
     ByteVector m_picture;            ///< the last one encoded
     ByteVector m_packet;             ///< its packet
     bool m_packetIsKeyframe = false; ///< a key frame that the encoder builds on

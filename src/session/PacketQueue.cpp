@@ -17,15 +17,15 @@ void PacketQueue::close() {
         const std::lock_guard lock(m_mutex);
         m_closed = true;
         m_packets.clear();
-        m_bytes = 0;
     }
     m_changed.notify_all();
 }
 
-bool PacketQueue::waitForRoom() {
+bool PacketQueue::waitForRoom(std::chrono::milliseconds timeout) {
     std::unique_lock lock(m_mutex);
-    m_changed.wait(lock, [this] { return m_closed || (m_flowing && m_bytes < m_capacity); });
-    return !m_closed;
+    const bool decided = m_changed.wait_for(
+        lock, timeout, [this] { return m_closed || (m_flowing && m_packets.empty()); });
+    return decided && !m_closed;
 }
 
 bool PacketQueue::push(ByteVector packet) {
@@ -33,7 +33,6 @@ bool PacketQueue::push(ByteVector packet) {
     if (m_closed) {
         return false;
     }
-    m_bytes += packet.size();
     m_packets.push_back(std::move(packet));
     return m_packets.size() == 1;
 }
@@ -47,7 +46,6 @@ std::optional<ByteVector> PacketQueue::pop() {
         }
         packet = std::move(m_packets.front());
         m_packets.pop_front();
-        m_bytes -= packet->size();
     }
     m_changed.notify_all();
     return packet;

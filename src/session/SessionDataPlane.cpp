@@ -65,7 +65,8 @@ void SessionDataPlane::startStreaming(const StreamingSettings& settings,
     spdlog::info("Starting streaming (role: {})", sessionRoleName(m_role));
     m_services.start(settings.clipboardSharing);
     if (m_role == SessionRole::Target) {
-        m_target = std::make_unique<TargetStream>(settings, m_link.cipher());
+        m_target = std::make_unique<TargetStream>(settings, m_link.cipher(),
+                                                  [this] { return m_link.load(); });
         connect(m_target.get(), &TargetStream::packetReady, this, &SessionDataPlane::sendVideo);
         if (!m_target->start(platform)) {
             m_target.reset();

@@ -88,6 +88,11 @@ bool SessionLink::waitForRoom() {
     return isOpen() && m_transport->waitUntilQueued(kFileQueueLimit) && isOpen();
 }
 
+LinkLoad SessionLink::load() const {
+    return m_transport ? LinkLoad{m_transport->bytesQueued(), m_transport->roundTripMilliseconds()}
+                       : LinkLoad{};
+}
+
 void SessionLink::countFrame() {
     if (m_monitor) {
         m_monitor->countFrame();

@@ -2,6 +2,7 @@
 
 #include "common/ByteVector.h"
 #include "session/ControlMessage.h"
+#include "session/LagGuard.h"
 #include "session/SessionState.h"
 #include "transport/ITransport.h"
 
@@ -70,6 +71,9 @@ public:
     /// Blocks until the transport's queue has room for more of a file; false when it never will.
     /// Received messages are handled during the call.
     bool waitForRoom();
+
+    /// Nothing is known without a transport.
+    LinkLoad load() const;
 
     void countFrame();
     void countDroppedFrame();

@@ -5,19 +5,35 @@
 #include "media/ScreenCaptureManager.h"
 #include "session/RepeatingScreen.h"
 #include "session/SessionPlatform.h"
+#include "session/StreamLevel.h"
 
 #include <QScopeGuard>
 #include <spdlog/spdlog.h>
 
+#include <algorithm>
 #include <optional>
 
 namespace corvane {
 
-TargetStream::TargetStream(StreamingSettings settings, AesGcmCipher& cipher, QObject* parent)
-    : QObject(parent), m_settings(std::move(settings)),
+namespace {
+
+constexpr std::chrono::milliseconds kLineInterval{10};
+constexpr std::chrono::milliseconds kInputLasts{500};
+
+} // namespace
+
+TargetStream::TargetStream(StreamingSettings settings, AesGcmCipher& cipher, LoadProbe load,
+                           QObject* parent)
+    : QObject(parent), m_settings(std::move(settings)), m_load(std::move(load)),
       m_pipeline(m_settings, cipher, std::make_unique<AV1Encoder>()) {
     connect(this, &TargetStream::packetsWaiting, this, &TargetStream::deliverPackets,
             Qt::QueuedConnection);
+    m_lineTimer.setTimerType(Qt::PreciseTimer);
+    m_lineTimer.setInterval(kLineInterval);
+    connect(&m_lineTimer, &QTimer::timeout, this, &TargetStream::watchLine);
+    m_inputTimer.setSingleShot(true);
+    m_inputTimer.setInterval(kInputLasts);
+    connect(&m_inputTimer, &QTimer::timeout, this, &TargetStream::setPace);
 }
 
 TargetStream::~TargetStream() {
@@ -31,7 +47,7 @@ bool TargetStream::start(const SessionPlatform& platform) {
         return false;
     }
     m_capture = std::make_unique<ScreenCaptureManager>(
-        std::make_unique<RepeatingScreen>(std::move(backend), m_requests));
+        std::make_unique<RepeatingScreen>(std::move(backend), m_requests, m_packets));
 
     auto inputBackend = platform.inputBackend();
     inputBackend->initialize();
@@ -50,10 +66,18 @@ bool TargetStream::start(const SessionPlatform& platform) {
 }
 
 void TargetStream::setFlowing(bool flowing) {
-    m_packets.setFlowing(flowing);
+    m_flowing = flowing;
+    m_lineTimer.stop();
+    if (flowing) {
+        watchLine();
+    } else {
+        m_packets.setFlowing(false);
+    }
 }
 
 void TargetStream::stop() {
+    m_lineTimer.stop();
+    m_inputTimer.stop();
     m_packets.close();
     if (m_capture) {
         m_capture->stop();
@@ -82,6 +106,11 @@ void TargetStream::switchMonitor(int index) {
 void TargetStream::applyInput(const InputEvent& event) {
     if (m_input) {
         m_input->processEvent(event);
+        const bool begins = !m_inputTimer.isActive();
+        m_inputTimer.start();
+        if (begins) {
+            setPace();
+        }
     }
 }
 
@@ -101,9 +130,6 @@ TargetStream::openBackend(const SessionPlatform& platform) const {
 }
 
 void TargetStream::onFrame(const CapturedFrame& frame) {
-    if (!m_packets.waitForRoom()) {
-        return;
-    }
     std::optional<ByteVector> sealed;
     {
         // Before the main thread can fail to send it and request another; also if making it fails.
@@ -127,6 +153,35 @@ void TargetStream::onFrame(const CapturedFrame& frame) {
 void TargetStream::deliverPackets() {
     while (const auto packet = m_packets.pop()) {
         Q_EMIT packetReady(*packet);
+        m_lag.onSent(std::chrono::steady_clock::now());
+    }
+    if (m_flowing) {
+        watchLine();
+        m_lineTimer.start();
+    }
+}
+
+void TargetStream::watchLine() {
+    const auto now = std::chrono::steady_clock::now();
+    const int level = m_lag.level();
+    m_packets.setFlowing(m_lag.update(now, m_load()));
+    if (m_lag.level() != level) {
+        spdlog::info("Stream level {} -> {} of {}, to suit the line", level, m_lag.level(),
+                     kMaxStreamLevel);
+        m_pipeline.setLevel(m_lag.level());
+        setPace();
+    }
+    if (m_lag.isIdle(now)) {
+        m_lineTimer.stop();
+    }
+}
+
+void TargetStream::setPace() {
+    const int wanted =
+        m_inputTimer.isActive() ? m_settings.frameRateWithInput : m_settings.captureFrameRate;
+    if (m_capture) {
+        m_capture->setPace(std::min(std::max(wanted, m_settings.captureFrameRate),
+                                    streamLevel(m_lag.level()).maxFramesPerSecond));
     }
 }
 

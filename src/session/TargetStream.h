@@ -4,12 +4,15 @@
 #include "input/InputEvent.h"
 #include "media/CapturedFrame.h"
 #include "session/FramePipeline.h"
+#include "session/LagGuard.h"
 #include "session/PacketQueue.h"
 #include "session/PictureRequests.h"
 #include "session/StreamingSettings.h"
 
 #include <QObject>
+#include <QTimer>
 
+#include <functional>
 #include <memory>
 
 namespace corvane {
@@ -28,16 +31,20 @@ class TargetStream : public QObject {
     Q_OBJECT
 
 public:
-    /// `cipher` is borrowed and must outlive the stream.
-    TargetStream(StreamingSettings settings, AesGcmCipher& cipher, QObject* parent = nullptr);
+    using LoadProbe = std::function<LinkLoad()>;
+
+    /// `cipher` is borrowed and must outlive the stream; `load` tells about the line that the
+    /// packets leave on.
+    TargetStream(StreamingSettings settings, AesGcmCipher& cipher, LoadProbe load,
+                 QObject* parent = nullptr);
     ~TargetStream() override;
 
     /// Opens the first capture backend that works and starts capturing. False, logged, when none
     /// does.
     bool start(const SessionPlatform& platform);
 
-    /// While off, the capture thread keeps the frame it has, so that the first picture of a screen
-    /// that never changes is not lost before the first packet can be sent. Off initially.
+    /// While off, no picture is taken, so that the first one of a screen that never changes is not
+    /// lost before the first packet can be sent. Off initially.
     void setFlowing(bool flowing);
 
     /// Ends capture and joins its thread. Packets not yet handed over are dropped.
@@ -62,8 +69,15 @@ private:
     std::unique_ptr<IScreenCaptureBackend> openBackend(const SessionPlatform& platform) const;
     void onFrame(const CapturedFrame& frame);
     void deliverPackets();
+    void watchLine();
+    void setPace();
 
     const StreamingSettings m_settings;
+    const LoadProbe m_load;
+    LagGuard m_lag;
+    QTimer m_lineTimer;  ///< runs while packets are on their way
+    QTimer m_inputTimer; ///< runs while the viewer's input keeps coming
+    bool m_flowing = false;
     FramePipeline m_pipeline; ///< capture thread only, while it runs
     PacketQueue m_packets;
     PictureRequests m_requests;

@@ -10,7 +10,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr size_t kCapacity = 10;
+std::future<bool> waitLong(PacketQueue& queue) {
+    return std::async(std::launch::async, [&queue] { return queue.waitForRoom(60s); });
+}
 
 bool isHeldBack(const std::future<bool>& waiting) {
     return waiting.wait_for(50ms) == std::future_status::timeout;
@@ -29,29 +31,28 @@ TEST(PacketQueueTest, KeepsTheOrderAndWakesOncePerBatch) {
     }
 }
 
-TEST(PacketQueueTest, HoldsTheProducerBackUntilThereIsFlowAndRoom) {
-    PacketQueue queue(kCapacity);
-    const auto wait = [&queue] {
-        return std::async(std::launch::async, [&queue] { return queue.waitForRoom(); });
-    };
-    auto room = wait();
+TEST(PacketQueueTest, HoldsTheProducerBackUntilThereIsFlowAndNothingWaits) {
+    PacketQueue queue;
+    auto room = waitLong(queue);
     EXPECT_TRUE(isHeldBack(room));
     queue.setFlowing(true);
     EXPECT_TRUE(room.get());
 
-    queue.push(ByteVector(2 * kCapacity)); // larger than everything, yet it has to pass
-    queue.push(ByteVector(kCapacity - 1));
-    room = wait();
+    queue.push({1});
+    queue.push({2});
+    EXPECT_FALSE(queue.waitForRoom(1ms));
+    room = waitLong(queue);
+    queue.pop();
     EXPECT_TRUE(isHeldBack(room));
     queue.pop();
     EXPECT_TRUE(room.get());
 }
 
 TEST(PacketQueueTest, ClosingReleasesTheProducerAndDropsEverything) {
-    PacketQueue queue(kCapacity);
+    PacketQueue queue;
     queue.setFlowing(true);
-    queue.push(ByteVector(kCapacity));
-    auto room = std::async(std::launch::async, [&queue] { return queue.waitForRoom(); });
+    queue.push({1});
+    auto room = waitLong(queue);
     EXPECT_TRUE(isHeldBack(room));
     queue.close();
     EXPECT_FALSE(room.get());

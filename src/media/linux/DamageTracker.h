@@ -20,6 +20,12 @@ public:
     DamageTracker(const DamageTracker&) = delete;
     DamageTracker& operator=(const DamageTracker&) = delete;
 
+    /// Whether the server tells what changes.
+    bool isReporting() const { return m_damage != XCB_NONE; }
+
+    /// Whether a change was noted since they were last taken.
+    bool hasChanged() const { return m_changed; }
+
     /// Notes the server's event if it is about changes.
     void noteEvent(const xcb_generic_event_t& event);
 

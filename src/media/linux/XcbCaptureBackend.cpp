@@ -10,6 +10,7 @@
 #include "x11/XcbEvent.h"
 #include "x11/Xwayland.h"
 
+#include <poll.h>
 #include <spdlog/spdlog.h>
 
 #include <algorithm>
@@ -130,11 +131,28 @@ std::unique_ptr<CapturedFrame> XcbCaptureBackend::captureFrame() {
     return makeFrame(std::move(changes));
 }
 
-void XcbCaptureBackend::drainEvents() {
+ScreenWait XcbCaptureBackend::waitForChange(std::chrono::milliseconds timeout) {
+    if (!m_initialized || !m_damage->isReporting()) {
+        return ScreenWait::Unsupported;
+    }
+    // Events may have been read together with an earlier reply, so look before waiting.
+    if (drainEvents()) {
+        return ScreenWait::MayHaveChanged;
+    }
+    pollfd socket{xcb_get_file_descriptor(m_connection->handle()), POLLIN, 0};
+    const bool readable = ::poll(&socket, 1, static_cast<int>(timeout.count())) > 0;
+    // A lost connection is readable too, and found out by the next capture.
+    return readable && (drainEvents() || !m_connection->isAlive()) ? ScreenWait::MayHaveChanged
+                                                                   : ScreenWait::Nothing;
+}
+
+/// Whether any of the events was about the picture.
+bool XcbCaptureBackend::drainEvents() {
     while (const XcbEvent event{xcb_poll_for_event(m_connection->handle())}) {
         m_damage->noteEvent(*event);
         m_geometryChanged = m_geometryChanged || m_watch->isMonitorChange(*event);
     }
+    return m_geometryChanged || m_damage->hasChanged();
 }
 
 /// Finds the monitor again after a change of the server's layout; false when it is gone.

@@ -24,6 +24,7 @@ public:
     void shutdown() override;
     std::unique_ptr<CapturedFrame> captureFrame() override;
     std::vector<MonitorInfo> monitors() override;
+    ScreenWait waitForChange(std::chrono::milliseconds timeout) override;
 
 private:
     /// The pointer when part of it is inside the frame, in the frame's coordinates.
@@ -32,7 +33,7 @@ private:
         FrameRect area;
     };
 
-    void drainEvents();
+    bool drainEvents();
     bool followMonitor();
     std::optional<VisibleCursor> visibleCursor() const;
     bool cursorChanged(const std::optional<VisibleCursor>& cursor) const;
