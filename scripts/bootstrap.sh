@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demonstration need and that are
-# missing, and nothing else. The cross-compiler and Wine come in only beside the Windows libraries,
-# what checks the sources and makes bare systems only with the argument "checks", what makes and
-# checks a Debian package only with "package".
+# missing, and nothing else. Usage: scripts/bootstrap.sh [checks|package]
+#
+# The cross-compiler and Wine are installed only where the Windows libraries are. "checks" adds what
+# checks the sources and makes bare systems, "package" what makes and checks a Debian package.
 set -euo pipefail
 
 packages=(
@@ -24,12 +25,15 @@ if [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
     # building the Windows program and running it
     packages+=(g++-mingw-w64-x86-64-posix wine wine64)
 fi
-if [ "${1:-}" = package ]; then
-    packages+=(appstream desktop-file-utils dpkg-dev lintian)
-fi
-if [ "${1:-}" = checks ]; then
-    packages+=(clang-tidy debootstrap shellcheck)
-fi
+case ${1:-} in
+'') ;;
+package) packages+=(appstream desktop-file-utils dpkg-dev lintian) ;;
+checks) packages+=(clang-tidy debootstrap shellcheck) ;;
+*)
+    echo "usage: scripts/bootstrap.sh [checks|package]" >&2
+    exit 2
+    ;;
+esac
 
 fail() {
     echo "bootstrap: $*" >&2

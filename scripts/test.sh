@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds and passes all tests. Usage: scripts/test.sh [dev|asan|tsan] [further arguments for ctest]
-# After a preset, "threads" builds and runs only the tests of what runs on more than one thread.
+# Builds and passes all tests.
+# Usage: scripts/test.sh [dev|asan|tsan] [threads] [<argument for ctest>...]
+# "threads" builds and runs only the tests of what runs on more than one thread.
 #
 # With the Windows libraries in place (see docs/building.md) that includes the Windows program: its
 # own tests under Wine, and sessions between it and the native one. The sanitizers stay native.
@@ -9,6 +10,13 @@ cd "$(dirname "$0")/.."
 
 preset=${1:-dev}
 [ $# -eq 0 ] || shift
+case $preset in
+dev | asan | tsan) ;;
+*)
+    echo "usage: scripts/test.sh [dev|asan|tsan] [threads] [<argument for ctest>...]" >&2
+    exit 2
+    ;;
+esac
 
 targets=(all)
 if [ "${1:-}" = threads ]; then

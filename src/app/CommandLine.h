@@ -5,7 +5,8 @@
 
 namespace corvane {
 
-/// What the command line asks for. Names are compared exactly; only the first occurrence counts.
+/// What the command line asks for. Options are compared exactly and only the first occurrence
+/// counts; a log level may be written in any case, and an unknown one means the default.
 struct CommandLine {
     enum class Action {
         Run,

@@ -4,7 +4,7 @@ namespace corvane {
 
 namespace {
 
-// Copying and writing a document recurse once per level; no peer of ours nests deeper than a few.
+// Copying and writing a document recurse once per level. Real messages have only a few levels.
 constexpr int kMaxDepth = 64;
 
 } // namespace

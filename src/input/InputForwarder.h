@@ -11,7 +11,7 @@
 namespace corvane {
 
 /// Passes received events to the input backend and thins out pointer moves: the first of a burst is
-/// injected at once and starts a window, at whose end the latest one that has arrived since is
+/// injected at once and starts an interval, at whose end the latest one that has arrived since is
 /// injected, so the last is never lost. Other events are injected at once, ahead of a waiting move;
 /// they carry their own position.
 ///
@@ -36,7 +36,7 @@ private:
     QTimer m_coalescingTimer;
     InputEvent m_pendingMove;
     bool m_hasPendingMove = false;
-    int32_t m_maxMouseRate = 60; ///< windows per second
+    int32_t m_maxMouseRate = 60; ///< intervals per second
 };
 
 } // namespace corvane

@@ -2,7 +2,7 @@
 
 namespace corvane {
 
-/// What of the program the system shall start by itself.
+/// Which parts of the program the system is to start by itself.
 struct IntegrationChoice {
     bool startAtLogon = false;
     bool runService = false;

@@ -34,7 +34,7 @@ QString sources() {
 TEST(Architecture, NamesOnlyWhatIsThere) {
     const QString document = QString::fromUtf8(test::contentOf(kRoot + u"docs/architecture.md"_s));
     const QString kNames =
-        u"\\b(?=\\w{5})[A-Z][a-z0-9]+(?:[A-Z][A-Za-z0-9]*)+\\b"_s; // of more than one word
+        u"\\b(?=\\w{5})[A-Z][a-z0-9]+(?:[A-Z][A-Za-z0-9]*)+\\b"_s; // two words or more
     const QSet<QString> named = matches(document, kNames);
     ASSERT_GT(named.size(), 40);
     QStringList missing;

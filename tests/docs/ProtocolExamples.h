@@ -19,15 +19,15 @@ struct Example {
     std::string name;
     QByteArray text;
 
-    /// Of "hex": what the digits stand for, without spaces and what follows a "#". Anything else in
-    /// it is a failure of the test.
+    /// Of a "hex" block: the bytes; spaces, and comments from "#" on, are skipped. Anything else
+    /// fails the test.
     ByteVector bytes() const;
 
-    /// Of "json". Text that is no JSON is a failure of the test.
+    /// Of a "json" block. Text that is not JSON fails the test.
     nlohmann::json json() const;
 };
 
-/// Of "http": a request and the answer to it, as four parts with empty lines between them.
+/// An "http" block: a request and the answer to it, as four parts with empty lines between them.
 struct HttpExchange {
     explicit HttpExchange(const Example& example);
 
@@ -39,7 +39,7 @@ struct HttpExchange {
     QByteArray answer;
 };
 
-/// The named blocks of a document, and those of the kinds above that lack a name, in their order.
+/// The named blocks of a document and, of the kinds above, those without a name, in order.
 std::vector<Example> examplesIn(const QByteArray& markdown);
 
 /// Compares one example with what the program sends or makes of it.

@@ -37,7 +37,7 @@ public:
     /// Creates the services, and the viewer's stream.
     void start() { plane.startStreaming({}, {}); }
 
-    /// The plaintext of a message that was sent; empty where there is none.
+    /// The plaintext of a message that was sent; empty if there is none.
     ByteVector sent(size_t index = 0) const {
         return index < transport.sent.size()
                    ? m_peer.decrypt(transport.sent[index].data(), transport.sent[index].size())

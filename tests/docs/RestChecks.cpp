@@ -57,8 +57,8 @@ void showDocumentedKey(nlohmann::json& body, const char* field, const QString& d
     }
 }
 
-/// Makes the call as the device and with the token of the example, and compares the request with
-/// the example's, and what becomes of its answer with `heard`, a signal as in `SignalLines`.
+/// Makes the call, as the viewer unless `call` changes that, and compares the request with the
+/// example's, and what becomes of its answer with `heard`, a signal as in `SignalLines`.
 void compare(const Example& example, const Call& call, const QString& heard) {
     const HttpExchange exchange(example);
     AnsweringServer server;
@@ -117,8 +117,10 @@ Check exchange(const Call& call, const QString& heard) {
     };
 }
 
+/// As the shared machine, asked by the viewer of the other examples.
 void acceptSession(Program& program) {
-    program.session.acceptSession(u"7f1c"_s, u"730164285"_s, {});
+    program.api.setClientId(u"730164285"_s);
+    program.session.acceptSession(u"7f1c"_s, u"482915637"_s, {});
 }
 
 } // namespace

@@ -69,7 +69,7 @@ TEST_F(LiveSessionTest, ATargetThatCrashesBringsTheViewerOfARelayedSessionHome) 
     ASSERT_TRUE(
         waitFor([&] { return m_live.server().isOnline(m_live.target().clientId()); }, kTimeout));
     EXPECT_TRUE(m_live.connectToTarget()) << m_live.error().toStdString();
-    // A request of the system's ends the program and, on the way, the session.
+    // The system asks the program to end, which closes the session on the way out.
     EXPECT_TRUE(m_live.target().stop());
     EXPECT_EQ(m_live.target().logLines(QStringLiteral("(reason: destructor_cleanup)")).size(), 1);
     const auto isLastWord = [](const devserver::Request& request) {

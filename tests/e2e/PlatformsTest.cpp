@@ -56,7 +56,8 @@ TEST_P(PlatformsTest, SeeAndDriveOneAnother) {
     for (const ClientProcess* client : {&m_live.viewer(), &m_live.target()}) {
         EXPECT_EQ(errors(*client), "");
     }
-    // A person ends the session; or the system the viewer's program and, on the way, the session.
+    // Either a person ends the session, or the system asks the viewer's program to end, which
+    // closes the session on the way out.
     const bool byKeyboard = GetParam().viewer == Platform::Linux;
     if (byKeyboard) {
         m_live.viewerDisplay().pressKey('d', {kKeyControl, kKeyShift});

@@ -48,14 +48,14 @@ protected:
         std::make_unique<InputForwarder>(std::make_unique<ScriptedBackend>(script));
 };
 
-TEST_F(InputForwarderTest, OfABurstTheFirstGoesAtOnceAndTheLatestAtTheWindowsEnd) {
+TEST_F(InputForwarderTest, OfABurstTheFirstGoesAtOnceAndTheLatestAtTheIntervalsEnd) {
     for (int i = 1; i <= 10; ++i) {
         process(i);
     }
     EXPECT_EQ(script.injected, Positions{1});
     ASSERT_TRUE(waitForInjections(2));
     EXPECT_EQ(script.injected, (Positions{1, 10}));
-    // The window closed without opening another one.
+    // That interval ended without starting another one.
     process(11);
     EXPECT_EQ(script.injected, (Positions{1, 10, 11}));
 }

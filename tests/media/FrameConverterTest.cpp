@@ -66,7 +66,7 @@ TEST(FrameConverterTest, MatchesTheArithmeticOverRandomImages) {
         SCOPED_TRACE(::testing::Message() << width << "x" << height);
         const int stride = width * 4 + padding;
         ByteVector bgra(static_cast<size_t>(stride) * static_cast<size_t>(height));
-        // Extreme samples are what rounding and limiting go wrong on.
+        // Rounding and clamping go wrong on extreme samples first.
         std::generate(bgra.begin(), bgra.end(), [&random] {
             const auto draw = random();
             return static_cast<uint8_t>(draw % 4 == 0 ? (draw & 4 ? 255 : 0) : draw >> 8);

@@ -56,7 +56,7 @@ class ScreenCaptureManagerTest : public ::testing::Test {
 protected:
     static constexpr int kFast = 120;
 
-    /// Has the scripted backend, the second time none.
+    /// The first manager takes the scripted backend, a second one gets none.
     void create(ScreenCaptureManager::Timings timings = {}) {
         manager = std::make_unique<ScreenCaptureManager>(std::move(backend), timings);
         QObject::connect(manager.get(), &ScreenCaptureManager::captureError, &context,

@@ -177,7 +177,7 @@ TEST_F(VideoCodecTest, DecoderSurvivesHostilePackets) {
     EXPECT_FALSE(decode({0x0a, 0x0a, 0x18, 0x3f, 0xff, 0xff, 0xff, 0xff, 0xc0, 0x00, 0x02, 0x00,
                          0x32, 0x04, 0x00, 0x00, 0x00, 0x00}));
     EXPECT_EQ(log.count("error|AV1Decoder: dav1d_send_data failed (error -34)"), 1);
-    // One more for a decoder that still held a picture back, then it must be itself again.
+    // One more in case the decoder holds a picture back; after that it must work again.
     decode(good);
     EXPECT_TRUE(decode(good));
 }

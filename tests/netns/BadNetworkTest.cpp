@@ -20,7 +20,8 @@ constexpr int kChatMessages = 500; ///< each way
 struct Network {
     const char* name;
     Conditions conditions = {};
-    /// What has to carry the session; a path that loses packets may or may not in its time.
+    /// What has to carry the session. Where packets get lost, peer to peer may not be up in time,
+    /// so the relay will do, too.
     const char* transport = "p2p";
     int connectionLimitMs = 5000;
     /// How long a picture may remain broken. A lost packet is noticed by one that follows it, at

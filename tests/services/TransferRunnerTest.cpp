@@ -30,7 +30,7 @@ protected:
                          [this] { m_said << u"(list again)"_s; });
     }
 
-    /// Keeps what asks for something and the starts of uploads, as "type path".
+    /// Keeps requests and the starts of uploads, as "type path".
     bool keep(const ByteVector& message) {
         ByteReader reader(ByteSpan(message).subspan(1));
         if (message[0] != static_cast<uint8_t>(Type::UploadChunk) &&

@@ -85,7 +85,7 @@ TEST_F(SessionPairTest, ManualAcceptanceWaitsForAKeyThatNeverComes) {
                          m_target->session->acceptSession(session, master, QString());
                      });
     m_viewer->session->initiateSession(m_target->id, u"123456"_s);
-    // The viewer has the target's key and meets the relay alone.
+    // The viewer has the target's key and goes to the relay by itself.
     ASSERT_TRUE(eventually([&] { return m_viewer->is(SessionState::Connected); }));
     EXPECT_TRUE(m_target->is(SessionState::Handshaking));
 

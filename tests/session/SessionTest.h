@@ -23,7 +23,7 @@ struct Device {
     explicit Device(devserver::DevServer& server)
         : Device(server.url(), server.registerDevice(), [] { return nullptr; }) {}
 
-    /// Of a server elsewhere, and able to connect directly.
+    /// With another server, and able to connect directly.
     Device(const QUrl& server, const devserver::Device& registered,
            std::function<std::unique_ptr<IPeerTransport>()> peerTransport) {
         SessionPlatform platform = createTestPlatform(machine);

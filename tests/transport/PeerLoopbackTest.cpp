@@ -15,7 +15,7 @@ namespace {
 
 using Messages = std::vector<std::pair<ChannelType, QByteArray>>;
 
-/// After which a connection counts as silent. The largest message shows nothing of its progress.
+/// After which a connection counts as silent; long, as nothing shows the progress of one message.
 constexpr int kInactivityTimeoutMs = 40'000;
 
 QByteArray randomBytes(size_t size) {

@@ -109,7 +109,7 @@ protected:
         return m_tree->findItems(name, Qt::MatchExactly).first();
     }
 
-    /// Selects files of the local folder, or that itself, which has no name.
+    /// Selects files of the local folder; an empty name stands for the folder itself.
     void selectLocal(const QStringList& names) const {
         auto* const view = m_dialog->findChild<QTreeView*>(u"localTree"_s);
         const auto* const model = qobject_cast<QFileSystemModel*>(view->model());

@@ -13,7 +13,7 @@ namespace corvane {
 
 namespace {
 
-/// Tells the event loop of a signal, which may arrive on any thread.
+/// Written to by the signal handler, which may run on any thread, to wake the event loop.
 int requestDescriptor = -1;
 
 void onRequest(int) {

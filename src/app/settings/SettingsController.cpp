@@ -9,7 +9,7 @@ namespace corvane {
 namespace {
 
 const auto kLanguage = QStringLiteral("general/language");
-/// What becomes of it in a settings file, which spells this one group its own way.
+/// How QSettings reads the key above back from a file, where the group "general" is special.
 const auto kLanguageReadBack = QStringLiteral("General/language");
 const auto kClientId = QStringLiteral("auth/clientId");
 const auto kDeviceSecret = QStringLiteral("auth/deviceSecret");

@@ -5,7 +5,7 @@
 namespace corvane {
 
 bool isCompanionServicePresent() {
-    // Any process can own a pipe of that name: it learns nothing of this one's identity.
+    // Any process can own a pipe of that name, so the other end must not learn who asks.
     constexpr DWORD kFlags = SECURITY_SQOS_PRESENT | SECURITY_ANONYMOUS;
     constexpr DWORD kNoSharing = 0;
     const HANDLE pipe = CreateFileW(L"\\\\.\\pipe\\CorvaneService", GENERIC_READ | GENERIC_WRITE,

@@ -11,7 +11,7 @@ struct MutexCalls {
 };
 
 /// A named mutex that marks its holder as the only one of its kind on this machine. The system
-/// gives the name free when the last process that holds it ends, however it does.
+/// frees the name when the last process that holds it ends, however that happens.
 class NamedMutex {
 public:
     explicit NamedMutex(const wchar_t* name, const MutexCalls& calls = {});
@@ -19,8 +19,8 @@ public:
     NamedMutex(const NamedMutex&) = delete;
     NamedMutex& operator=(const NamedMutex&) = delete;
 
-    /// False when another process holds the name. A system that refuses the mutex for any other
-    /// reason counts as true.
+    /// False when another process holds the name. True when the system refuses the mutex for any
+    /// other reason, which must not keep the program from starting.
     bool isFirst() const { return m_first; }
 
 private:

@@ -15,7 +15,7 @@ bool endsSession(UINT message, WPARAM word) {
     return message == WM_ENDSESSION && word != FALSE;
 }
 
-/// Ends the event loop at the end of the user's log-on session, which every window is told of.
+/// Ends the event loop when the user logs off, which the system tells every window.
 class SessionEndFilter : public QAbstractNativeEventFilter {
 public:
     bool nativeEventFilter(const QByteArray&, void* message, qintptr* result) override {
@@ -43,8 +43,9 @@ LRESULT CALLBACK holdSystem(HWND window, UINT message, WPARAM word, LPARAM data)
     return 0;
 }
 
-/// The system ends a process as soon as all of its windows have answered. The loop can only end
-/// after its own windows have, so one window in a thread of its own answers last, if at all.
+/// The system ends a process as soon as all of its windows have answered. The event loop's own
+/// windows have to answer before the loop can end, so a window on another thread holds its answer
+/// back until the process is gone.
 void runHoldingWindow() {
     WNDCLASSW type = {};
     type.lpfnWndProc = holdSystem;

@@ -17,8 +17,8 @@ QString autostartFolder() {
            QStringLiteral("/autostart");
 }
 
-/// The value of an Exec key: quoted, with the characters escaped that stay special in quotes, and
-/// the key's own percent codes escaped.
+/// The value of an Exec key: quoted, and escaped against the quotes, the string rules of desktop
+/// files and the key's own percent codes.
 QByteArray execValue(const QString& program) {
     QByteArray quoted;
     for (const char c : program.toUtf8()) {

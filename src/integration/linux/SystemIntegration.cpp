@@ -15,7 +15,7 @@ QFuture<bool> answer(bool value) {
     return QtFuture::makeReadyFuture(value);
 }
 
-/// An autostart entry of the user's own desktop: at once and without anyone's permission.
+/// Keeps an autostart entry in the user's own folder, which takes no time and no permission.
 class DesktopIntegration : public ISystemIntegration {
 public:
     QString startAtLogonText() const override {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr DWORD kMaxWaitMs = 30'000;
 
-/// The shell may hand the start to one of its extensions, which are COM objects.
+/// The shell may leave the start to one of its extensions, which are COM objects.
 class ComApartment {
 public:
     ComApartment()

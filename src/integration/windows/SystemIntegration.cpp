@@ -12,7 +12,7 @@ namespace corvane {
 
 namespace {
 
-/// The answer of `work`, from a thread that nobody waits for: the program may end meanwhile.
+/// The result of `work`, done on a thread that nobody joins: the program may end before it does.
 template <typename Work>
 QFuture<bool> inBackground(Work work) {
     QPromise<bool> promise;

@@ -4,7 +4,8 @@
 
 namespace corvane {
 
-/// A value that stays the same on this machine across reinstalls and tells nothing about it.
+/// A value that stays the same when the program is installed anew, and reveals nothing about the
+/// machine.
 class MachineFingerprint {
 public:
     /// This machine's fingerprint, 64 lowercase hexadecimal digits; empty, with a warning in the

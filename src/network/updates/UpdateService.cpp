@@ -92,7 +92,7 @@ void UpdateService::onDownloadProgress(qint64 receivedBytes, qint64 totalBytes) 
     }
 }
 
-// Goes to the file as it arrives, once it is enough for an archive.
+// Written as it arrives, but not before there is enough of it to be an archive.
 void UpdateService::onDownloadArrived() {
     m_unwritten += m_download->take();
     const bool enough = m_archive.isOpen() || m_unwritten.size() >= kMinArchiveBytes;
@@ -113,13 +113,13 @@ bool UpdateService::writeArchive() {
     return written;
 }
 
-// The folder may be open to other users: nothing that lies there already is written to.
+// Other users may be able to write to the folder, so a file that is already there is never reused.
 bool UpdateService::openArchive() {
     m_archive.remove();
     return m_archive.open(QIODevice::WriteOnly | QIODevice::NewOnly);
 }
 
-/// False when another one than the archive's stays there.
+/// So that what lies there after unpacking is the archive's. False when it cannot be removed.
 bool UpdateService::removeInstaller() {
     QFile::remove(m_installerPath);
     return !QFileInfo::exists(m_installerPath);

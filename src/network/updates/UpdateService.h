@@ -39,7 +39,7 @@ public:
     explicit UpdateService(QObject* parent = nullptr, UpdateOptions options = UpdateOptions());
     ~UpdateService() override;
 
-    /// What the last check that found an update has found; empty before.
+    /// Of the last update that was found; empty before there was one.
     QString latestVersion() const { return m_latestVersion; }
     QString downloadUrl() const { return m_downloadUrl; }
     QString releaseNotes() const { return m_releaseNotes; }

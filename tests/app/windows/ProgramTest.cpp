@@ -48,7 +48,7 @@ TEST(SingleInstanceGuard, HoldsTheProgramsMutex) {
     EXPECT_FALSE(mutexExists());
 }
 
-/// What the scheduler's tool was asked, and what it answers.
+/// What the scheduler's tool has been asked to do, and its answer.
 struct Scheduler {
     static inline QString program;
     static inline QStringList arguments;

@@ -24,7 +24,7 @@ public:
         return seen;
     }
 
-    /// The next line, which is forgotten; "nothing" when none comes.
+    /// Waits for the next line and takes it; "nothing" when none comes.
     std::string next() {
         const bool seen = QTest::qWaitFor([&] { return !m_lines.isEmpty(); });
         return seen ? m_lines.takeFirst().toStdString() : "nothing";

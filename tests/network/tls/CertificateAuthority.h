@@ -28,7 +28,7 @@ public:
     /// `expiry`: from now; the certificate is valid from an hour before it, or before now.
     Identity issue(const char* host, std::chrono::seconds expiry = std::chrono::hours(1)) const;
 
-    /// Vouched for by nobody.
+    /// Signed with its own key.
     static Identity selfSigned(const char* host);
 
 private:

@@ -29,7 +29,8 @@ QByteArray redirect(const QUrl& target) {
            "\r\n\r\n";
 }
 
-/// A process that trusts one authority, and what the parts of the program make of servers.
+/// A process that trusts one authority, and what the parts of the program say to servers'
+/// certificates.
 class Tls : public test::UpdateServiceTest {
 protected:
     Tls() { m_options.unpackCommand = test::copied; }

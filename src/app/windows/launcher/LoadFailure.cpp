@@ -10,7 +10,7 @@ namespace corvane {
 
 namespace {
 
-/// A DLL laid out in memory as for running it, of which nothing is run.
+/// A DLL that is laid out in memory as it would be to run, but whose code is not run.
 class MappedLibrary {
 public:
     explicit MappedLibrary(const std::wstring& path)
@@ -23,7 +23,7 @@ public:
     MappedLibrary(const MappedLibrary&) = delete;
     MappedLibrary& operator=(const MappedLibrary&) = delete;
 
-    /// Names as in the import table. None where the file is not one of ours to read.
+    /// Names as in the import table; none when the file cannot be read or is not for x64.
     std::vector<std::string> imports() const {
         std::vector<std::string> names;
         const auto* headers = imageHeaders();
@@ -80,8 +80,8 @@ std::wstring find(const std::wstring& name) {
     return path;
 }
 
-/// The system's error; 0 when the library loads. The parts of Windows that are no files of their
-/// own can be told by loading only.
+/// The system's error; 0 when the library loads. Some names in an import table stand for parts of
+/// Windows and not for files, so only loading tells whether they are there.
 DWORD loadError(const std::wstring& name) {
     const HMODULE library = LoadLibraryExW(name.c_str(), nullptr, 0);
     if (library == nullptr) {

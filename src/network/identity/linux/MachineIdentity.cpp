@@ -12,8 +12,8 @@ namespace {
 
 constexpr qsizetype kMachineIdLength = 32;
 
-// Until its first start is over, a system image may hold another text in the place of the ID; that
-// text would be the same on many machines.
+// Before its first start, a system image may hold a placeholder instead of an ID, which would be
+// the same on many machines.
 bool isMachineId(const QByteArray& text) {
     return text.size() == kMachineIdLength && std::all_of(text.begin(), text.end(), [](char c) {
                return std::isxdigit(static_cast<unsigned char>(c)) != 0;

@@ -6,7 +6,7 @@ namespace corvane {
 
 namespace {
 
-// PowerShell takes the typographic quotation marks for plain ones; doubled, each stands for itself.
+// PowerShell treats typographic quotation marks like plain ones; doubled, each stands for itself.
 QString quotable(QString text) {
     static const QRegularExpression kQuote(QStringLiteral("(['\u2018\u2019\u201a\u201b])"));
     return text.replace(kQuote, QStringLiteral("\\1\\1"));
