@@ -10,9 +10,11 @@
 #include <benchmark/benchmark.h>
 #include <dav1d/dav1d.h>
 
+#include <algorithm>
 #include <cstring>
 #include <map>
 #include <stdexcept>
+#include <thread>
 #include <vector>
 
 namespace corvane {
@@ -28,8 +30,9 @@ struct Clip {
     std::vector<ByteVector> packets;
 };
 
-EncoderConfig configOf(const Clip& clip) {
+EncoderConfig configOf(const Clip& clip, const char* profile = "") {
     EncoderConfig config;
+    config.profile = profile;
     config.width = clip.width;
     config.height = clip.height;
     return config;
@@ -107,7 +110,29 @@ std::vector<aom_image_t*> planarImages(const Clip& clip) {
     return images;
 }
 
+void openBareInteractiveEncoder(aom_codec_ctx_t& context, const EncoderConfig& config) {
+    aom_codec_enc_cfg_t settings{};
+    aom_codec_enc_config_default(aom_codec_av1_cx(), &settings, AOM_USAGE_REALTIME);
+    settings.g_threads = std::clamp(std::thread::hardware_concurrency(), 1U, 4U);
+    settings.g_w = static_cast<unsigned>(config.width);
+    settings.g_h = static_cast<unsigned>(config.height);
+    settings.g_timebase = {1, config.fps};
+    settings.g_error_resilient = 1;
+    settings.g_lag_in_frames = 0;
+    settings.rc_end_usage = AOM_Q;
+    settings.kf_max_dist = static_cast<unsigned>(config.keyframeInterval);
+    aom_codec_enc_init(&context, aom_codec_av1_cx(), &settings, 0);
+    aom_codec_control(&context, AOME_SET_CPUUSED, 9);
+    aom_codec_control(&context, AOME_SET_CQ_LEVEL, 35U);
+    aom_codec_control(&context, AV1E_SET_ROW_MT, 1U);
+    aom_codec_control(&context, AV1E_SET_TUNE_CONTENT, AOM_CONTENT_SCREEN);
+}
+
 void openBareEncoder(aom_codec_ctx_t& context, const EncoderConfig& config) {
+    if (isInteractive(config)) {
+        openBareInteractiveEncoder(context, config);
+        return;
+    }
     aom_codec_enc_cfg_t settings{};
     aom_codec_enc_config_default(aom_codec_av1_cx(), &settings, 0);
     settings.g_threads = 0;
@@ -129,9 +154,9 @@ void openBareEncoder(aom_codec_ctx_t& context, const EncoderConfig& config) {
     aom_codec_control(&context, AV1E_SET_TILE_ROWS, 1);
 }
 
-void encodeBare(const Clip& clip, const std::vector<aom_image_t*>& images) {
+void encodeBare(const Clip& clip, const char* profile, const std::vector<aom_image_t*>& images) {
     aom_codec_ctx_t context{};
-    openBareEncoder(context, configOf(clip));
+    openBareEncoder(context, configOf(clip, profile));
     for (size_t i = 0; i < images.size(); ++i) {
         aom_codec_encode(&context, images[i], static_cast<aom_codec_pts_t>(i), 1, 0);
         aom_codec_iter_t position = nullptr;
@@ -143,18 +168,18 @@ void encodeBare(const Clip& clip, const std::vector<aom_image_t*>& images) {
     aom_codec_destroy(&context);
 }
 
-void encode(benchmark::State& state) {
+void encode(benchmark::State& state, const char* profile) {
     const Clip& clip = clipOf(state);
     const auto images = planarImages(clip);
     const auto ours = [&] {
         AV1Encoder encoder;
-        encoder.initialize(configOf(clip));
+        encoder.initialize(configOf(clip, profile));
         for (const ByteVector& frame : clip.nv12) {
             benchmark::DoNotOptimize(
                 encoder.encode(frame.data(), clip.width, clip.height, 0, false));
         }
     };
-    sideBySide(state, kFrames, ours, [&] { encodeBare(clip, images); });
+    sideBySide(state, kFrames, ours, [&] { encodeBare(clip, profile, images); });
     for (aom_image_t* const image : images) {
         aom_img_free(image);
     }
@@ -209,7 +234,18 @@ void decode(benchmark::State& state) {
 }
 
 BENCHMARK(convert)->Name("Convert")->Arg(1080)->UseManualTime()->Iterations(500);
-BENCHMARK(encode)->Name("Encode")->Arg(720)->Arg(1080)->UseManualTime()->Iterations(5);
+BENCHMARK_CAPTURE(encode, Default, "")
+    ->Name("Encode")
+    ->Arg(720)
+    ->Arg(1080)
+    ->UseManualTime()
+    ->Iterations(5);
+BENCHMARK_CAPTURE(encode, Interactive, kInteractiveProfile)
+    ->Name("EncodeInteractive")
+    ->Arg(720)
+    ->Arg(1080)
+    ->UseManualTime()
+    ->Iterations(15);
 BENCHMARK(decode)->Name("Decode")->Arg(720)->Arg(1080)->UseManualTime()->Iterations(200);
 
 } // namespace

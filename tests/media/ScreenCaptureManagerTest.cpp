@@ -38,10 +38,14 @@ public:
     Frame captureFrame() override { return onCapture(); }
     std::vector<MonitorInfo> monitors() override { return found; }
     MonitorInfo currentMonitor() const override { return {.index = monitor, .name = {}}; }
+    ScreenWait waitForChange(std::chrono::milliseconds timeout) override { return onWait(timeout); }
     bool isInitialized() const override { return initialized; }
 
     std::function<Frame()> onCapture{[] {
         return newFrame();
+    }};
+    std::function<ScreenWait(std::chrono::milliseconds)> onWait{[](auto) {
+        return ScreenWait::Unsupported;
     }};
     std::function<bool()> onInitialize{[] {
         return true;
@@ -115,6 +119,34 @@ TEST_F(ScreenCaptureManagerTest, PacesAndDeliversTheSameFrameTwice) {
     EXPECT_TRUE(std::equal(called.begin(), called.begin() + 6, signalled.begin()));
     EXPECT_GE(times[5] - times[0], 5 * 40ms - 10ms);
     EXPECT_LT(times[5] - times[0], 3s);
+}
+
+TEST_F(ScreenCaptureManagerTest, AChangeIsCapturedAtOnceAndTheFasterPaceCountsAtOnce) {
+    std::atomic<bool> changed = false;
+    script.onCapture = [&] {
+        return changed.exchange(false) ? newFrame() : nullptr;
+    };
+    script.onWait = [&](std::chrono::milliseconds timeout) {
+        const auto end = std::chrono::steady_clock::now() + timeout;
+        while (!changed && std::chrono::steady_clock::now() < end) {
+            std::this_thread::sleep_for(1ms);
+        }
+        return changed ? ScreenWait::MayHaveChanged : ScreenWait::Nothing;
+    };
+    create();
+    manager->start(1);
+    const auto timeToFrame = [&](uint64_t count) {
+        const auto begin = std::chrono::steady_clock::now();
+        changed = true;
+        EXPECT_TRUE(waitForFrames(count));
+        return std::chrono::steady_clock::now() - begin;
+    };
+    EXPECT_LT(timeToFrame(1), 300ms) << "nothing was shown before";
+    changed = true;
+    std::this_thread::sleep_for(100ms);
+    EXPECT_EQ(manager->framesDelivered(), 1U) << "the pace holds";
+    manager->setPace(30);
+    EXPECT_LT(timeToFrame(2), 400ms);
 }
 
 TEST_F(ScreenCaptureManagerTest, LimitsTheRateStopsAtOnceAndRunsAgain) {

@@ -132,6 +132,37 @@ TEST_F(VideoCodecTest, KeyFramesComeWhenDueAndWhenForced) {
     EXPECT_EQ(encodeKinds(12, -1), "............");
 }
 
+TEST_F(VideoCodecTest, TheInteractiveProfileLooksAsGoodAndRefinesAStillPicture) {
+    constexpr int kWidth = 320;
+    constexpr int kHeight = 180;
+    const auto fidelityOf = [this](const ByteVector& packet, int step) {
+        const auto frame = decode(packet);
+        return frame ? psnr(sceneNv12(kWidth, kHeight, step).data(), frame->yPlane) : 0;
+    };
+    for (const int cqLevel : {23, 45}) {
+        EncoderConfig config = configFor(kWidth, kHeight);
+        config.cqLevel = cqLevel;
+        double fidelity[2] = {};
+        for (const bool interactive : {false, true}) {
+            config.profile = interactive ? kInteractiveProfile : "";
+            ASSERT_TRUE(encoder.initialize(config));
+            ASSERT_TRUE(decoder.initialize(0, 0));
+            for (int step = 0; step < 6; ++step) {
+                const auto packet = encode(step);
+                ASSERT_TRUE(packet);
+                EXPECT_EQ(packet->isKeyframe, step == 0);
+                fidelity[interactive] = fidelityOf(packet->data, step);
+            }
+        }
+        EXPECT_GE(fidelity[true], fidelity[false]) << cqLevel;
+    }
+    encoder.setQuality(5);
+    const auto packet = encode(5);
+    ASSERT_TRUE(packet);
+    EXPECT_FALSE(packet->isKeyframe);
+    EXPECT_GE(fidelityOf(packet->data, 5), 45);
+}
+
 TEST_F(VideoCodecTest, EncoderRefusesWhatItIsNotConfiguredFor) {
     const ByteVector frame = sceneNv12(64, 64, 0);
     EXPECT_FALSE(encoder.encode(frame.data(), 64, 64, 0, false));

@@ -75,6 +75,23 @@ protected:
     std::unique_ptr<CapturedFrame> frame;
 };
 
+TEST_F(XcbCaptureBackendTest, WaitsForTheServerToReportAChange) {
+    using namespace std::chrono_literals;
+    ASSERT_TRUE(backend.initialize(0));
+    while (capture()) {
+    }
+    EXPECT_EQ(backend.waitForChange(20ms), ScreenWait::Nothing);
+    painter->showWindow({100, 50, 60, 40}, kRed);
+    EXPECT_EQ(backend.waitForChange(10s), ScreenWait::MayHaveChanged);
+    EXPECT_EQ(backend.waitForChange(10s), ScreenWait::MayHaveChanged) << "it has not been seen yet";
+    EXPECT_TRUE(capture());
+    EXPECT_EQ(backend.waitForChange(20ms), ScreenWait::Nothing);
+    server.reset();
+    EXPECT_EQ(backend.waitForChange(10s), ScreenWait::MayHaveChanged);
+    EXPECT_FALSE(capture());
+    EXPECT_EQ(backend.waitForChange(10s), ScreenWait::Unsupported);
+}
+
 TEST_F(XcbCaptureBackendTest, DeliversPixelsAndOnlyWhenTheyChange) {
     painter->showWindow({100, 50, 60, 40}, kRed);
     ASSERT_TRUE(backend.initialize(0));
