@@ -21,7 +21,7 @@ constexpr int kMaxFps = 120;
 constexpr std::chrono::milliseconds kMaxWait{100};
 
 /// How soon a request is noticed while the screen stands still.
-constexpr std::chrono::milliseconds kWaitSlice{20};
+constexpr std::chrono::milliseconds kWaitSlice{50};
 
 struct Termination : QThread {
     using QThread::setTerminationEnabled;

@@ -25,7 +25,7 @@ constexpr double kCalm = 0.15;
 constexpr int kCalmPeriodsPerLevel = 3;
 
 /// After this long, whatever was sent has arrived or is lost.
-constexpr auto kIdleAfter = 5s;
+constexpr auto kIdleAfter = 1s;
 
 } // namespace
 
