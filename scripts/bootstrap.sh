@@ -28,7 +28,7 @@ if [ "${1:-}" = package ]; then
     packages+=(appstream desktop-file-utils dpkg-dev lintian)
 fi
 if [ "${1:-}" = checks ]; then
-    packages+=(clang-tidy debootstrap shellcheck)
+    packages+=(clang-tidy debian-archive-keyring debootstrap shellcheck)
 fi
 
 fail() {
