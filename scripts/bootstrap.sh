@@ -28,7 +28,7 @@ fi
 case ${1:-} in
 '') ;;
 package) packages+=(appstream desktop-file-utils dpkg-dev lintian) ;;
-checks) packages+=(clang-tidy debootstrap shellcheck) ;;
+checks) packages+=(clang-tidy debian-archive-keyring debootstrap shellcheck) ;;
 *)
     echo "usage: scripts/bootstrap.sh [checks|package]" >&2
     exit 2

@@ -49,14 +49,16 @@ mkdir -p "$packages/partial" "$cache/exchange"
 if [ ! -f "$base" ]; then
     echo "in-bare-debian: making a minimal Debian ($suite)"
     new=$(mktemp -d "$cache/new.XXXXXX")
-    trap 'rm -rf -- "$new"' EXIT
-    debootstrap --variant=minbase "$suite" "$new/root" "$(mirror)" >"$new/log" 2>&1 || {
+    # What debootstrap mounts may still be there when it fails.
+    trap 'rm -rf --one-file-system -- "$new"' EXIT
+    # Without Debian's keys it would only warn and run, as root, whatever the mirror sends.
+    debootstrap --force-check-gpg --variant=minbase "$suite" "$new/root" "$(mirror)" >"$new/log" 2>&1 || {
         tail -n 5 "$new/log" >&2
         fail "debootstrap failed"
     }
     tar --create --file "$new/base.tar" --directory "$new/root" --exclude=./var/cache/apt/archives/*.deb .
     mv "$new/base.tar" "$base"
-    rm -rf -- "$new"
+    rm -rf --one-file-system -- "$new"
     trap - EXIT
 fi
 

@@ -4,6 +4,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+# The folders in the package get the permissions that they get here.
+umask 022
 scripts/bootstrap.sh package
 cmake --preset package
 cmake --build --preset package

@@ -25,7 +25,8 @@ constexpr qint64 kBlockSize = 65'536;
 
 using ErrorKind = FileTransferError::Kind;
 
-/// A path from the peer for a log line, cut at the longest path that file systems accept.
+/// A path with names from the peer, or a text of its, for a log line, cut at the longest path that
+/// file systems accept.
 std::string loggable(const QString& path) {
     constexpr size_t kMaxPath = 4096;
     return loggableText(path.toStdString(), kMaxPath);
@@ -91,7 +92,7 @@ FileTransferService::FileTransferService(SendFunction send, qint64 maxMessageSiz
 FileTransferService::~FileTransferService() = default;
 
 void FileTransferService::requestListing(const QString& remotePath) {
-    spdlog::info("FileTransfer: requested listing for '{}'", remotePath.toStdString());
+    spdlog::info("FileTransfer: requested listing for '{}'", loggable(remotePath));
     m_expectedListings.append(remotePath);
     if (!send(fileTextMessage(FileMessageType::ListingRequest, remotePath))) {
         m_expectedListings.removeOne(remotePath);
@@ -101,7 +102,7 @@ void FileTransferService::requestListing(const QString& remotePath) {
 }
 
 void FileTransferService::requestDownload(const QString& remotePath, const QString& localPath) {
-    spdlog::info("FileTransfer: requested download of '{}'", remotePath.toStdString());
+    spdlog::info("FileTransfer: requested download of '{}'", loggable(remotePath));
     const Download replaced = std::exchange(m_download, {remotePath, localPath});
     ++m_expectedDownloads;
     if (!send(fileTextMessage(FileMessageType::DownloadRequest, remotePath))) {
@@ -125,7 +126,7 @@ void FileTransferService::uploadFile(const QString& localPath, const QString& re
     }
     const QString error = sendFile(file, remotePath);
     if (!error.isEmpty()) {
-        spdlog::warn("FileTransfer: upload of '{}' failed", localPath.toStdString());
+        spdlog::warn("FileTransfer: upload of '{}' failed", loggable(localPath));
         fail({ErrorKind::Upload, localPath, error.arg(localPath)});
         return;
     }
@@ -244,7 +245,7 @@ void FileTransferService::onDownloadResponse(ByteSpan body) {
               tr("Cannot write to local file: %1").arg(download.localPath)});
         return;
     }
-    spdlog::info("FileTransfer: download complete -> '{}'", download.localPath.toStdString());
+    spdlog::info("FileTransfer: download complete -> '{}'", loggable(download.localPath));
     Q_EMIT fileDownloadProgress(download.remotePath, 100);
     Q_EMIT fileDownloadComplete(download.localPath);
 }
@@ -350,7 +351,7 @@ QString FileTransferService::sendFile(QFile& file, const QString& remotePath) {
     if (!send(fileTextMessage(FileMessageType::UploadEnd, remotePath))) {
         return lost;
     }
-    spdlog::info("FileTransfer: upload complete '{}' ({} bytes)", remotePath.toStdString(), size);
+    spdlog::info("FileTransfer: upload complete '{}' ({} bytes)", loggable(remotePath), size);
     return {};
 }
 

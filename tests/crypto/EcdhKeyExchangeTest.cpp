@@ -96,6 +96,7 @@ TEST(EcdhKeyExchange, BadTokensFailAtTheirStep) {
         {"not base64", "!? this is not base64 ?!", badBase64},
         {"line break inside", valid.substr(0, 64) + "\n" + valid.substr(64), badBase64},
         {"line breaks inside", valid.substr(0, 64) + "\r\n" + valid.substr(64) + "\r\n", badBase64},
+        {"too long", std::string(516, 'A'), badBase64},
         {"not a key", "aGVsbG8gd29ybGQh", badDer},
         {"cut short", valid.substr(0, 100), badDer},
         {"other curve", tokenOf(OpensslPtr<EVP_PKEY>(EVP_EC_gen("P-384"))), badKey},

@@ -235,6 +235,17 @@ TEST_F(FileTransferServiceTest, BrokenOrUncalledForMessagesCostALogLineEach) {
     EXPECT_TRUE(m_log.once("warning|FileTransfer: upload truncated (4 < 7)"));
 }
 
+TEST_F(FileTransferServiceTest, AFileNameOfThePeersForgesNoLogLine) {
+    const QString source = createFile(u"two\nlines"_s, "x");
+    m_service.requestListing(source);
+    m_service.requestDownload(source, path(u"down\nloaded"_s));
+    m_service.uploadFile(source, path(u"up\nloaded"_s));
+    ASSERT_EQ(m_downloaded.count() + m_uploaded.count(), 2);
+    for (const std::string& line : m_log.lines()) {
+        EXPECT_EQ(line.find('\n'), std::string::npos) << line;
+    }
+}
+
 TEST_F(FileTransferServiceTest, AListingIsReadAsFarAsItGoes) {
     const DirectoryListing listing{u"p"_s, {{u"aé"_s, true, 0}, {u"b"_s, false, ~quint64{0}}}};
     const ByteVector whole = listingResponse(listing);

@@ -1,5 +1,8 @@
 #include "network/identity/PairingCodeGenerator.h"
 
+#include <algorithm>
+#include <array>
+#include <functional>
 #include <mutex>
 #include <random>
 
@@ -14,11 +17,21 @@ constexpr uint32_t kCodeCount = 900'000;
 // some codes would come up more often than others.
 constexpr uint32_t kRejectedBelow = static_cast<uint32_t>((uint64_t{1} << 32) % kCodeCount);
 
+// A single number for a seed could be told from two codes, by trying all 2^32 in an hour, and with
+// it every code to come.
+std::mt19937 seededGenerator() {
+    std::random_device device;
+    std::array<uint32_t, 16> numbers{};
+    std::ranges::generate(numbers, std::ref(device));
+    std::seed_seq seed(numbers.begin(), numbers.end());
+    return std::mt19937(seed);
+}
+
 } // namespace
 
 QString PairingCodeGenerator::next() {
     static std::mutex mutex;
-    static std::mt19937 generator{std::random_device()()};
+    static std::mt19937 generator = seededGenerator();
     const std::lock_guard lock(mutex);
     return draw([] { return static_cast<uint32_t>(generator()); });
 }

@@ -119,6 +119,14 @@ bool UpdateService::openArchive() {
     return m_archive.open(QIODevice::WriteOnly | QIODevice::NewOnly);
 }
 
+/// Another user may lay out a file, or a link to one, while the archive is being unpacked. What is
+/// this user's own, as the archive is, nobody can replace any more.
+bool UpdateService::isInstallerOwn() const {
+    const QFileInfo installer(m_installerPath);
+    return installer.isFile() && !installer.isSymLink() &&
+           installer.ownerId() == QFileInfo(m_archive.fileName()).ownerId();
+}
+
 /// So that what lies there after unpacking is the archive's. False when it cannot be removed.
 bool UpdateService::removeInstaller() {
     QFile::remove(m_installerPath);
@@ -164,7 +172,7 @@ void UpdateService::onUnpacked() {
     if (!inTime) {
         removeInstaller(); // it may have been half written
     }
-    if (!QFileInfo(m_installerPath).isFile()) {
+    if (!isInstallerOwn()) {
         fail(tr("Failed to extract installer from zip."));
         return;
     }

@@ -70,6 +70,7 @@ private:
     void onDownloadFinished(const QString& error);
     bool writeArchive();
     bool openArchive();
+    bool isInstallerOwn() const;
     bool removeInstaller();
     void unpack();
     void onUnpackError(QProcess::ProcessError error);

@@ -4,6 +4,8 @@
 
 #include <QDir>
 
+#include <unistd.h>
+
 namespace corvane {
 namespace {
 
@@ -58,6 +60,21 @@ TEST_F(UpdateServiceTest, DoesNotWriteThroughALinkLaidOutForIt) {
     download(zip("CorvaneSetup.exe"));
     EXPECT_EQ(content("precious"), "precious");
     EXPECT_EQ(content("CorvaneSetup.exe"), kInstaller);
+}
+
+TEST_F(UpdateServiceTest, DoesNotHandOverWhatWasLaidOutMeanwhile) {
+    write("foreign", "foreign");
+    m_options.unpackCommand = [](const QString&, const QString& folder) -> Command {
+        return {u"ln"_s, {u"-s"_s, folder + u"/foreign"_s, folder + u"/CorvaneSetup.exe"_s}};
+    };
+    EXPECT_EQ(download(QByteArray(2000, 'z')), kNoInstaller);
+    if (geteuid() == 0) {
+        m_options.unpackCommand = [](const QString&, const QString& folder) -> Command {
+            return {u"install"_s,
+                    {u"-o"_s, u"65534"_s, u"/dev/null"_s, folder + u"/CorvaneSetup.exe"_s}};
+        };
+        EXPECT_EQ(download(QByteArray(2000, 'z')), kNoInstaller) << "another user's file";
+    }
 }
 
 TEST_F(UpdateServiceTest, AnUnpackingThatHangsIsGivenUp) {
