@@ -1,6 +1,7 @@
 #include "app/settings/SettingsController.h"
 
 #include "app/settings/DeploymentConstants.h"
+#include "app/settings/PrivateSettings.h"
 #include "common/DisplayMode.h"
 #include "common/PartnerId.h"
 
@@ -34,7 +35,9 @@ QString wakeOnLanKey(const QString& partnerId) {
 
 SettingsController::SettingsController(QObject* parent)
     : QObject(parent), m_settings(QSettings::NativeFormat, QSettings::UserScope,
-                                  QStringLiteral("Corvane"), QStringLiteral("CorvaneClient")) {}
+                                  QStringLiteral("Corvane"), QStringLiteral("CorvaneClient")) {
+    keepPrivate(m_settings);
+}
 
 QString SettingsController::language() const {
     return m_settings.value(kLanguage, m_settings.value(kLanguageReadBack)).toString();
