@@ -3,6 +3,7 @@
 #include "session/StreamLevel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace corvane {
 
@@ -22,7 +23,7 @@ constexpr auto kShortestValidFor = 30s;
 constexpr auto kPeriod = 1000ms;
 constexpr double kStrained = 0.5; ///< share of a period without permission that costs a level
 constexpr double kCalm = 0.15;
-constexpr int kCalmPeriodsPerLevel = 3;
+constexpr int kMaxCalm = 48;
 
 /// After this long, whatever was sent has arrived or is lost.
 constexpr auto kIdleAfter = 1s;
@@ -82,15 +83,31 @@ void LagGuard::judge(Time now) {
     const double strain = m_blockedTime / period;
     m_periodBegin = now;
     m_blockedTime = {};
+    m_calmPeriods = strain > kCalm ? 0 : m_calmPeriods + 1;
     if (strain > kStrained) {
-        m_calmPeriods = 0;
-        m_level = std::min(m_level + 1, kMaxStreamLevel);
-    } else if (strain > kCalm) {
-        m_calmPeriods = 0;
-    } else if (++m_calmPeriods >= kCalmPeriodsPerLevel) {
-        m_calmPeriods = 0;
-        m_level = std::max(m_level - 1, 0);
+        giveUpMore();
+    } else if (m_calmPeriods >= m_calmNeeded) {
+        takeBack();
     }
+}
+
+/// What was taken back too early is tried again only after twice the time: every change of size
+/// costs a key frame.
+void LagGuard::giveUpMore() {
+    if (std::exchange(m_tookBack, false)) {
+        m_calmNeeded = std::min(2 * m_calmNeeded, kMaxCalm);
+    }
+    m_level = std::min(m_level + 1, kMaxStreamLevel);
+}
+
+void LagGuard::takeBack() {
+    m_calmPeriods = 0;
+    if (m_level == 0) {
+        m_calmNeeded = kMinCalm;
+        return;
+    }
+    m_tookBack = true;
+    --m_level;
 }
 
 } // namespace corvane

@@ -36,6 +36,10 @@ private:
     bool isBlocked(Time now, const LinkLoad& load);
     void noteRoundTrip(Time now, double milliseconds);
     void judge(Time now);
+    void giveUpMore();
+    void takeBack();
+
+    static constexpr int kMinCalm = 3;
 
     using Milliseconds = std::chrono::duration<double, std::milli>;
 
@@ -50,6 +54,8 @@ private:
     Time m_periodBegin{};
     Milliseconds m_blockedTime{}; ///< in this period
     int m_calmPeriods = 0;        ///< one after another
+    int m_calmNeeded = kMinCalm;  ///< of them before something is taken back
+    bool m_tookBack = false;      ///< the last step was one upwards
     int m_level = 0;
 };
 
