@@ -37,16 +37,17 @@ bool PictureRecovery::onMessage(uint64_t counter) {
     return awaited;
 }
 
-void PictureRecovery::onPicture(uint64_t counter, bool keyframe) {
-    if (keyframe) {
-        m_losses.forgetBefore(counter);
-        m_whole = true;
-    }
+void PictureRecovery::onKeyframe(uint64_t counter) {
+    m_losses.forgetBefore(counter);
+    m_keyframe = counter;
+    m_whole = true;
 }
 
-void PictureRecovery::onDecodeFailure() {
-    miss();
-    look();
+void PictureRecovery::onDecodeFailure(uint64_t counter) {
+    if (counter >= m_keyframe) {
+        miss();
+        look();
+    }
 }
 
 void PictureRecovery::miss() {

@@ -36,11 +36,12 @@ public:
     /// repetition or too late to be of any use.
     bool onMessage(uint64_t counter);
 
-    /// The message with this counter yielded a picture.
-    void onPicture(uint64_t counter, bool keyframe);
+    /// A key frame has arrived in the message with this counter and is about to be decoded.
+    void onKeyframe(uint64_t counter);
 
-    /// A packet yielded no picture.
-    void onDecodeFailure();
+    /// The packet in the message with this counter yields no picture. This may turn out when later
+    /// ones have arrived; it is of no importance then if a key frame is among them.
+    void onDecodeFailure(uint64_t counter);
 
 Q_SIGNALS:
     void keyframeNeeded();
@@ -54,6 +55,7 @@ private:
     LossDetector m_losses;
     QTimer m_timer;
     LossDetector::Time m_notBefore; ///< earliest time of the next request
+    uint64_t m_keyframe = 0;        ///< counter of the last key frame
     bool m_running = false;
     bool m_whole = false;
 };

@@ -11,6 +11,7 @@
 #include <array>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 namespace corvane {
 
@@ -153,7 +154,7 @@ void SessionDataPlane::receiveVideo(const QByteArray& sealed) {
     if (m_role != SessionRole::Master) {
         return;
     }
-    const ByteVector packet = m_link.open(sealed);
+    ByteVector packet = m_link.open(sealed);
     if (packet.empty()) {
         spdlog::warn("Failed to decrypt video data ({} bytes)", sealed.size());
         m_link.countDroppedFrame();
@@ -166,11 +167,7 @@ void SessionDataPlane::receiveVideo(const QByteArray& sealed) {
     if (!m_viewer->onMessage(counter)) {
         return;
     }
-    if (auto frame = m_viewer->decode(counter, packet)) {
-        Q_EMIT frameDecoded(std::move(frame));
-    } else {
-        m_link.countDroppedFrame();
-    }
+    m_viewer->receive(counter, std::move(packet));
 }
 
 void SessionDataPlane::onInputEvent(ByteSpan message) {
@@ -221,6 +218,10 @@ void SessionDataPlane::createViewer() {
     m_viewer = std::make_unique<ViewerStream>();
     connect(m_viewer.get(), &ViewerStream::keyframeNeeded, this,
             [this] { sendControl(ControlTag::KeyframeRequest, {}); });
+    connect(m_viewer.get(), &ViewerStream::pictureDecoded, this, &SessionDataPlane::frameDecoded);
+    // Whoever takes the pictures counts them; the overtaken ones were received as well.
+    connect(m_viewer.get(), &ViewerStream::pictureOvertaken, &m_link, &SessionLink::countFrame);
+    connect(m_viewer.get(), &ViewerStream::packetDropped, &m_link, &SessionLink::countDroppedFrame);
 }
 
 void SessionDataPlane::updateFlow() {

@@ -26,22 +26,22 @@ TEST_F(PictureRecoveryTest, AsksUntilAKeyFrameIsThere) {
     EXPECT_GE(clock.elapsed(), 45);
 
     m_recovery.onMessage(0);
-    m_recovery.onPicture(0, true);
+    m_recovery.onKeyframe(0);
     EXPECT_FALSE(m_requests.wait(150));
 
     m_requests.clear();
     m_recovery.onMessage(2); // 1 is lost
-    m_recovery.onPicture(2, false);
     ASSERT_TRUE(m_requests.wait());
     for (int i = 0; i < 100; ++i) {
-        m_recovery.onDecodeFailure();
+        m_recovery.onDecodeFailure(2);
     }
     EXPECT_EQ(m_requests.count(), 1) << "asks no more than once in an interval";
     m_recovery.onMessage(5); // 3 and 4 are lost, but this one starts afresh
-    m_recovery.onPicture(5, true);
+    m_recovery.onKeyframe(5);
+    m_recovery.onDecodeFailure(2); // known late, and made good by now
     m_requests.clear();
     EXPECT_FALSE(m_requests.wait(150));
-    m_recovery.onDecodeFailure();
+    m_recovery.onDecodeFailure(5);
     EXPECT_EQ(m_requests.count(), 1);
     m_recovery.stop();
     EXPECT_FALSE(m_requests.wait(150));
