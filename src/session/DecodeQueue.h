@@ -20,9 +20,9 @@ namespace corvane {
 class DecodeQueue {
 public:
     struct Limits {
-        /// Five seconds of the fastest display mode, so that what a stalled network delivers at
-        /// once fits as well.
-        size_t packets = 120;
+        /// Seconds of video, so that what a stalled network delivers at once fits as well. More
+        /// would let a decoder that is too slow fall further behind.
+        size_t packets = 60;
         /// Room for the largest packet, even if others wait.
         size_t bytes = 32 * 1024 * 1024;
     };

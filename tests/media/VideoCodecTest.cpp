@@ -1,7 +1,9 @@
 #include "media/AV1Decoder.h"
 #include "media/AV1Encoder.h"
+#include "media/AV1Packet.h"
 #include "media/AV1Tuning.h"
 #include "media/FrameConverter.h"
+#include "support/Bytes.h"
 #include "support/DesktopScene.h"
 #include "support/LogCapture.h"
 
@@ -73,6 +75,7 @@ TEST_F(VideoCodecTest, RoundTripKeepsThePictureAlsoWhenTheDecoderGoesOnAndEnds) 
             const auto packet = encode(step);
             ASSERT_TRUE(packet);
             EXPECT_EQ(packet->isKeyframe, step == 0);
+            EXPECT_EQ(isKeyframePacket(packet->data), step == 0);
             EXPECT_EQ(std::pair(packet->pts, packet->dts), std::pair(int64_t{step}, int64_t{step}));
             frames.push_back(decode(packet->data, packet->timestamp));
             ASSERT_TRUE(frames.back());
@@ -203,6 +206,15 @@ TEST_F(VideoCodecTest, DecoderSurvivesHostilePackets) {
         }
         decode(bytes);
     }
+    // Key frames are looked for before anything is decoded, so a sanitizer must see each cut.
+    for (size_t cut = 0; cut < good.size(); ++cut) {
+        const auto cutShort = std::make_unique<uint8_t[]>(cut);
+        std::copy_n(good.data(), cut, cutShort.get());
+        isKeyframePacket({cutShort.get(), cut});
+    }
+    ByteVector units = test::hexBytes("1200 2a01ff 2e0801aa"); // a delimiter and metadata
+    appendBytes(units, good);
+    EXPECT_TRUE(isKeyframePacket(units));
     // A still picture's sequence header for 65536 x 65536 pixels, and a frame of it.
     log.clear();
     EXPECT_FALSE(decode({0x0a, 0x0a, 0x18, 0x3f, 0xff, 0xff, 0xff, 0xff, 0xc0, 0x00, 0x02, 0x00,
