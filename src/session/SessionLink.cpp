@@ -64,11 +64,24 @@ SendResult SessionLink::send(ChannelType channel, const ByteVector& message) {
     return sealed.empty() ? SendResult::SealingFailed : sendSealed(channel, sealed);
 }
 
+SendResult SessionLink::sendBulk(const ByteVector& message) {
+    if (const auto reason = obstacle()) {
+        return *reason;
+    }
+    const ByteVector sealed = m_cipher->encrypt(message);
+    return sealed.empty() ? SendResult::SealingFailed
+                          : sent(m_transport->sendBulk(sealed.data(), sealed.size()), sealed);
+}
+
 SendResult SessionLink::sendSealed(ChannelType channel, const ByteVector& sealed) {
     if (const auto reason = obstacle()) {
         return *reason;
     }
-    if (!m_transport->send(channel, sealed.data(), sealed.size())) {
+    return sent(m_transport->send(channel, sealed.data(), sealed.size()), sealed);
+}
+
+SendResult SessionLink::sent(bool accepted, const ByteVector& sealed) {
+    if (!accepted) {
         return SendResult::Refused;
     }
     if (m_monitor) {
@@ -89,7 +102,7 @@ bool SessionLink::waitForRoom() {
 }
 
 LinkLoad SessionLink::load() const {
-    return m_transport ? LinkLoad{m_transport->bytesQueued(), m_transport->roundTripMilliseconds()}
+    return m_transport ? LinkLoad{m_transport->videoQueued(), m_transport->roundTripMilliseconds()}
                        : LinkLoad{};
 }
 

@@ -65,6 +65,9 @@ public:
     /// no gap in the counters.
     SendResult send(ChannelType channel, const ByteVector& message);
 
+    /// The same for a control message that may wait for all others.
+    SendResult sendBulk(const ByteVector& message);
+
     /// Sends a message that is already sealed.
     SendResult sendSealed(ChannelType channel, const ByteVector& sealed);
 
@@ -81,6 +84,7 @@ public:
 private:
     /// Why nothing can be sent; no value when the link is open.
     std::optional<SendResult> obstacle() const;
+    SendResult sent(bool accepted, const ByteVector& sealed);
     void measureLatency();
 
     const std::unique_ptr<AesGcmCipher> m_cipher;

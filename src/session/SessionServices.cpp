@@ -78,8 +78,7 @@ void SessionServices::sendClipboard(const QByteArray& data) {
 }
 
 bool SessionServices::sendFileTransfer(const ByteVector& message) {
-    return m_link.send(ChannelType::Control, controlMessage(ControlTag::FileTransfer, message)) ==
-           SendResult::Sent;
+    return m_link.sendBulk(controlMessage(ControlTag::FileTransfer, message)) == SendResult::Sent;
 }
 
 bool SessionServices::sendChat(const ByteVector& message) {

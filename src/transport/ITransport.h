@@ -46,8 +46,17 @@ public:
     /// was refused; it is then lost.
     virtual bool send(ChannelType channel, const uint8_t* data, size_t size) = 0;
 
-    /// Bytes accepted by `send` that have not left this process yet.
+    /// The same for a control message that may wait: other messages overtake it where one
+    /// connection carries both channels. Such messages keep their own order.
+    virtual bool sendBulk(const uint8_t* data, size_t size) {
+        return send(ChannelType::Control, data, size);
+    }
+
+    /// Bytes accepted that have not been handed to the network yet, as far as that can be told.
     virtual qint64 bytesQueued() const = 0;
+
+    /// The part of them that is video, at most.
+    virtual qint64 videoQueued() { return bytesQueued(); }
 
     /// Blocks, without running an event loop, until at most `atMost` bytes are queued. Messages
     /// received in the meantime are still delivered, so two peers that both wait cannot deadlock.

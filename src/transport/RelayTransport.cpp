@@ -2,7 +2,7 @@
 
 #include "common/ByteViews.h"
 #include "common/JsonFields.h"
-#include "transport/SocketRoundTrip.h"
+#include "transport/SocketLine.h"
 
 #include <spdlog/spdlog.h>
 
@@ -16,6 +16,9 @@ namespace {
 constexpr qint64 kSocketReadBuffer = 1024 * 1024;
 constexpr qint64 kReadPiece = 64 * 1024;
 constexpr qsizetype kOwnBlockSize = 16 * 1024;
+
+// What the socket may hold so that the system always finds something to send.
+constexpr qint64 kSocketShare = 16 * 1024;
 
 // Far more than is ever queued on a working connection: beyond it the relay has stopped reading.
 constexpr qint64 kMaxUnsent = 64 * 1024 * 1024;
@@ -33,6 +36,7 @@ RelayTransport::RelayTransport(QObject* parent, std::chrono::milliseconds reconn
     QObject::connect(&m_socket, &QTcpSocket::disconnected, this,
                      &RelayTransport::onSocketDisconnected);
     QObject::connect(&m_socket, &QTcpSocket::readyRead, this, &RelayTransport::onSocketReadyRead);
+    QObject::connect(&m_socket, &QTcpSocket::bytesWritten, this, &RelayTransport::feedSocket);
     QObject::connect(&m_socket, &QTcpSocket::errorOccurred, this, &RelayTransport::onSocketError);
     QObject::connect(&m_reconnectTimer, &QTimer::timeout, this, &RelayTransport::attemptReconnect);
 }
@@ -72,6 +76,10 @@ void RelayTransport::disconnect() {
     }
     spdlog::info("RelayTransport: disconnecting from {}:{}", m_host, m_port);
     // What was sent last, such as the release of a key, should still arrive.
+    while (!m_queue.isEmpty() && m_socket.bytesToWrite() < kSocketShare) {
+        feedSocket();
+        m_socket.flush();
+    }
     m_socket.flush();
     m_socket.disconnectFromHost();
     if (m_socket.state() != QAbstractSocket::UnconnectedState) {
@@ -84,6 +92,17 @@ bool RelayTransport::isConnected() const {
 }
 
 bool RelayTransport::send(ChannelType channel, const uint8_t* data, size_t size) {
+    const auto urgency = channel == ChannelType::Video ? RelaySendQueue::Urgency::Video
+                                                       : RelaySendQueue::Urgency::Control;
+    return enqueue(urgency, channel, data, size);
+}
+
+bool RelayTransport::sendBulk(const uint8_t* data, size_t size) {
+    return enqueue(RelaySendQueue::Urgency::Bulk, ChannelType::Control, data, size);
+}
+
+bool RelayTransport::enqueue(RelaySendQueue::Urgency urgency, ChannelType channel,
+                             const uint8_t* data, size_t size) {
     if (!isConnected()) {
         spdlog::warn("RelayTransport::send: not connected");
         return false;
@@ -92,40 +111,63 @@ bool RelayTransport::send(ChannelType channel, const uint8_t* data, size_t size)
         spdlog::error("RelayTransport::send: payload too large ({} > {})", size, kRelayMaxPayload);
         return false;
     }
-    if (m_socket.bytesToWrite() >= kMaxUnsent) {
-        spdlog::warn("RelayTransport::send: relay takes no data, {} bytes unsent",
-                     m_socket.bytesToWrite());
+    const qint64 unsent = m_queue.bytes() + m_socket.bytesToWrite();
+    if (unsent >= kMaxUnsent) {
+        spdlog::warn("RelayTransport::send: relay takes no data, {} bytes unsent", unsent);
         return false;
     }
-    const QByteArray frame = relayFrame(channel, data, size);
-    // The socket writes each queued byte array with a system call of its own, so copying small
-    // frames into one buffer is cheaper.
-    const qint64 written = frame.size() < kOwnBlockSize
-                               ? m_socket.write(frame.constData(), frame.size())
-                               : m_socket.write(frame);
-    if (written != frame.size()) {
-        spdlog::error("RelayTransport::send: write failed, wrote {}/{} bytes", written,
-                      frame.size());
-        return false;
+    m_queue.push(urgency, relayFrame(channel, data, size));
+    feedSocket();
+    return isConnected();
+}
+
+void RelayTransport::feedSocket() {
+    while (!m_queue.isEmpty() && m_socket.bytesToWrite() < kSocketShare) {
+        const QByteArray frame = *m_queue.pop();
+        // The socket writes each queued byte array with a system call of its own, so copying small
+        // frames into one buffer is cheaper.
+        const qint64 written = frame.size() < kOwnBlockSize
+                                   ? m_socket.write(frame.constData(), frame.size())
+                                   : m_socket.write(frame);
+        if (written != frame.size()) {
+            spdlog::error("RelayTransport::send: write failed, wrote {}/{} bytes", written,
+                          frame.size());
+            return;
+        }
     }
-    return true;
+}
+
+/// What the socket and the system still hold.
+qint64 RelayTransport::bytesGiven() const {
+    return m_socket.bytesToWrite() +
+           (isConnected() ? socketUnsentBytes(m_socket.socketDescriptor()) : 0);
 }
 
 qint64 RelayTransport::bytesQueued() const {
-    return m_socket.bytesToWrite();
+    return m_queue.bytes() + bytesGiven();
+}
+
+qint64 RelayTransport::videoQueued() {
+    return m_queue.videoBytes(bytesGiven());
 }
 
 bool RelayTransport::waitUntilQueued(qint64 atMost) {
-    while (isConnected() && bytesQueued() > atMost) {
-        if (!m_socket.waitForBytesWritten(static_cast<int>(m_stallTimeout.count()))) {
+    // What the system holds leaves by itself, and cannot be waited for.
+    const auto waiting = [this] {
+        return m_queue.bytes() + m_socket.bytesToWrite();
+    };
+    while (isConnected() && waiting() > atMost) {
+        if (m_socket.bytesToWrite() > 0 &&
+            !m_socket.waitForBytesWritten(static_cast<int>(m_stallTimeout.count()))) {
             break;
         }
+        feedSocket();
         // If this is called from one of the socket's signals, the socket emits no further ones.
         if (m_socket.bytesAvailable() > 0) {
             onSocketReadyRead();
         }
     }
-    return isConnected() && bytesQueued() <= atMost;
+    return isConnected() && waiting() <= atMost;
 }
 
 std::optional<double> RelayTransport::roundTripMilliseconds() const {
@@ -139,12 +181,14 @@ void RelayTransport::onSocketConnected() {
     clearReceived();
     // Video latency matters more than packet count.
     m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    limitSocketBacklog(m_socket.socketDescriptor());
     sendJoin();
     Q_EMIT connected();
 }
 
 void RelayTransport::onSocketDisconnected() {
     spdlog::info("RelayTransport: disconnected from {}:{}", m_host, m_port);
+    m_queue.clear();
     clearReceived();
     Q_EMIT disconnected();
     scheduleReconnect();

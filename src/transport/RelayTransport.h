@@ -4,6 +4,7 @@
 #include "common/ByteVector.h"
 #include "transport/ITransport.h"
 #include "transport/RelayFrameParser.h"
+#include "transport/RelaySendQueue.h"
 
 #include <QAbstractSocket>
 #include <QTcpSocket>
@@ -19,6 +20,10 @@ namespace corvane {
 /// Set the session ID, `connect`, wait for `connected`, `send`, `disconnect`. A connection that
 /// fails or drops is retried automatically, up to three times after each success. Every new
 /// connection joins the session again and emits `connected` again.
+///
+/// One connection carries both channels, so messages queue here, by urgency, and the system gets
+/// the next one only when it has nearly nothing left to send: a control message waits for the rest
+/// of one frame at most.
 class RelayTransport : public ITransport {
     Q_OBJECT
 
@@ -40,7 +45,9 @@ public:
     void disconnect() override;
     bool isConnected() const override;
     bool send(ChannelType channel, const uint8_t* data, size_t size) override;
+    bool sendBulk(const uint8_t* data, size_t size) override;
     qint64 bytesQueued() const override;
+    qint64 videoQueued() override;
     bool waitUntilQueued(qint64 atMost) override;
 
     /// Between this machine and the relay node, as measured by the operating system.
@@ -54,6 +61,10 @@ private Q_SLOTS:
     void attemptReconnect();
 
 private:
+    bool enqueue(RelaySendQueue::Urgency urgency, ChannelType channel, const uint8_t* data,
+                 size_t size);
+    void feedSocket();
+    qint64 bytesGiven() const;
     void openSocket();
     void sendJoin();
     bool readPiece();
@@ -63,6 +74,7 @@ private:
     void scheduleReconnect();
 
     QTcpSocket m_socket;
+    RelaySendQueue m_queue;
     QTimer m_reconnectTimer;
     RelayFrameParser m_parser;
     ByteVector m_piece;  ///< what was read last

@@ -1,4 +1,4 @@
-#include "transport/SocketRoundTrip.h"
+#include "transport/SocketLine.h"
 
 #include <winsock2.h>
 // Needs the types of the header above.
@@ -16,6 +16,14 @@ std::optional<double> socketRoundTripMilliseconds(qintptr socketDescriptor) {
         return std::nullopt;
     }
     return info.RttUs / 1000.0;
+}
+
+qint64 socketUnsentBytes(qintptr) {
+    return 0;
+}
+
+void limitSocketBacklog(qintptr) {
+    // Windows sizes the backlog by the measured line itself.
 }
 
 } // namespace corvane

@@ -1,4 +1,4 @@
-#include "transport/SocketRoundTrip.h"
+#include "transport/SocketLine.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -7,7 +7,7 @@
 namespace corvane::test {
 namespace {
 
-TEST(SocketRoundTrip, IsMeasuredOnAConnectionAndNowhereElse) {
+TEST(SocketLine, IsMeasuredOnAConnectionAndNowhereElse) {
     QTcpServer server;
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
     QTcpSocket socket;
