@@ -1,41 +1,24 @@
 #include "services/FileTransferService.h"
 
 #include "common/ByteViews.h"
-#include "common/LoggableText.h"
-#include "common/MonotonicClock.h"
 #include "services/AtomicFile.h"
 #include "services/FileMessage.h"
+#include "services/LocalFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopedValueRollback>
 #include <QStorageInfo>
 #include <spdlog/spdlog.h>
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace corvane {
 
 namespace {
 
-constexpr qint64 kBlockSize = 65'536;
-
 using ErrorKind = FileTransferError::Kind;
-
-/// A path with names from the peer, or a text of its, for a log line, cut at the longest path that
-/// file systems accept.
-std::string loggable(const QString& path) {
-    constexpr size_t kMaxPath = 4096;
-    return loggableText(path.toStdString(), kMaxPath);
-}
-
-/// Devices and pipes are refused: reading one may never end.
-bool openOrdinaryFile(QFile& file) {
-    return QFileInfo(file.fileName()).isFile() && file.open(QIODevice::ReadOnly);
-}
 
 QList<FileEntry> mountedVolumes() {
     const auto capacityOf = [](const QStorageInfo& volume) {
@@ -80,10 +63,6 @@ std::optional<QString> bodyText(FileMessageType type, ByteSpan body) {
     return text;
 }
 
-int clampedToInt(qint64 value) {
-    return static_cast<int>(std::min<qint64>(value, std::numeric_limits<int>::max()));
-}
-
 } // namespace
 
 FileTransferService::FileTransferService(SendFunction send, qint64 maxMessageSize, QObject* parent)
@@ -92,7 +71,7 @@ FileTransferService::FileTransferService(SendFunction send, qint64 maxMessageSiz
 FileTransferService::~FileTransferService() = default;
 
 void FileTransferService::requestListing(const QString& remotePath) {
-    spdlog::info("FileTransfer: requested listing for '{}'", loggable(remotePath));
+    spdlog::info("FileTransfer: requested listing for '{}'", loggablePath(remotePath));
     m_expectedListings.append(remotePath);
     if (!send(fileTextMessage(FileMessageType::ListingRequest, remotePath))) {
         m_expectedListings.removeOne(remotePath);
@@ -102,7 +81,7 @@ void FileTransferService::requestListing(const QString& remotePath) {
 }
 
 void FileTransferService::requestDownload(const QString& remotePath, const QString& localPath) {
-    spdlog::info("FileTransfer: requested download of '{}'", loggable(remotePath));
+    spdlog::info("FileTransfer: requested download of '{}'", loggablePath(remotePath));
     const Download replaced = std::exchange(m_download, {remotePath, localPath});
     ++m_expectedDownloads;
     if (!send(fileTextMessage(FileMessageType::DownloadRequest, remotePath))) {
@@ -114,23 +93,52 @@ void FileTransferService::requestDownload(const QString& remotePath, const QStri
 }
 
 void FileTransferService::uploadFile(const QString& localPath, const QString& remotePath) {
-    QFile file(localPath);
-    if (m_uploading) {
+    if (m_outgoing) {
         fail({ErrorKind::Upload, localPath,
               tr("Another upload is still running: %1").arg(localPath)});
         return;
     }
-    if (!openOrdinaryFile(file)) {
+    auto upload = std::make_unique<OutgoingUpload>(
+        localPath, remotePath, [this](const ByteVector& message) { return send(message); }, m_room);
+    if (!upload->open()) {
         fail({ErrorKind::Upload, localPath, tr("Cannot open local file: %1").arg(localPath)});
         return;
     }
-    const QString error = sendFile(file, remotePath);
-    if (!error.isEmpty()) {
-        spdlog::warn("FileTransfer: upload of '{}' failed", loggable(localPath));
-        fail({ErrorKind::Upload, localPath, error.arg(localPath)});
-        return;
+    connect(upload.get(), &OutgoingUpload::progressed, this,
+            [this, remotePath](int percent) { Q_EMIT fileUploadProgress(remotePath, percent); });
+    connect(upload.get(), &OutgoingUpload::transferred, this, &FileTransferService::transferStats);
+    connect(upload.get(), &OutgoingUpload::finished, this, [this] {
+        endUpload();
+        Q_EMIT fileUploadComplete();
+    });
+    connect(upload.get(), &OutgoingUpload::failed, this, &FileTransferService::onUploadFailed);
+    m_outgoing = std::move(upload);
+    m_outgoing->start();
+}
+
+void FileTransferService::cancelUpload() {
+    if (m_outgoing) {
+        spdlog::info("FileTransfer: upload of '{}' cancelled",
+                     loggablePath(m_outgoing->localPath()));
+        endUpload();
     }
-    Q_EMIT fileUploadComplete();
+}
+
+void FileTransferService::onUploadFailed(OutgoingUpload::Failure failure) {
+    const QString path = m_outgoing->localPath();
+    spdlog::warn("FileTransfer: upload of '{}' failed", loggablePath(path));
+    endUpload();
+    fail({ErrorKind::Upload, path,
+          failure == OutgoingUpload::Failure::ConnectionLost
+              ? tr("The connection was lost while sending: %1").arg(path)
+              : tr("Cannot read local file: %1").arg(path)});
+}
+
+/// May be called from one of the upload's own signals.
+void FileTransferService::endUpload() {
+    m_outgoing->disconnect(this);
+    m_outgoing->stop();
+    m_outgoing.release()->deleteLater();
 }
 
 void FileTransferService::handleMessage(ByteSpan payload) {
@@ -162,7 +170,7 @@ void FileTransferService::onListingRequest(ByteSpan body) {
     if (!path) {
         return;
     }
-    spdlog::info("FileTransfer: listing directory '{}'", loggable(*path));
+    spdlog::info("FileTransfer: listing directory '{}'", loggablePath(*path));
     // A bare Windows drive would mean this program's current folder there, not the drive's root.
     const QDir directory(path->endsWith(u':') ? *path + u'/' : *path);
     if (!path->isEmpty() && !directory.exists()) {
@@ -184,8 +192,8 @@ void FileTransferService::onListingResponse(ByteSpan body) {
         logMalformed(FileMessageType::ListingResponse);
         return;
     }
-    spdlog::info("FileTransfer: received listing for '{}' ({} entries)", loggable(listing->path),
-                 listing->entries.size());
+    spdlog::info("FileTransfer: received listing for '{}' ({} entries)",
+                 loggablePath(listing->path), listing->entries.size());
     m_expectedListings.removeOne(listing->path);
     Q_EMIT directoryListed(listing->path, listing->entries);
 }
@@ -195,7 +203,7 @@ void FileTransferService::onDownloadRequest(ByteSpan body) {
     if (!path) {
         return;
     }
-    spdlog::info("FileTransfer: serving download request for '{}'", loggable(*path));
+    spdlog::info("FileTransfer: serving download request for '{}'", loggablePath(*path));
     QFile file(*path);
     if (!openOrdinaryFile(file)) {
         sendError(QStringLiteral("Cannot open file: ") + *path);
@@ -245,7 +253,7 @@ void FileTransferService::onDownloadResponse(ByteSpan body) {
               tr("Cannot write to local file: %1").arg(download.localPath)});
         return;
     }
-    spdlog::info("FileTransfer: download complete -> '{}'", loggable(download.localPath));
+    spdlog::info("FileTransfer: download complete -> '{}'", loggablePath(download.localPath));
     Q_EMIT fileDownloadProgress(download.remotePath, 100);
     Q_EMIT fileDownloadComplete(download.localPath);
 }
@@ -256,7 +264,7 @@ void FileTransferService::onUploadStart(ByteSpan body) {
         logMalformed(FileMessageType::UploadStart);
         return;
     }
-    spdlog::info("FileTransfer: receiving upload '{}' ({} bytes)", loggable(announcement->path),
+    spdlog::info("FileTransfer: receiving upload '{}' ({} bytes)", loggablePath(announcement->path),
                  announcement->size);
     m_incoming = std::make_unique<UploadSpool>(announcement->path, announcement->size);
     m_strayChunkLogged = false;
@@ -293,13 +301,13 @@ void FileTransferService::onUploadEnd(ByteSpan) {
         return;
     }
     spdlog::info("FileTransfer: received upload -> '{}' ({} bytes)",
-                 loggable(upload->destination()), upload->receivedSize());
+                 loggablePath(upload->destination()), upload->receivedSize());
 }
 
 void FileTransferService::onError(ByteSpan body) {
     ByteReader reader(body);
     const QString text = readFileText(reader).value_or(QString());
-    spdlog::warn("FileTransfer: remote error: {}", loggable(text));
+    spdlog::warn("FileTransfer: remote error: {}", loggablePath(text));
     const FileTransferError error =
         partnerError(text, m_expectedListings,
                      m_expectedDownloads > 0 ? std::optional(m_download.remotePath) : std::nullopt);
@@ -323,46 +331,6 @@ bool FileTransferService::send(const ByteVector& message) const {
 
 void FileTransferService::sendError(const QString& text) const {
     send(fileTextMessage(FileMessageType::Error, text));
-}
-
-/// An empty text, or an error for the user with %1 in place of the local path.
-QString FileTransferService::sendFile(QFile& file, const QString& remotePath) {
-    const QScopedValueRollback running(m_uploading, true);
-    const qint64 size = file.size();
-    const QString lost = tr("The connection was lost while sending: %1");
-    if (!send(uploadStart({remotePath, static_cast<quint64>(size)}))) {
-        return lost;
-    }
-    const auto startedAt = static_cast<qint64>(monotonicMilliseconds());
-    ByteVector block(kBlockSize);
-    for (qint64 sent = 0; sent < size;) {
-        const qint64 count =
-            file.read(reinterpret_cast<char*>(block.data()), std::min(kBlockSize, size - sent));
-        if (count <= 0) {
-            return tr("Cannot read local file: %1");
-        }
-        const ByteSpan content = ByteSpan(block).first(static_cast<size_t>(count));
-        if ((m_pacing && !m_pacing()) || !send(uploadChunk(sent, content))) {
-            return lost;
-        }
-        sent += count;
-        reportProgress(remotePath, sent, size, startedAt);
-    }
-    if (!send(fileTextMessage(FileMessageType::UploadEnd, remotePath))) {
-        return lost;
-    }
-    spdlog::info("FileTransfer: upload complete '{}' ({} bytes)", loggable(remotePath), size);
-    return {};
-}
-
-void FileTransferService::reportProgress(const QString& remotePath, qint64 sent, qint64 size,
-                                         qint64 startedAt) {
-    Q_EMIT fileUploadProgress(remotePath, static_cast<int>(sent * 100 / size));
-    const qint64 elapsed =
-        std::max<qint64>(static_cast<qint64>(monotonicMilliseconds()) - startedAt, 1);
-    const qint64 bytesPerSecond = sent * 1000 / elapsed;
-    const qint64 secondsLeft = bytesPerSecond > 0 ? (size - sent) / bytesPerSecond : 0;
-    Q_EMIT transferStats(sent, clampedToInt(bytesPerSecond), clampedToInt(secondsLeft));
 }
 
 } // namespace corvane

@@ -2,6 +2,7 @@
 
 #include "services/FileEntry.h"
 #include "services/FileTransferError.h"
+#include "services/OutgoingUpload.h"
 #include "services/SendFunction.h"
 #include "services/UploadSpool.h"
 
@@ -26,17 +27,14 @@ class FileTransferService : public QObject {
     Q_OBJECT
 
 public:
-    /// Blocks until the send queue has room for another block; false when it never will.
-    using PacingFunction = std::function<bool()>;
-
     /// `send` may be empty; messages are then dropped. `maxMessageSize` is the max size, in bytes,
     /// of a message that `send` accepts.
     FileTransferService(SendFunction send, qint64 maxMessageSize, QObject* parent = nullptr);
     ~FileTransferService() override;
 
-    /// Called before every block of an upload, so that a large file is not read into the send queue
-    /// all at once. Received messages may be handled during the call.
-    void setPacing(PacingFunction pacing) { m_pacing = std::move(pacing); }
+    /// Asked before every block of an upload whether the connection has room for it, so that a
+    /// large file does not fill the send queue.
+    void setRoom(OutgoingUpload::RoomFunction room) { m_room = std::move(room); }
 
     /// The answer arrives as `directoryListed`. An empty path asks for the volumes.
     void requestListing(const QString& remotePath);
@@ -45,9 +43,13 @@ public:
     /// previous one; if that is still answered, its file goes to the new `localPath` as well.
     void requestDownload(const QString& remotePath, const QString& localPath);
 
-    /// Sends the whole file before it returns; the event loop does not run meanwhile. The size is
-    /// taken when the file is opened: anything appended later is not sent.
+    /// Sends the file while the event loop runs; a small one is sent before this returns. The size
+    /// is taken when the file is opened: anything appended later is not sent.
     void uploadFile(const QString& localPath, const QString& remotePath);
+
+    /// Abandons the upload under way, if there is one, without a signal. The peer keeps nothing of
+    /// it.
+    void cancelUpload();
 
     /// One received message, without the control channel's tag; logged and dropped when malformed.
     void handleMessage(ByteSpan payload);
@@ -82,17 +84,17 @@ private:
     void fail(const FileTransferError& error);
     bool send(const ByteVector& message) const;
     void sendError(const QString& text) const;
-    QString sendFile(QFile& file, const QString& remotePath);
-    void reportProgress(const QString& remotePath, qint64 sent, qint64 size, qint64 startedAt);
+    void onUploadFailed(OutgoingUpload::Failure failure);
+    void endUpload();
 
     const SendFunction m_send;
     const qint64 m_maxMessageSize;
-    PacingFunction m_pacing;
-    bool m_uploading = false;
-    QStringList m_expectedListings;          ///< not yet answered
-    Download m_download;                     ///< the latest one requested
-    int m_expectedDownloads = 0;             ///< not yet answered
-    std::unique_ptr<UploadSpool> m_incoming; ///< the peer's upload to this machine
+    OutgoingUpload::RoomFunction m_room;
+    std::unique_ptr<OutgoingUpload> m_outgoing; ///< null while no upload is under way
+    QStringList m_expectedListings;             ///< not yet answered
+    Download m_download;                        ///< the latest one requested
+    int m_expectedDownloads = 0;                ///< not yet answered
+    std::unique_ptr<UploadSpool> m_incoming;    ///< the peer's upload to this machine
     bool m_strayChunkLogged = false;
 };
 

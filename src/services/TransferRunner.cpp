@@ -91,11 +91,7 @@ void TransferRunner::startUpload() {
     reportCurrent(tr("Uploading %1 of %2: %3"), m_uploads);
     Q_EMIT transferStarting();
     const FileTransfer transfer = m_uploads.current();
-    const QPointer<TransferRunner> self(this);
     m_service->uploadFile(transfer.localPath, transfer.remotePath);
-    if (self) {
-        Q_EMIT uploadEnded();
-    }
 }
 
 void TransferRunner::downloadComplete(const QString& localPath) {
@@ -112,6 +108,7 @@ void TransferRunner::downloadComplete(const QString& localPath) {
 void TransferRunner::uploadComplete() {
     if (m_uploads.isUnderWay()) {
         m_uploads.finishCurrent();
+        Q_EMIT uploadEnded();
         startNextLater();
     }
 }
@@ -122,11 +119,13 @@ void TransferRunner::requestFailed(const FileTransferError& error) {
         break;
     case FileTransferError::Kind::RefusedUpload:
         m_uploads.clear();
+        Q_EMIT uploadEnded();
         break;
     case FileTransferError::Kind::Download:
     case FileTransferError::Kind::Upload:
     case FileTransferError::Kind::Unknown:
         stop();
+        Q_EMIT uploadEnded();
         break;
     }
 }

@@ -41,8 +41,8 @@ public:
 Q_SIGNALS:
     void batchStarted();
     void statusChanged(QString text);
-    /// For an upload, the event loop does not run from here until `uploadEnded`.
     void transferStarting();
+    /// One way or another.
     void uploadEnded();
     void uploadsComplete();
 

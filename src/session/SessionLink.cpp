@@ -13,10 +13,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kLatencyInterval{1000};
 
-// How much of a file the send queue may hold: enough to keep a gigabit link busy for 30 ms while
-// the next block is read. Input and pictures wait behind it, and behind what the transport itself
-// holds.
-constexpr qint64 kFileQueueLimit = 4 * 1024 * 1024;
+// How much of a file the send queue may hold: enough to keep a gigabit link busy for the 2 ms until
+// the next block is sent.
+constexpr qint64 kFileQueueLimit = 256 * 1024;
 
 } // namespace
 
@@ -97,8 +96,8 @@ std::optional<SendResult> SessionLink::obstacle() const {
     return m_transport ? std::nullopt : std::optional(SendResult::NoTransport);
 }
 
-bool SessionLink::waitForRoom() {
-    return isOpen() && m_transport->waitUntilQueued(kFileQueueLimit) && isOpen();
+bool SessionLink::hasRoom() const {
+    return !isOpen() || m_transport->bytesQueued() <= kFileQueueLimit;
 }
 
 LinkLoad SessionLink::load() const {

@@ -71,9 +71,9 @@ public:
     /// Sends a message that is already sealed.
     SendResult sendSealed(ChannelType channel, const ByteVector& sealed);
 
-    /// Blocks until the transport's queue has room for more of a file; false when it never will.
-    /// Received messages are handled during the call.
-    bool waitForRoom();
+    /// Whether more of a file may be sent. True as well when nothing can be sent at all: trying
+    /// shows it.
+    bool hasRoom() const;
 
     /// Nothing is known without a transport.
     LinkLoad load() const;

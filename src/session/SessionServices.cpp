@@ -20,7 +20,7 @@ void SessionServices::start(bool clipboardSharing) {
     m_fileTransfer = std::make_unique<FileTransferService>(
         [this](const ByteVector& message) { return sendFileTransfer(message); },
         static_cast<qint64>(SessionLink::kMaxControlMessage) - kTagSize);
-    m_fileTransfer->setPacing([this] { return m_link.waitForRoom(); });
+    m_fileTransfer->setRoom([this] { return m_link.hasRoom(); });
     spdlog::info("File transfer service initialized");
     m_chat = std::make_unique<ChatService>(
         [this](const ByteVector& message) { return sendChat(message); });

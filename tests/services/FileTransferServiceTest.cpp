@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QStorageInfo>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -169,16 +170,40 @@ TEST_F(FileTransferServiceTest, AnUploadThatIsInterruptedEndsWithAnError) {
         EXPECT_EQ(m_uploaded.count(), 0);
         EXPECT_FALSE(QFile::exists(target));
         m_connected = true;
-        m_service.setPacing({});
+        m_service.setRoom({});
     };
     interruptBy([&] { m_connected = false; }, "The connection was lost while sending: ");
-    interruptBy([&] { m_service.setPacing([] { return false; }); },
-                "The connection was lost while sending: ");
     interruptBy([&] { QFile::resize(source, 70'000); }, "Cannot read local file: ");
 
     m_connected = false;
     m_service.requestListing(target);
     EXPECT_EQ(errors().last(), u"The request could not be sent: "_s + target);
+}
+
+TEST_F(FileTransferServiceTest, AnUploadWaitsForRoomWhileTheProgramRunsAndCanBeCancelled) {
+    const QByteArray data = content(3'000'000); // more than is sent in one go
+    const QString source = createFile(u"source"_s, data);
+    const QString target = path(u"target"_s);
+    bool room = false;
+    m_service.setRoom([&room] { return room; });
+    m_service.uploadFile(source, target);
+    QTest::qWait(20);
+    EXPECT_EQ(m_uploadProgress.count(), 0);
+    room = true;
+    ASSERT_TRUE(m_uploaded.wait());
+    EXPECT_TRUE(contentOf(target) == data);
+
+    QFile::remove(target);
+    m_service.uploadFile(source, target);
+    EXPECT_EQ(m_uploaded.count(), 1) << "it has only begun";
+    m_service.cancelUpload();
+    m_uploadProgress.clear();
+    QTest::qWait(20);
+    EXPECT_EQ(m_uploadProgress.count(), 0);
+    m_service.uploadFile(source, path(u"other"_s));
+    ASSERT_TRUE(m_uploaded.wait()) << "the next one runs";
+    EXPECT_FALSE(QFile::exists(target));
+    EXPECT_EQ(errors(), QStringList());
 }
 
 TEST_F(FileTransferServiceTest, OneUploadRunsAtATimeAndSendsWhatTheFileHeldAtItsStart) {

@@ -235,7 +235,7 @@ TEST_F(FileManagerDialogTest, UploadsUnderVisibleProgress) {
     const auto* const bar = new PaintCounter(m_dialog->findChild<QProgressBar*>());
     QStringList seen;
     int barBefore = bar->count;
-    m_service->setPacing([&] { // inside the upload, without an event loop
+    m_service->setRoom([&] { // inside the upload, without an event loop
         if (bar->count > barBefore) {
             seen << status();
         }
@@ -319,7 +319,7 @@ TEST_F(FileManagerDialogTest, MayDieInTheMiddleOfAnything) {
     EXPECT_FALSE(QFile::exists(m_local + u"/ü &amp; b.bin"_s));
 
     m_dialog = std::make_unique<FileManagerDialog>(m_service.get());
-    m_service->setPacing([this] {
+    m_service->setRoom([this] {
         m_dialog.reset();
         return true;
     });
