@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demonstration need and that are
-# missing, and nothing else. Usage: scripts/bootstrap.sh [checks|package]
+# missing, and nothing else. Usage: scripts/bootstrap.sh [checks|compare|package]
 #
 # The cross-compiler and Wine are installed only where the Windows libraries are. "checks" adds what
-# checks the sources and makes bare systems, "package" what makes and checks a Debian package.
+# checks the sources and makes bare systems, "compare" another program to measure beside, "package"
+# what makes and checks a Debian package.
 set -euo pipefail
 
 packages=(
@@ -27,10 +28,11 @@ if [ -d "${CORVANE_WIN64_PREFIX:-/opt/corvane-win64}" ]; then
 fi
 case ${1:-} in
 '') ;;
+compare) packages+=(iproute2 tigervnc-scraping-server tigervnc-viewer) ;;
 package) packages+=(appstream desktop-file-utils dpkg-dev lintian) ;;
 checks) packages+=(clang-tidy debian-archive-keyring debootstrap shellcheck) ;;
 *)
-    echo "usage: scripts/bootstrap.sh [checks|package]" >&2
+    echo "usage: scripts/bootstrap.sh [checks|compare|package]" >&2
     exit 2
     ;;
 esac

@@ -41,6 +41,17 @@ void ClientProcess::presetCredentials(const QString& clientId, const QString& se
     m_host->presetSetting(QStringLiteral("auth/deviceSecret"), secret);
 }
 
+void ClientProcess::presetDisplayMode(int mode) {
+    m_host->presetSetting(QStringLiteral("display/mode"), QString::number(mode));
+}
+
+void ClientProcess::beginWith(const std::function<void()>& step) {
+    m_process.setChildProcessModifier([step] {
+        test::endWithParent();
+        step();
+    });
+}
+
 bool ClientProcess::start(const QStringList& arguments) {
     QFile::remove(m_host->logPath());
     m_host->prepare(m_process, Program::Client,

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 namespace corvane::harness {
@@ -26,6 +27,13 @@ public:
     /// Makes the first start log in as this device instead of registering. Programs on one machine
     /// share its fingerprint and would otherwise be the same device.
     void presetCredentials(const QString& clientId, const QString& secret);
+
+    /// Stores the number of the display mode before the first start.
+    void presetDisplayMode(int mode);
+
+    /// Makes the client's process begin with `step`, such as moving into a network namespace. It
+    /// runs between fork and exec, so it may only make system calls.
+    void beginWith(const std::function<void()>& step);
 
     bool start(const QStringList& arguments = {});
 

@@ -10,6 +10,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvane::harness {
 
@@ -61,14 +62,15 @@ bool LiveSession::startServer() {
     const QUrl url(QString::fromLatin1(deployment::kServerUrl));
     devserver::DevServerConfig config;
     config.address = QHostAddress(url.host());
+    config.loopbackOnly = config.address.isLoopback();
     config.httpPort = static_cast<quint16>(url.port());
     QString error;
     return m_server.start(config, &error) || fail(QStringLiteral("devserver: ") + error);
 }
 
 bool LiveSession::startUsers() {
-    const auto startServer = [](std::unique_ptr<test::XvfbServer>& server) {
-        server = std::make_unique<test::XvfbServer>();
+    const auto startServer = [this](std::unique_ptr<test::XvfbServer>& server) {
+        server = std::make_unique<test::XvfbServer>(m_options.screen);
         return server->display();
     };
     const QString targetName = startServer(m_targetScreenServer);
@@ -79,6 +81,15 @@ bool LiveSession::startUsers() {
     m_target = std::make_unique<ClientProcess>(targetName, m_options.target);
     m_viewer = std::make_unique<ClientProcess>(viewerName, m_options.viewer);
     m_target->presetPassword(m_targetPassword);
+    for (const auto& [client, place] : {std::pair{m_target.get(), &m_options.targetPlace},
+                                        std::pair{m_viewer.get(), &m_options.viewerPlace}}) {
+        if (m_options.displayMode) {
+            client->presetDisplayMode(*m_options.displayMode);
+        }
+        if (*place) {
+            client->beginWith(*place);
+        }
+    }
     const devserver::Device viewerDevice = m_server.registerDevice();
     m_viewer->presetCredentials(viewerDevice.clientId, viewerDevice.secret);
     return (m_targetDisplay->isConnected() && m_viewerDisplay->isConnected()) ||
@@ -86,6 +97,9 @@ bool LiveSession::startUsers() {
 }
 
 bool LiveSession::startDesktop() {
+    if (!m_options.showsDesktop) {
+        return true;
+    }
     QObject::connect(&m_desktop, &QProcess::readyReadStandardOutput, &m_desktop,
                      [this] { readDesktop(); });
     m_desktop.setProcessChannelMode(QProcess::ForwardedErrorChannel);

@@ -9,9 +9,11 @@
 #include <QImage>
 #include <QProcess>
 #include <QRect>
+#include <QSize>
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -31,6 +33,12 @@ public:
     struct Options {
         QString viewerDisplay; ///< empty: a separate virtual display
         bool stillDesktop = false;
+        bool showsDesktop = true; ///< false: what the shared screen shows is up to the caller
+        QSize screen{1280, 720};  ///< of the virtual displays
+        std::optional<int> displayMode{};
+        /// What the clients' processes begin with; see ClientProcess::beginWith. May be empty.
+        std::function<void()> targetPlace{};
+        std::function<void()> viewerPlace{};
         Platform target = Platform::Linux;
         Platform viewer = Platform::Linux;
     };
@@ -71,6 +79,9 @@ public:
     /// only while the desktop stands still.
     double pictureFidelity();
 
+    /// Where the viewer's display shows an area of the shared screen.
+    QRect onViewer(const QRect& targetArea);
+
     /// The remote picture as shown on the viewer's display.
     QImage viewerPicture();
 
@@ -99,7 +110,6 @@ private:
     bool fail(const QString& error);
     void readDesktop();
     std::optional<QRect> pictureRectangle();
-    QRect onViewer(const QRect& targetArea);
 
     const Options m_options;
     QString m_error;

@@ -62,21 +62,39 @@ QString XDisplay::title(xcb_window_t window) const {
 }
 
 std::optional<QRect> XDisplay::findWindow(const QString& title) const {
-    return isConnected() ? findWindow(m_connection->root(), title) : std::nullopt;
+    const xcb_window_t window =
+        isConnected() ? searchWindow(m_connection->root(), title) : xcb_window_t{XCB_WINDOW_NONE};
+    return window != XCB_WINDOW_NONE ? rectangle(window) : std::nullopt;
 }
 
-std::optional<QRect> XDisplay::findWindow(xcb_window_t parent, const QString& wanted) const {
+bool XDisplay::fillScreen(const QString& title) {
+    const xcb_window_t window =
+        isConnected() ? searchWindow(m_connection->root(), title) : xcb_window_t{XCB_WINDOW_NONE};
+    if (window == XCB_WINDOW_NONE) {
+        return false;
+    }
+    const uint32_t place[] = {0, 0, static_cast<uint32_t>(size().width()),
+                              static_cast<uint32_t>(size().height())};
+    xcb_configure_window(m_connection->handle(), window,
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
+                             XCB_CONFIG_WINDOW_HEIGHT,
+                         place);
+    xcb_set_input_focus(m_connection->handle(), XCB_INPUT_FOCUS_POINTER_ROOT, window,
+                        XCB_CURRENT_TIME);
+    xcb_flush(m_connection->handle());
+    return true;
+}
+
+xcb_window_t XDisplay::searchWindow(xcb_window_t parent, const QString& wanted) const {
     for (const xcb_window_t window : visibleChildren(parent)) {
-        if (title(window).startsWith(wanted)) {
-            if (const auto found = rectangle(window)) {
-                return found;
-            }
+        if (title(window).startsWith(wanted) && rectangle(window)) {
+            return window;
         }
-        if (const auto found = findWindow(window, wanted)) {
+        if (const xcb_window_t found = searchWindow(window, wanted); found != XCB_WINDOW_NONE) {
             return found;
         }
     }
-    return std::nullopt;
+    return XCB_WINDOW_NONE;
 }
 
 std::vector<xcb_window_t> XDisplay::visibleChildren(xcb_window_t parent) const {
@@ -180,6 +198,13 @@ void XDisplay::pressKey(xcb_keysym_t keysym, const std::vector<xcb_keysym_t>& he
     }
     for (auto code = down.rbegin(); code != down.rend(); ++code) {
         fake(XCB_KEY_RELEASE, *code, {}, kKeyDelayMs);
+    }
+}
+
+void XDisplay::tapKey(xcb_keysym_t keysym) {
+    if (const Key key = findKey(keysym); key.code != 0) {
+        fake(XCB_KEY_PRESS, key.code);
+        fake(XCB_KEY_RELEASE, key.code);
     }
 }
 

@@ -33,6 +33,10 @@ public:
     /// The area of the first visible window whose title starts with `title`.
     std::optional<QRect> findWindow(const QString& title) const;
 
+    /// Does for such a window what a window manager would: lets it fill the screen and gives it the
+    /// keyboard. False when there is none.
+    bool fillScreen(const QString& title);
+
     /// The area of the topmost menu or similar window that touches `area`: one shown in front of
     /// all others without the window manager's help.
     std::optional<QRect> findPopup(const QRect& area) const;
@@ -49,6 +53,9 @@ public:
     /// Presses and releases the key with an X keysym while holding `held` down.
     void pressKey(xcb_keysym_t keysym, const std::vector<xcb_keysym_t>& held = {});
 
+    /// Presses and releases an unshifted key without the pauses of a person's fingers.
+    void tapKey(xcb_keysym_t keysym);
+
 private:
     struct Key {
         xcb_keycode_t code = 0;
@@ -58,7 +65,7 @@ private:
     Key findKey(xcb_keysym_t keysym) const;
     void fake(uint8_t type, uint8_t detail, QPoint position = {}, uint32_t delayMs = 0);
     QString title(xcb_window_t window) const;
-    std::optional<QRect> findWindow(xcb_window_t parent, const QString& title) const;
+    xcb_window_t searchWindow(xcb_window_t parent, const QString& title) const;
     std::vector<xcb_window_t> visibleChildren(xcb_window_t parent) const;
     std::optional<QRect> rectangle(xcb_window_t window) const;
 

@@ -10,7 +10,7 @@
 namespace corvane::test {
 
 /// What happens to the packets that two peers send each other. Packets to and from the server are
-/// subject only to the rate limit.
+/// subject only to the rate limit; those to a server that is attached third are delayed, too.
 struct Conditions {
     int udpLossPercent = 0;             ///< at random, each way; 100 blocks the path
     std::chrono::milliseconds delay{0}; ///< each way
@@ -23,11 +23,12 @@ struct Conditions {
 class TestNetwork {
 public:
     static constexpr auto kServerAddress = "10.77.0.1";
+    static constexpr auto kThirdAddress = "10.77.3.2";
 
     explicit TestNetwork(const Conditions& conditions);
 
-    /// Connects the process, which has a namespace of its own, to the network. The first two are
-    /// the peers.
+    /// Connects the process, which has a namespace of its own, to the network, as 10.77.<number>.2.
+    /// The first two are the peers; a third can be the server, at `kThirdAddress`.
     void attach(qint64 process);
 
     /// What this machine lacks to create such a network; empty when nothing.
