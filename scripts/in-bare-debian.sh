@@ -40,6 +40,7 @@ mirror() {
     [ -n "$found" ] || fail "this machine's apt names no Debian mirror"
     echo "${found%/}"
 }
+mirror=$(mirror)
 
 cache=$PWD/build/bare
 base=$cache/$suite.tar
@@ -49,8 +50,8 @@ mkdir -p "$packages/partial" "$cache/exchange"
 if [ ! -f "$base" ]; then
     echo "in-bare-debian: making a minimal Debian ($suite)"
     new=$(mktemp -d "$cache/new.XXXXXX")
-    trap 'rm -rf -- "$new"' EXIT
-    debootstrap --variant=minbase "$suite" "$new/root" "$(mirror)" >"$new/log" 2>&1 || {
+    trap 'rm -rf --one-file-system -- "$new"' EXIT
+    debootstrap --variant=minbase "$suite" "$new/root" "$mirror" >"$new/log" 2>&1 || {
         tail -n 5 "$new/log" >&2
         fail "debootstrap failed"
     }
@@ -72,7 +73,7 @@ done | tar --create --null --files-from=- | tar --extract --directory "$root$tre
 
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
 rm -f "$root"/etc/apt/sources.list "$root"/etc/apt/sources.list.d/*
-echo "deb $(mirror) $suite main" >"$root/etc/apt/sources.list"
+echo "deb $mirror $suite main" >"$root/etc/apt/sources.list"
 {
     apt-config dump | grep -E '^Acquire::(http|https)::Proxy ' || true
     echo 'Binary::apt::APT::Keep-Downloaded-Packages "true";'
