@@ -69,7 +69,8 @@ shared clipboard and file transfer.")
     set(CPACK_DEBIAN_PACKAGE_SECTION net)
     set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://corvane.example")
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-    set(CPACK_DEBIAN_PACKAGE_DEPENDS "unzip")
+    # A release talks HTTPS and WSS only; Qt does not depend on the certificates that it looks for.
+    set(CPACK_DEBIAN_PACKAGE_DEPENDS "ca-certificates, unzip")
     # OpenGL is loaded at run time; without it the viewer has no picture.
     set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri, fonts-dejavu-core | fonts-liberation")
     set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)

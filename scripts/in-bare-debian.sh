@@ -40,6 +40,7 @@ mirror() {
     [ -n "$found" ] || fail "this machine's apt names no Debian mirror"
     echo "${found%/}"
 }
+mirror=$(mirror)
 
 cache=$PWD/build/bare
 base=$cache/$suite.tar
@@ -52,7 +53,8 @@ if [ ! -f "$base" ]; then
     # What debootstrap mounts may still be there when it fails.
     trap 'rm -rf --one-file-system -- "$new"' EXIT
     # Without Debian's keys it would only warn and run, as root, whatever the mirror sends.
-    debootstrap --force-check-gpg --variant=minbase "$suite" "$new/root" "$(mirror)" >"$new/log" 2>&1 || {
+    debootstrap --force-check-gpg --variant=minbase "$suite" "$new/root" "$mirror" \
+        >"$new/log" 2>&1 || {
         tail -n 5 "$new/log" >&2
         fail "debootstrap failed"
     }
@@ -74,7 +76,7 @@ done | tar --create --null --files-from=- | tar --extract --directory "$root$tre
 
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
 rm -f "$root"/etc/apt/sources.list "$root"/etc/apt/sources.list.d/*
-echo "deb $(mirror) $suite main" >"$root/etc/apt/sources.list"
+echo "deb $mirror $suite main" >"$root/etc/apt/sources.list"
 {
     apt-config dump | grep -E '^Acquire::(http|https)::Proxy ' || true
     echo 'Binary::apt::APT::Keep-Downloaded-Packages "true";'

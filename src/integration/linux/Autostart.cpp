@@ -34,6 +34,11 @@ QByteArray execValue(const QString& program) {
     return '"' + quoted + '"';
 }
 
+/// The value of a TryExec key, which is a plain path: only what a string of the format escapes.
+QByteArray tryExecValue(const QString& program) {
+    return program.toUtf8().replace('\\', "\\\\");
+}
+
 } // namespace
 
 QString autostartEntryPath() {
@@ -46,11 +51,14 @@ bool installAutostart() {
     if (!entry.open(QIODevice::WriteOnly)) {
         return false;
     }
+    const QString program = QCoreApplication::applicationFilePath();
+    // The entry outlives the program when a package is removed; TryExec has the desktop pass over
+    // it from then on.
     entry.write("[Desktop Entry]\n"
                 "Type=Application\n"
                 "Name=Corvane\n"
-                "Exec=" +
-                execValue(QCoreApplication::applicationFilePath()) + "\n");
+                "TryExec=" +
+                tryExecValue(program) + "\nExec=" + execValue(program) + "\n");
     return entry.commit();
 }
 

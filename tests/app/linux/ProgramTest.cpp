@@ -88,7 +88,10 @@ TEST_F(ProgramTest, StartsWithTheDesktopFromAnyPath) {
     ASSERT_TRUE(m_child.waitForFinished(30'000));
     const QString exec =
         u"Exec=\""_s + m_home.path() + uR"(/a \\"b\\" \\$c \\`d\\` 100%% e\\\\f ü")"_s;
-    EXPECT_TRUE(QString::fromUtf8(test::contentOf(entry)).split(u'\n').contains(exec));
+    const QString tryExec = u"TryExec="_s + m_home.path() + uR"(/a "b" $c `d` 100% e\\f ü)"_s;
+    const QStringList lines = QString::fromUtf8(test::contentOf(entry)).split(u'\n');
+    EXPECT_TRUE(lines.contains(exec));
+    EXPECT_TRUE(lines.contains(tryExec));
 }
 
 TEST_F(ProgramTest, StartsWithTheDesktopAsChosen) {
