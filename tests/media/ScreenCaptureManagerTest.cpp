@@ -141,12 +141,12 @@ TEST_F(ScreenCaptureManagerTest, AChangeIsCapturedAtOnceAndTheFasterPaceCountsAt
         EXPECT_TRUE(waitForFrames(count));
         return std::chrono::steady_clock::now() - begin;
     };
-    EXPECT_LT(timeToFrame(1), 300ms) << "nothing was shown before";
+    EXPECT_LT(timeToFrame(1), 800ms) << "nothing was shown before";
     changed = true;
     std::this_thread::sleep_for(100ms);
     EXPECT_EQ(manager->framesDelivered(), 1U) << "the pace holds";
     manager->setPace(30);
-    EXPECT_LT(timeToFrame(2), 400ms);
+    EXPECT_LT(timeToFrame(2), 800ms);
 }
 
 TEST_F(ScreenCaptureManagerTest, LimitsTheRateStopsAtOnceAndRunsAgain) {
