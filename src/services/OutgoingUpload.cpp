@@ -54,6 +54,7 @@ void OutgoingUpload::start() {
 void OutgoingUpload::stop() {
     m_ended = true;
     m_timer.stop();
+    m_file.close();
 }
 
 void OutgoingUpload::advance() {

@@ -261,7 +261,10 @@ TEST_F(FileTransferServiceTest, BrokenOrUncalledForMessagesCostALogLineEach) {
 }
 
 TEST_F(FileTransferServiceTest, AFileNameOfThePeersForgesNoLogLine) {
-    const QString source = createFile(u"two\nlines"_s, "x");
+    const QString source = path(u"two\nlines"_s);
+    if (!QFile(source).open(QIODevice::WriteOnly)) {
+        GTEST_SKIP() << "no file can have such a name here";
+    }
     m_service.requestListing(source);
     m_service.requestDownload(source, path(u"down\nloaded"_s));
     m_service.uploadFile(source, path(u"up\nloaded"_s));
