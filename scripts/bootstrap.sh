@@ -61,10 +61,13 @@ as_root=(env DEBIAN_FRONTEND=noninteractive)
 if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || fail "needs root or sudo to install ${missing[*]}"
     as_root=(sudo "${as_root[@]}")
+    "${as_root[@]}" true || fail "needs root or sudo to install ${missing[*]}"
 fi
 echo "Installing: ${missing[*]}"
-# An earlier run may have been interrupted half-way.
-"${as_root[@]}" dpkg --configure -a >/dev/null ||
+# Waits for another installation to end, which dpkg by itself does not: a machine that has just
+# started may be updating itself. Fails where an earlier run was interrupted half-way.
+"${as_root[@]}" apt-get check -qq -o DPkg::Lock::Timeout=120 &>/dev/null ||
+    "${as_root[@]}" dpkg --configure -a >/dev/null ||
     fail "packages of an earlier installation cannot be configured; see above"
 "${as_root[@]}" apt-get update -qq -o APT::Update::Error-Mode=any -o DPkg::Lock::Timeout=120 ||
     fail "the package lists cannot be fetched; see above, and run this again when they can"

@@ -62,6 +62,8 @@ int runClient(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("CorvaneClient"));
     QApplication::setOrganizationName(QStringLiteral("Corvane"));
+    // By this a Wayland desktop finds the name and the icon of the windows.
+    QApplication::setDesktopFileName(QStringLiteral("example.corvane.Client"));
     QApplication::setApplicationVersion(QString::fromLatin1(deployment::kApplicationVersion));
 
     const SingleInstanceGuard guard;

@@ -143,7 +143,7 @@ TEST_F(PeerLoopbackTest, MessagesOfAnySizeArriveWholeAndInOrderBothWays) {
 }
 
 TEST_F(PeerLoopbackTest, FramesArriveWhole) {
-    for (const size_t size : {1, 1200, 100'000, 2'000'000}) {
+    for (const size_t size : {1U, 1200U, 100'000U, 2'000'000U}) {
         const QByteArray frame = randomBytes(size);
         // Nothing is sent twice on this channel, and even loopback may drop a datagram.
         succeeds([&] {

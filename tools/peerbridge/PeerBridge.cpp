@@ -28,28 +28,29 @@ QByteArray pattern(int size, int seed) {
 } // namespace
 
 PeerBridge::PeerBridge() {
-    connect(&m_transport, &IPeerTransport::localDescriptionReady, this,
-            [this](const QString& type, const QString& sdp) {
-                Q_EMIT event({{u"event"_s, u"description"_s}, {u"type"_s, type}, {u"sdp"_s, sdp}});
-            });
+    connect(
+        &m_transport, &IPeerTransport::localDescriptionReady, this,
+        [this](const QString& type, const QString& sdp) {
+            Q_EMIT happened({{u"event"_s, u"description"_s}, {u"type"_s, type}, {u"sdp"_s, sdp}});
+        });
     connect(&m_transport, &IPeerTransport::localCandidateReady, this,
             [this](const QString& candidate, const QString& mid) {
-                Q_EMIT event(
+                Q_EMIT happened(
                     {{u"event"_s, u"candidate"_s}, {u"candidate"_s, candidate}, {u"mid"_s, mid}});
             });
     connect(&m_transport, &ITransport::connected, this, [this] {
-        Q_EMIT event({{u"event"_s, u"connected"_s},
-                      {u"limit"_s, static_cast<int>(P2PTransport::kMaxMessageSize)}});
+        Q_EMIT happened({{u"event"_s, u"connected"_s},
+                         {u"limit"_s, static_cast<int>(P2PTransport::kMaxMessageSize)}});
     });
     connect(&m_transport, &ITransport::disconnected, this, [this] {
-        Q_EMIT event({{u"event"_s, u"disconnected"_s}});
+        Q_EMIT happened({{u"event"_s, u"disconnected"_s}});
     });
     connect(&m_transport, &ITransport::dataReceived, this,
             [this](ChannelType channel, const QByteArray& bytes) {
-                Q_EMIT event({{u"event"_s, u"data"_s},
-                              {u"channel"_s, static_cast<int>(channel)},
-                              {u"size"_s, bytes.size()},
-                              {u"sum"_s, checksum(bytes)}});
+                Q_EMIT happened({{u"event"_s, u"data"_s},
+                                 {u"channel"_s, static_cast<int>(channel)},
+                                 {u"size"_s, bytes.size()},
+                                 {u"sum"_s, checksum(bytes)}});
             });
 }
 
@@ -74,7 +75,7 @@ void PeerBridge::send(const QJsonObject& command) {
     const bool sent = m_transport.send(static_cast<ChannelType>(command[u"channel"].toInt()),
                                        reinterpret_cast<const uint8_t*>(bytes.constData()),
                                        static_cast<size_t>(bytes.size()));
-    Q_EMIT event({{u"event"_s, u"sent"_s}, {u"ok"_s, sent}, {u"sum"_s, checksum(bytes)}});
+    Q_EMIT happened({{u"event"_s, u"sent"_s}, {u"ok"_s, sent}, {u"sum"_s, checksum(bytes)}});
 }
 
 } // namespace corvane

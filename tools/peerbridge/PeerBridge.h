@@ -23,7 +23,7 @@ public Q_SLOTS:
     void obey(const QJsonObject& command);
 
 Q_SIGNALS:
-    void event(const QJsonObject& event);
+    void happened(const QJsonObject& event);
 
 private:
     void send(const QJsonObject& command);

@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
     spdlog::set_level(spdlog::level::off);
 
     corvane::PeerBridge bridge;
-    QObject::connect(&bridge, &corvane::PeerBridge::event, [](const QJsonObject& event) {
+    QObject::connect(&bridge, &corvane::PeerBridge::happened, [](const QJsonObject& event) {
         std::puts(QJsonDocument(event).toJson(QJsonDocument::Compact).constData());
         std::fflush(stdout);
     });

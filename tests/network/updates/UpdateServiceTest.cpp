@@ -58,7 +58,8 @@ TEST_F(UpdateServiceTest, OnlyANewerVersionIsAnnounced) {
         test::SignalLines lines(service, &UpdateService::updateAvailable);
         m_log.clear();
         service.checkForUpdates();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return m_log.lines().back().starts_with(lastLine); }));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&, &last = lastLine] { return m_log.lines().back().starts_with(last); }));
         EXPECT_EQ(lines.isEmpty() ? "" : lines.next(), announcement);
         EXPECT_EQ(service.latestVersion().isEmpty(), announcement.empty());
     }
